@@ -1,0 +1,30 @@
+# Two commands: `make run` shows the library at work on a simulated board, `make test` checks it.
+# Both install what is missing, build quietly and go. BUILD picks another build directory.
+BUILD ?= build
+CMAKE_FLAGS ?=
+NINJA = ninja -C $(BUILD) --quiet
+
+.PHONY: run test bench build configure packages format clean
+
+run: build
+	@$(BUILD)/bin/tarn_tour
+
+test: build
+	@ctest --test-dir $(BUILD) --output-on-failure --no-tests=error --parallel 2 --timeout 600
+	@$(BUILD)/bin/wire_test --table
+
+build: configure
+	@echo "building in $(BUILD)"
+	@NINJA_STATUS='[%f/%t] ' ninja -C $(BUILD) $(if $(CI),--quiet,)
+
+configure: packages
+	@[ -f $(BUILD)/build.ninja ] || { echo "configuring $(BUILD)"; cmake -S . -B $(BUILD) -G Ninja $(CMAKE_FLAGS) >$(BUILD).log 2>&1 || { cat $(BUILD).log >&2; exit 1; }; rm -f $(BUILD).log; }
+
+packages:
+	@scripts/install-packages
+
+format:
+	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
+
+clean:
+	@rm -rf $(BUILD)
