@@ -1,0 +1,90 @@
+#pragma once
+
+#include <binder/BpBinder.h>
+#include <binder/Parcel.h>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace android::host {
+
+/** What a parcel holds, taken apart for the way to another process. */
+struct Payload {
+    struct Object {
+        size_t offset;
+        sp<IBinder> binder;
+    };
+
+    std::vector<uint8_t> bytes;   // zero where an object lies
+    std::vector<Object> objects;  // ordered by offset
+};
+
+/** One transaction that another process sent to an object of this one. */
+class IncomingCall {
+  public:
+    virtual ~IncomingCall() = default;
+
+    /** Sends the reply; called once, unless the call is one-way, on the thread that served it. */
+    virtual void answer(status_t status, Payload reply) = 0;
+
+    sp<BBinder> target;
+    uint32_t code = 0;
+    uint32_t flags = 0;
+    Payload request;
+    pid_t callingPid = 0;
+    uid_t callingUid = 0;
+};
+
+/**
+ * Carries transactions between processes. Everything else in this folder speaks of remote objects
+ * by handle only: a positive number of the carrier's choice, the same one for the same object for
+ * as long as a proxy of it lives.
+ *
+ * Every function may be called from any thread at any time.
+ */
+class Carrier {
+  public:
+    virtual ~Carrier() = default;
+
+    /**
+     * Sends a transaction to a remote object and waits for its reply, unless flags hold
+     * FLAG_ONEWAY; then reply is null. DEAD_OBJECT if the object's process is gone.
+     */
+    virtual status_t transact(int32_t handle, uint32_t code, uint32_t flags, Payload request,
+                              Payload* reply) = 0;
+
+    /**
+     * Waits for the next incoming call; null ends the calling pool thread. One-way calls to one
+     * object come out in the order they were sent, the next not before the one ahead is destroyed.
+     */
+    virtual std::unique_ptr<IncomingCall> receive() = 0;
+
+    /** Counts the proxies of a handle: the remote object is kept while there is one. */
+    virtual void acquire(int32_t handle) = 0;
+    virtual void release(int32_t handle) = 0;
+
+    /**
+     * Asks for sendObituary() on the proxy, on a thread of the carrier's, when the process dies or
+     * if it is dead already. Both are called with the proxy's lock held: they only take note.
+     */
+    virtual void watchDeath(int32_t handle, const wp<BpBinder>& proxy) = 0;
+    virtual void unwatchDeath(int32_t handle) = 0;
+
+    /** The services of all processes by name. */
+    virtual status_t publish(const String16& name, const sp<IBinder>& service) = 0;
+    virtual void withdraw(const String16& name) = 0;
+    virtual sp<IBinder> find(const String16& name) = 0;
+    virtual std::vector<String16> list() = 0;
+};
+
+/** The carrier in use; null where everything stays within this process. */
+Carrier* carrier();
+
+/** Sets the carrier, which stays its giver's and must outlive its use; null takes it out again. */
+void setCarrier(Carrier* newCarrier);
+
+/** Puts a parcel together from what came in; BAD_VALUE if an object does not fit in the bytes. */
+status_t assemble(const Payload& payload, Parcel* out);
+
+}  // namespace android::host

@@ -1,0 +1,256 @@
+#define LOG_TAG "Parcel"
+
+// A parcel's memory: allocation, size, position and whole contents.
+
+#include <binder/Parcel.h>
+#include <log/log.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <cstring>
+
+#include "ParcelLayout.h"
+#include "ParcelObjectTable.h"
+
+namespace android {
+
+using parcel::kMaxSize;
+using parcel::ObjectTable;
+
+namespace {
+
+constexpr size_t kSmallestAllocation = 128;
+
+// From here on calloc is cheaper than clearing: it hands out pages that the kernel has cleared.
+constexpr size_t kLargeAllocation = 16 * 1024;
+
+std::atomic<size_t> gAllocatedBytes{0};
+std::atomic<size_t> gAllocations{0};
+
+// A block whose first `filled` bytes the caller overwrites at once. The others are cleared: what
+// the heap held before never shows in a parcel.
+uint8_t* allocate(size_t capacity, size_t filled) {
+    if (capacity - filled >= kLargeAllocation) return static_cast<uint8_t*>(calloc(capacity, 1));
+    uint8_t* block = static_cast<uint8_t*>(malloc(capacity));
+    if (block != nullptr) memset(block + filled, 0, capacity - filled);
+    return block;
+}
+
+void countAllocation(size_t capacity) {
+    gAllocatedBytes.fetch_add(capacity, std::memory_order_relaxed);
+    gAllocations.fetch_add(1, std::memory_order_relaxed);
+}
+
+void countRelease(size_t capacity) {
+    gAllocatedBytes.fetch_sub(capacity, std::memory_order_relaxed);
+    gAllocations.fetch_sub(1, std::memory_order_relaxed);
+}
+
+}  // namespace
+
+Parcel::Parcel() {
+    initState();
+}
+
+Parcel::~Parcel() {
+    freeDataNoInit();
+}
+
+void Parcel::initState() {
+    mError = NO_ERROR;
+    mData = nullptr;
+    mDataSize = 0;
+    mDataCapacity = 0;
+    mDataPos = 0;
+    mObjects = nullptr;
+    mObjectsSize = 0;
+    mObjectsCapacity = 0;
+    mNextObjectHint = 0;
+    mObjectsSorted = true;
+    mRequestHeaderPresent = false;
+    mWorkSourceRequestHeaderPosition = 0;
+    mFdsKnown = true;
+    mHasFds = false;
+    mAllowFds = true;
+    mOwner = nullptr;
+    mOwnerCookie = nullptr;
+    mOpenAshmemSize = 0;
+}
+
+void Parcel::freeData() {
+    freeDataNoInit();
+    initState();
+}
+
+void Parcel::freeDataNoInit() {
+    if (mObjects != nullptr) releaseObjects();
+    if (mData != nullptr) {
+        countRelease(mDataCapacity);
+        free(mData);
+    }
+}
+
+void Parcel::releaseObjects() {
+    ObjectTable(mObjects, mObjectsSize, mObjectsCapacity).clear();
+}
+
+const uint8_t* Parcel::data() const {
+    return mData;
+}
+
+size_t Parcel::dataSize() const {
+    return std::max(mDataSize, mDataPos);
+}
+
+size_t Parcel::dataAvail() const {
+    return dataSize() - mDataPos;
+}
+
+size_t Parcel::dataPosition() const {
+    return mDataPos;
+}
+
+size_t Parcel::dataCapacity() const {
+    return mDataCapacity;
+}
+
+status_t Parcel::errorCheck() const {
+    return mError;
+}
+
+void Parcel::setError(status_t err) {
+    mError = err;
+}
+
+void Parcel::setDataPosition(size_t pos) const {
+    LOG_ALWAYS_FATAL_IF(pos > kMaxSize, "position too big: %zu", pos);
+    mDataPos = pos;
+}
+
+status_t Parcel::setDataSize(size_t size) {
+    const status_t status = continueWrite(size);
+    if (status == NO_ERROR) mDataSize = size;
+    return status;
+}
+
+status_t Parcel::setDataCapacity(size_t size) {
+    if (size > kMaxSize) return BAD_VALUE;
+    return size > mDataCapacity ? continueWrite(size) : NO_ERROR;
+}
+
+status_t Parcel::setData(const uint8_t* buffer, size_t len) {
+    const status_t status = restartWrite(len);
+    if (status != NO_ERROR) return status;
+    if (len > 0) memcpy(mData, buffer, len);
+    mDataSize = len;
+    return NO_ERROR;
+}
+
+status_t Parcel::appendFrom(const Parcel* parcel, size_t offset, size_t len) {
+    if (len == 0) return NO_ERROR;
+    if (len > kMaxSize || offset > parcel->mDataSize || len > parcel->mDataSize - offset) {
+        return BAD_VALUE;
+    }
+    if (mDataSize + len > mDataCapacity || mDataPos + len > mDataCapacity) {
+        const status_t status = growData(len);
+        if (status != NO_ERROR) return status;
+    }
+    const size_t target = mDataPos;
+    // A parcel may append a part of itself.
+    memmove(mData + target, parcel->mData + offset, len);
+    mDataPos += len;
+    mDataSize += len;
+    if (parcel->mObjectsSize == 0) return NO_ERROR;
+    return ObjectTable(mObjects, mObjectsSize, mObjectsCapacity)
+            .putRange(parcel->mObjects, parcel->mObjectsSize, offset, len, target);
+}
+
+int Parcel::compareData(const Parcel& other) {
+    if (dataSize() != other.dataSize()) return dataSize() < other.dataSize() ? -1 : 1;
+    // A position beyond the end counts as size, yet no bytes stand there.
+    const size_t common = std::min(mDataSize, other.mDataSize);
+    const int order = common > 0 ? memcmp(mData, other.mData, common) : 0;
+    if (order != 0 || mDataSize == other.mDataSize) return order;
+    return mDataSize < other.mDataSize ? -1 : 1;
+}
+
+// Counts len bytes at the position as written.
+status_t Parcel::finishWrite(size_t len) {
+    mDataPos += len;
+    mDataSize = std::max(mDataSize, mDataPos);
+    return NO_ERROR;
+}
+
+// Makes room for len bytes at the position.
+status_t Parcel::growData(size_t len) {
+    if (len > kMaxSize || (mData != nullptr && len > kMaxSize - mDataPos)) return BAD_VALUE;
+    const uint64_t wanted = (uint64_t{mDataSize} + len) * 3 / 2;
+    if (wanted > kMaxSize) return BAD_VALUE;
+    if (wanted <= mDataSize) return NO_MEMORY;
+    const status_t status = continueWrite(std::max<size_t>(wanted, kSmallestAllocation));
+    if (status != NO_ERROR) return status;
+    // The position may still lie beyond what the size asked for.
+    return mDataPos + len > mDataCapacity ? continueWrite(mDataPos + len) : NO_ERROR;
+}
+
+// Sets the capacity to at least desired. Keeps what lies within the first desired bytes. The first
+// allocation resets the position; afterwards a position is clamped only where nothing is allocated.
+status_t Parcel::continueWrite(size_t desired) {
+    if (desired > kMaxSize) return BAD_VALUE;
+    if (mObjectsSize > 0 && desired < mDataSize) {
+        ObjectTable(mObjects, mObjectsSize, mObjectsCapacity).truncate(desired);
+    }
+    if (mData != nullptr && desired <= mDataCapacity) {
+        mDataSize = std::min(mDataSize, desired);
+        mDataPos = std::min(mDataPos, desired);
+        return NO_ERROR;
+    }
+    uint8_t* block = allocate(desired, mDataCapacity);
+    if (block == nullptr) return mError = NO_MEMORY;
+    if (mData == nullptr) {
+        mDataSize = mDataPos = 0;
+    } else {
+        memcpy(block, mData, mDataCapacity);
+        countRelease(mDataCapacity);
+        free(mData);
+    }
+    countAllocation(desired);
+    mData = block;
+    mDataCapacity = desired;
+    return NO_ERROR;
+}
+
+// Empties the parcel and sets the capacity to desired; the caller fills all of it.
+status_t Parcel::restartWrite(size_t desired) {
+    if (desired > kMaxSize) return BAD_VALUE;
+    if (mData == nullptr || desired != mDataCapacity) {
+        uint8_t* block = nullptr;
+        // An emptied parcel gives its memory back, a new one gets a block even for nothing.
+        if (desired > 0 || mData == nullptr) {
+            block = allocate(desired, desired);
+            if (block == nullptr) return mError = NO_MEMORY;
+            countAllocation(desired);
+        }
+        if (mData != nullptr) {
+            countRelease(mDataCapacity);
+            free(mData);
+        }
+        mData = block;
+        mDataCapacity = desired;
+    }
+    mDataSize = mDataPos = 0;
+    releaseObjects();
+    mAllowFds = true;
+    return NO_ERROR;
+}
+
+size_t Parcel::getGlobalAllocSize() {
+    return gAllocatedBytes.load(std::memory_order_relaxed);
+}
+
+size_t Parcel::getGlobalAllocCount() {
+    return gAllocations.load(std::memory_order_relaxed);
+}
+
+}  // namespace android
