@@ -1,0 +1,56 @@
+#include "protocol/Catalog.h"
+
+namespace tarn::protocol {
+
+namespace {
+
+std::vector<Command> readRows() {
+    std::vector<Command> rows;
+    const char* controller = nullptr;
+#define CONTROLLER(name) controller = #name;
+#define COMMAND(name, code, request, reply) \
+    rows.push_back(Command{controller, #name, code, request, reply});
+#include "protocol/All.def"
+#undef COMMAND
+#undef CONTROLLER
+    return rows;
+}
+
+std::vector<std::string> readControllers() {
+    return {
+#define CONTROLLER(name) #name,
+#define COMMAND(name, code, request, reply)
+#include "protocol/All.def"
+#undef COMMAND
+#undef CONTROLLER
+    };
+}
+
+}  // namespace
+
+const std::vector<Command>& commands() {
+    static const std::vector<Command> rows = readRows();
+    return rows;
+}
+
+const Command* findCommand(const std::string& name) {
+    for (const Command& row : commands()) {
+        if (name == row.name) return &row;
+    }
+    return nullptr;
+}
+
+std::vector<const Command*> findCommands(int32_t code) {
+    std::vector<const Command*> found;
+    for (const Command& row : commands()) {
+        if (row.code == code) found.push_back(&row);
+    }
+    return found;
+}
+
+const std::vector<std::string>& controllers() {
+    static const std::vector<std::string> names = readControllers();
+    return names;
+}
+
+}  // namespace tarn::protocol
