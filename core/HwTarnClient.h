@@ -1,0 +1,51 @@
+#pragma once
+
+#include <utils/Mutex.h>
+#include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
+
+#include <set>
+
+#include "core/IHwTarnClient.h"
+#include "core/ITarnClientLooper.h"
+#include "core/ITarnLooper.h"
+#include "core/SharedReference.h"
+
+namespace android {
+
+/** The proxy of the hardware service, shared by all clients of the process; empty until found. */
+extern SharedReference<::vendor::zunt::hwtarn::V1_0::IHwTarn> mHwTarnService;
+
+/** The looper of the process's events; the HAL callback posts to it. */
+extern SharedReference<ITarnClientLooper> mITarnClientLooper;
+
+/**
+ * The connection to the hardware service: carries requests, replies and events as HIDL strings
+ * of raw parcel bytes, and keeps the application's listeners.
+ *
+ * A proxy once found is kept, also after its service died: every call then fails until the client
+ * is destroyed and a new one made.
+ */
+class HwTarnClient : public ITarnLooper, public IHwTarnClient {
+  public:
+    HwTarnClient();
+
+    /** Hands one event to every listener. Called on the looper's thread. Always false. */
+    bool handleMsg(unsigned int msgType, void* data, unsigned int size) override;
+
+    /** Drops the proxy and the looper for the whole process. */
+    ~HwTarnClient() override;
+
+    int hw_invoke(const Parcel& data, Parcel* reply) override;
+    int postEvent(int what, const Parcel& data) override;
+    int isTarnReady() override;
+    int createTarnMsgManager() override;
+    int removeTarnMsgManager() override;
+    int registerListener(ITarnListener* listener) override;
+    int unRegisterListener(ITarnListener* listener) override;
+
+  private:
+    std::set<ITarnListener*> mListeners;
+    Mutex mListenerLock;
+};
+
+}  // namespace android

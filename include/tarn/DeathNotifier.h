@@ -1,0 +1,14 @@
+#pragma once
+
+#include <binder/IBinder.h>
+
+namespace android {
+
+/** Drops the process's reference to "tarn.service" when that dies. */
+class DeathNotifier : public IBinder::DeathRecipient {
+  public:
+    /** Called on a binder thread; the next use of the service looks it up again. */
+    void binderDied(const wp<IBinder>& who) override;
+};
+
+}  // namespace android

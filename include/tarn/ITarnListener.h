@@ -1,0 +1,26 @@
+#pragma once
+
+namespace android {
+class Parcel;
+}
+
+/**
+ * An application's listener for the board's events; see ITarnManager::registerListener().
+ * The library does not own it: keep it alive until it has been unregistered and no event is
+ * being delivered.
+ */
+class ITarnListener {
+  public:
+    /**
+     * Called for every event on the library's event thread, one event at a time, with no library
+     * lock held: it may issue commands and register or unregister listeners.
+     *
+     * @param msgType the event's number, service-defined.
+     * @param ext1    always 0.
+     * @param ext2    always 0.
+     * @param data    the event's bytes from position 0; valid during the call only.
+     */
+    virtual void notify(unsigned int msgType, int ext1, int ext2, const android::Parcel* data) = 0;
+
+    virtual ~ITarnListener() = default;
+};

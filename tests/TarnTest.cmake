@@ -1,0 +1,26 @@
+# tarn_test(NAME SOURCES file... LIBRARIES target...): one test program, one ctest entry, with
+# properties of its own and, unless it asks for one, no bus.
+function(tarn_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
+  if(TARN_SANITIZE MATCHES "thread")
+    target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/TsanRefBase.cpp)
+    target_link_libraries(${name} PRIVATE android_utils ${CMAKE_DL_LIBS})
+  endif()
+  # Tests are compiled often and measured never.
+  target_compile_options(${name} PRIVATE -O0)
+  add_test(NAME ${name} COMMAND ${name})
+  tarn_test_environment(${name})
+endfunction()
+
+# tarn_test_environment(NAME...): what a test must not share with its neighbours or the user.
+function(tarn_test_environment)
+  foreach(name IN LISTS ARGN)
+    set_property(TEST ${name} PROPERTY ENVIRONMENT
+                 "TARN_PROPERTIES_FILE=${CMAKE_CURRENT_BINARY_DIR}/${name}.properties"
+                 "DBUS_SESSION_BUS_ADDRESS="
+                 "XDG_RUNTIME_DIR=")
+  endforeach()
+endfunction()
