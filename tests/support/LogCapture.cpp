@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
-#include <regex>
 
 namespace tarn::test {
 
@@ -17,15 +16,22 @@ std::mutex gLock;
 bool gCapturing = false;
 std::vector<LogLine> gLines;
 
+/** What stands between the colour codes, or the whole text where there are none. */
+std::string withoutColour(const std::string& text) {
+    if (text.empty() || text[0] != '\x1b') return text;
+    const size_t start = text.find('m') + 1;
+    return text.substr(start, text.rfind('\x1b') - start);
+}
+
 LogLine takeApart(int priority, const char* tag, const std::string& text) {
-    static const std::regex kShape("(?:\x1b\\[3\\dm)?\\[([^:\\]]*):(-?\\d+)\\] ([^\x1b]*)(?:\x1b\\[0m)?");
     LogLine line{priority, tag, text, "", 0, text};
-    std::smatch match;
-    if (std::regex_match(text, match, kShape)) {
-        line.function = match[1];
-        line.line = atoi(match[2].str().c_str());
-        line.message = match[3];
-    }
+    const std::string plain = withoutColour(text);
+    const size_t colon = plain.find(':');
+    const size_t bracket = plain.find("] ", colon);
+    if (plain.empty() || plain[0] != '[' || bracket == std::string::npos) return line;
+    line.function = plain.substr(1, colon - 1);
+    line.line = atoi(plain.c_str() + colon + 1);
+    line.message = plain.substr(bracket + 2);
     return line;
 }
 

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <json/value.h>
+#include <tarn/ITarnManager.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tarnctl {
+
+/** An argument on the command line that can't be used; says which, why and what is accepted. */
+class BadArgument : public std::invalid_argument {
+  public:
+    using std::invalid_argument::invalid_argument;
+};
+
+/** One argument of a method as the command line takes it. */
+struct Argument {
+    std::string name;
+    std::string type;  // for people: "int", "bool", "text", ...
+};
+
+/** The code of a method that sends no command. */
+constexpr int32_t kNoCommand = 0;
+
+/** A controller's method, callable by name with texts. */
+struct Method {
+    std::string name;
+    int32_t code;  // of the command that it sends, or kNoCommand
+    size_t slot;   // in the interface's virtual table
+    std::vector<Argument> arguments;
+    std::string result;  // type of the result, for people
+
+    /** Throws BadArgument before anything is sent; the count must be arguments.size(). */
+    std::function<Json::Value(android::ITarnManager*, const std::vector<std::string>&)> call;
+};
+
+/** A controller with its methods in slot order. */
+struct Controller {
+    std::string name;       // on the command line: "audio"
+    std::string className;  // "AudioCtrl"
+    std::vector<Method> methods;
+};
+
+/** All controllers in the order of the manager's accessors. */
+const std::vector<Controller>& controllers();
+
+/** The controller of that short or class name, or null. */
+const Controller* findController(const std::string& name);
+
+/** The methods of that name: none, one, or overloads. */
+std::vector<const Method*> findMethods(const Controller& controller, const std::string& name);
+
+}  // namespace tarnctl
