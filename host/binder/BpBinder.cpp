@@ -89,9 +89,12 @@ void BpBinder::onLastStrongRef(const void* /*id*/) {
     if (thread == nullptr) return;
     {
         AutoMutex lock(mLock);
-        if (mObituaries != nullptr) thread->clearDeathNotification(mHandle, this);
-        delete mObituaries;
-        mObituaries = nullptr;
+        // Found again by its handle meanwhile, it may have new recipients.
+        if (mObituaries != nullptr && getStrongCount() == 0) {
+            thread->clearDeathNotification(mHandle, this);
+            delete mObituaries;
+            mObituaries = nullptr;
+        }
     }
     thread->decStrongHandle(mHandle);
 }
