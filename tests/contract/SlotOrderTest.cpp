@@ -1,0 +1,173 @@
+#include <gtest/gtest.h>
+#include <tarn/ITarnListener.h>
+#include <tarn/ITarnManager.h>
+#include <tarn/ITarnPlatform.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "core/HwTarnClient.h"
+#include "tools/tarnctl/registry/Builder.h"
+
+using android::HwTarnClient;
+using android::IHwTarnClient;
+using android::ITarnClientLooper;
+using android::ITarnManager;
+using android::ITarnPlatform;
+using tarnctl::Controller;
+using tarnctl::slotOf;
+
+namespace {
+
+// A destructor takes two slots of a virtual table.
+constexpr size_t kDestructor = 2;
+
+struct Methods {
+    const char* controller;
+    size_t count;
+};
+
+constexpr Methods kMethods[] = {
+        {"SystemCtrl", 76},     {"ProjectId", 24},       {"EasyTouch", 1},
+        {"PropertiesCtrl", 2},  {"SourceCtrl", 9},       {"DeviceCtrl", 20},
+        {"DevicePortCtrl", 3},  {"NetworkCtrl", 32},     {"BluetoothCtrl", 2},
+        {"AtCfgControl", 10},   {"KeyboardCtrl", 2},     {"AvManagerCtrl", 75},
+        {"FwUpgrade", 8},       {"Rs232Ctrl", 9},        {"RGBLedCtrl", 12},
+        {"AudioCtrl", 57},      {"TouchCtrl", 47},       {"TeaDspCtrl", 16},
+        {"AnionCtrl", 1},       {"BacklightCtrl", 11},   {"VgaAdjust", 2},
+        {"CameraCtrl", 9},      {"SensorBoxCtrl", 1},    {"IoBoxCtrl", 2},
+        {"TxbCtrl", 8},         {"GpioCtrl", 6},         {"XbugCtrl", 7},
+        {"RemoteCtrl", 4},      {"PmsCtrl", 4},          {"ExtendDisplayCtrl", 15},
+        {"PQCtrl", 52},         {"PcModuleCtrl", 8},     {"SmartPenModeCtrl", 3},
+        {"MicrophoneCtrl", 3},  {"BurnKeyCtrl", 5},      {"BurnMacCtrl", 4},
+        {"FwTouchCtrl", 3},     {"LandscapeCtrl", 2},    {"BitmotionCtrl", 8},
+        {"SoundScreenAngleCtrl", 2}, {"AiNoiseCtrl", 2}, {"AoipCtrl", 10},
+        {"LightEffectCtrl", 1}, {"UwbCtrl", 18},         {"SuspendCtrl", 4},
+        {"SerialCtrl", 7},      {"DebugCtrl", 2},
+};
+
+/** The slot that the method of that index has in its interface's table. */
+size_t expectedSlot(const std::string& controller, size_t index) {
+    if (controller == "BitmotionCtrl") return kDestructor + index;
+    // The two PIR methods stand behind the destructor.
+    if (controller == "SystemCtrl" && index >= 74) return kDestructor + index;
+    return index;
+}
+
+TEST(Registry, HasEveryControllerInTheOrderOfTheAccessors) {
+    const std::vector<Controller>& controllers = tarnctl::controllers();
+    ASSERT_EQ(controllers.size(), std::size(kMethods));
+    size_t total = 0;
+    for (size_t i = 0; i < controllers.size(); i++) {
+        EXPECT_EQ(controllers[i].className, kMethods[i].controller);
+        EXPECT_EQ(controllers[i].methods.size(), kMethods[i].count) << controllers[i].className;
+        total += controllers[i].methods.size();
+    }
+    EXPECT_EQ(total, 609u);
+}
+
+TEST(Registry, HasEveryMethodInItsSlot) {
+    for (const Controller& controller : tarnctl::controllers()) {
+        for (size_t i = 0; i < controller.methods.size(); i++) {
+            EXPECT_EQ(controller.methods[i].slot, expectedSlot(controller.className, i))
+                    << controller.className << "::" << controller.methods[i].name;
+        }
+    }
+}
+
+TEST(ITarnManager, HasItsOperationsInSlotOrder) {
+    const size_t slots[] = {
+            slotOf(&ITarnManager::invoke),
+            slotOf(&ITarnManager::getSystemCtrl),
+            slotOf(&ITarnManager::getProjectId),
+            slotOf(&ITarnManager::getEasyTouch),
+            slotOf(&ITarnManager::getPropertiesCtrl),
+            slotOf(&ITarnManager::getSourceCtrl),
+            slotOf(&ITarnManager::getDeviceCtrl),
+            slotOf(&ITarnManager::getDevicePortCtrl),
+            slotOf(&ITarnManager::getNetworkCtrl),
+            slotOf(&ITarnManager::getBluetoothCtrl),
+            slotOf(&ITarnManager::getAtCfgControl),
+            slotOf(&ITarnManager::getKeyboardCtrl),
+            slotOf(&ITarnManager::getAvManagerCtrl),
+            slotOf(&ITarnManager::getFwUpgrade),
+            slotOf(&ITarnManager::getRs232Ctrl),
+            slotOf(&ITarnManager::getRGBLedCtrl),
+            slotOf(&ITarnManager::getAudioCtrl),
+            slotOf(&ITarnManager::getTouchCtrl),
+            slotOf(&ITarnManager::getTeaDspCtrl),
+            slotOf(&ITarnManager::getAnionCtrl),
+            slotOf(&ITarnManager::getBacklightCtrl),
+            slotOf(&ITarnManager::getVgaAdjust),
+            slotOf(&ITarnManager::getCameraCtrl),
+            slotOf(&ITarnManager::getSensorBoxCtrl),
+            slotOf(&ITarnManager::getIoBoxCtrl),
+            slotOf(&ITarnManager::getTxbCtrl),
+            slotOf(&ITarnManager::getGpioCtrl),
+            slotOf(&ITarnManager::getXbugCtrl),
+            slotOf(&ITarnManager::getRemoteCtrl),
+            slotOf(&ITarnManager::getPmsCtrl),
+            slotOf(&ITarnManager::getExtendDisplayCtrl),
+            slotOf(&ITarnManager::getPQCtrol),
+            slotOf(&ITarnManager::getPcModuleCtrl),
+            slotOf(&ITarnManager::getSmartPenModeCtrl),
+            slotOf(&ITarnManager::getMicrophoneCtrl),
+            slotOf(&ITarnManager::getBurnKeyCtrl),
+            slotOf(&ITarnManager::getBurnMacCtrl),
+            slotOf(&ITarnManager::getFwTouchCtrl),
+            slotOf(&ITarnManager::getLandscapeCtrl),
+            slotOf(&ITarnManager::getBitmotionCtrl),
+            slotOf(&ITarnManager::getSoundScreenAngleCtrl),
+            slotOf(&ITarnManager::getAiNoiseCtrl),
+            slotOf(&ITarnManager::getAoipCtrl),
+            slotOf(&ITarnManager::getLightEffectCtrl),
+            slotOf(&ITarnManager::getUwbCtrl),
+            slotOf(&ITarnManager::getSuspendCtrl),
+            slotOf(&ITarnManager::getSerialCtrl),
+            slotOf(&ITarnManager::getDebugCtrl),
+            slotOf(&ITarnManager::postEvent),
+            slotOf(&ITarnManager::registerListener),
+            slotOf(&ITarnManager::unRegisterListener),
+            slotOf(&ITarnManager::isTarnReady),
+            slotOf(&ITarnManager::createTarnMsgManager),
+            slotOf(&ITarnManager::removeTarnMsgManager),
+    };
+    ASSERT_EQ(std::size(slots), 54u);
+    for (size_t i = 0; i < std::size(slots); i++) EXPECT_EQ(slots[i], i);
+}
+
+TEST(IHwTarnClient, HasItsOperationsInSlotOrder) {
+    EXPECT_EQ(slotOf(&IHwTarnClient::hw_invoke), 0u);
+    EXPECT_EQ(slotOf(&IHwTarnClient::postEvent), 1u);
+    EXPECT_EQ(slotOf(&IHwTarnClient::isTarnReady), 2u);
+    EXPECT_EQ(slotOf(&IHwTarnClient::createTarnMsgManager), 3u);
+    EXPECT_EQ(slotOf(&IHwTarnClient::removeTarnMsgManager), 4u);
+    EXPECT_EQ(slotOf(&IHwTarnClient::registerListener), 5u);
+    EXPECT_EQ(slotOf(&IHwTarnClient::unRegisterListener), 6u);
+}
+
+TEST(HwTarnClient, HasHandleMsgThenTheDestructorsThenTheOperations) {
+    EXPECT_EQ(slotOf(&HwTarnClient::handleMsg), 0u);
+    EXPECT_EQ(slotOf(&HwTarnClient::hw_invoke), 3u);
+    EXPECT_EQ(slotOf(&HwTarnClient::unRegisterListener), 9u);
+}
+
+TEST(ITarnClientLooper, HasItsOperationsInSlotOrder) {
+    EXPECT_EQ(slotOf(&ITarnClientLooper::createTarnMsgLooper), 0u);
+    EXPECT_EQ(slotOf(&ITarnClientLooper::removeTarnMsgLooper), 1u);
+    EXPECT_EQ(slotOf(&ITarnClientLooper::sendMsg), 2u);
+    EXPECT_EQ(slotOf(&ITarnClientLooper::postMsg), 3u);
+}
+
+TEST(ITarnListener, IsCalledThroughItsFirstSlot) {
+    EXPECT_EQ(slotOf(&ITarnListener::notify), 0u);
+}
+
+TEST(ITarnPlatform, HasItsOperationsInSlotOrder) {
+    EXPECT_EQ(slotOf(&ITarnPlatform::initTv), 0u);
+    EXPECT_EQ(slotOf(&ITarnPlatform::exitTv), 1u);
+    EXPECT_EQ(slotOf(&ITarnPlatform::notify), 2u);
+}
+
+}  // namespace

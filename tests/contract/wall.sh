@@ -1,0 +1,26 @@
+#!/bin/sh
+# The wall between what ships and what only a Linux host has: no shipped file includes anything of
+# the host's folders or libraries, asks where it runs, or uses what Android 13's libutils lacks.
+set -eu
+cd "$1"
+failed=0
+
+refuse() {  # refuse PATTERN WHAT FOLDER...
+    pattern=$1 what=$2
+    shift 2
+    if grep -rnE --include='*.h' --include='*.cpp' --include='*.def' "$pattern" "$@"; then
+        echo "the lines above $what"
+        failed=1
+    fi
+}
+
+shipped='include log core service protocol modules'
+refuse '#include.*(host/|simulator/|tests/|sdbus-c\+\+|json/)' 'reach over the wall' $shipped
+refuse '#include.*(simulator/|host/binder|host/hidl|tests/|sdbus-c\+\+)' 'reach over the wall' \
+       tools/tarnctl/registry tools/tarnctl/controllers
+refuse '__ANDROID__' 'ask where they run' $shipped
+refuse '\.string\(\)|sp<[^>]*>::make' 'use what not every Android release has' $shipped
+refuse '#include "(log|core|service|protocol|modules)/' 'show a private header' include
+refuse 'CMD_[A-Z]' 'name a command code' include
+
+exit $failed

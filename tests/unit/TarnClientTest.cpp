@@ -1,0 +1,210 @@
+#include <binder/IServiceManager.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <tarn/DeathNotifier.h>
+#include <tarn/TarnClient.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <chrono>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "host/binder/HostServiceManager.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/RelayBinder.h"
+
+using android::DeathNotifier;
+using android::defaultServiceManager;
+using android::ITarnClient;
+using android::ITarnClientCallback;
+using android::ITarnService;
+using android::Parcel;
+using android::sp;
+using android::status_t;
+using android::String16;
+using android::TarnClient;
+using namespace std::chrono_literals;
+using namespace tarn::test;
+using testing::Contains;
+using testing::ElementsAre;
+
+namespace {
+
+const String16 kName("tarn.service");
+
+class FakeService : public android::BnTarnService {
+  public:
+    int connect(int pid, const sp<ITarnClient>& client) override {
+        pids.push_back(pid);
+        clients.push_back(client);
+        return -1;
+    }
+
+    status_t invoke(const Parcel& data, Parcel* reply) override {
+        reply->writeInt32(data.readInt32() + 1);
+        return android::OK;
+    }
+
+    std::vector<int> pids;
+    std::vector<sp<ITarnClient>> clients;
+};
+
+class Callback : public ITarnClientCallback {
+  public:
+    void notify(unsigned int msgType, void* data, unsigned int size, void*) override {
+        types.push_back(msgType);
+        bytes.emplace_back(static_cast<char*>(data), size);
+    }
+
+    std::vector<unsigned int> types;
+    std::vector<std::string> bytes;
+};
+
+/** A service that can die, published as "tarn.service". */
+class Published {
+  public:
+    Published() : service(new FakeService), relay(new RelayBinder(service)) {
+        defaultServiceManager()->addService(kName, relay);
+    }
+
+    ~Published() { withdraw(); }
+
+    void withdraw() { android::host::removeService(kName); }
+
+    sp<FakeService> service;
+    sp<RelayBinder> relay;
+};
+
+class TarnClientTest : public testing::Test {
+  protected:
+    // The process's reference outlives a test; this empties it.
+    ~TarnClientTest() override { sp<DeathNotifier>(new DeathNotifier)->binderDied(nullptr); }
+};
+
+int invokeWith(TarnClient* client, int value) {
+    Parcel data;
+    data.writeInterfaceToken(ITarnService::descriptor);
+    data.writeInt32(value);
+    Parcel reply;
+    if (client->invoke(data, &reply) != android::OK) return -1;
+    return reply.readInt32();
+}
+
+TEST_F(TarnClientTest, ConnectsTwiceTheFirstTimeAndOnceLater) {
+    Published published;
+    const sp<TarnClient> client = new TarnClient;
+    LogCapture log;
+    EXPECT_EQ(client->connect(), 0);
+    EXPECT_THAT(log.messages()[0], "connect TarnServer");
+    EXPECT_EQ(log.lines()[0].tag, "Zunt@TarnClient");
+    EXPECT_THAT(published.service->pids, ElementsAre(getpid(), getpid()));
+    EXPECT_EQ(client->connect(), 0);
+    EXPECT_EQ(published.service->pids.size(), 3u);
+    EXPECT_EQ(published.relay->links(), 1);
+}
+
+TEST_F(TarnClientTest, RegistersAClientThatOnlyInvokes) {
+    Published published;
+    const sp<TarnClient> client = new TarnClient;
+    EXPECT_EQ(invokeWith(client.get(), 41), 42);
+    EXPECT_THAT(published.service->pids, ElementsAre(getpid()));
+    EXPECT_EQ(published.service->clients[0].get(), client.get());
+}
+
+TEST_F(TarnClientTest, WaitsUntilTheServiceIsPublished) {
+    const sp<TarnClient> client = new TarnClient;
+    LogCapture log;
+    std::atomic<bool> connected{false};
+    std::thread thread([&] {
+        client->connect();
+        connected = true;
+    });
+    std::this_thread::sleep_for(200ms);
+    EXPECT_FALSE(connected);
+    Published published;
+    thread.join();
+    EXPECT_THAT(log.messages(), Contains("TarnService not published..."));
+    EXPECT_EQ(published.service->pids.size(), 2u);
+}
+
+TEST_F(TarnClientTest, FindsARestartedService) {
+    const sp<TarnClient> client = new TarnClient;
+    Published first;
+    EXPECT_EQ(invokeWith(client.get(), 1), 2);
+    first.withdraw();
+    LogCapture log;
+    first.relay->die();
+    ASSERT_EQ(log.lines().size(), 1u);
+    EXPECT_EQ(log.lines()[0].message, "Tarn service died!");
+    EXPECT_EQ(log.lines()[0].priority, 5);
+
+    Published second;
+    EXPECT_EQ(invokeWith(client.get(), 2), 3);
+    EXPECT_THAT(second.service->pids, ElementsAre(getpid()));
+    EXPECT_EQ(second.relay->links(), 1);
+}
+
+TEST_F(TarnClientTest, KeepsTheProcessReferenceUntilTheServiceDies) {
+    Published published;
+    const sp<TarnClient> client = new TarnClient;
+    const sp<ITarnService>& reference = android::getTarnService(client.get());
+    EXPECT_NE(reference, nullptr);
+    EXPECT_EQ(&reference, &android::getTarnService(client.get()));
+    published.relay->die();
+    EXPECT_EQ(reference, nullptr);
+}
+
+TEST_F(TarnClientTest, HandsANotificationToItsCallbackAndFreesItsBuffer) {
+    const sp<Callback> callback = new Callback;
+    const sp<TarnClient> client = new TarnClient(callback);
+    const sp<ITarnClient> proxy = ITarnClient::asInterface(new RelayBinder(client));
+    char bytes[] = {'a', 'b', 'c', 'd'};
+    LogCapture log;
+    proxy->notify(3, bytes, 4, nullptr);
+    EXPECT_THAT(callback->types, ElementsAre(3u));
+    EXPECT_THAT(callback->bytes, ElementsAre("abcd"));
+    EXPECT_THAT(log.messages(),
+                ElementsAre("callback application type=3", "back from callback"));
+    EXPECT_EQ(log.lines()[0].priority, 3);
+}
+
+TEST_F(TarnClientTest, LeavesABufferOfThisProcessToItsOwner) {
+    const sp<Callback> callback = new Callback;
+    const sp<TarnClient> client = new TarnClient(callback);
+    char bytes[] = {'a', 'b', 'c', 'd'};
+    client->notify(3, bytes, 4, nullptr);
+    EXPECT_THAT(callback->bytes, ElementsAre("abcd"));
+}
+
+TEST_F(TarnClientTest, LogsBothLinesWithoutACallback) {
+    const sp<TarnClient> client = new TarnClient;
+    LogCapture log;
+    client->notify(8, nullptr, 0, nullptr);
+    EXPECT_THAT(log.messages(),
+                ElementsAre("callback application type=8", "back from callback"));
+}
+
+TEST_F(TarnClientTest, TakesACallbackFromADerivedClass) {
+    class DerivedClient : public TarnClient {
+      public:
+        void listenWith(const sp<ITarnClientCallback>& callback) { setCallback(callback); }
+    };
+    const sp<Callback> callback = new Callback;
+    const sp<DerivedClient> client = new DerivedClient;
+    client->listenWith(callback);
+    client->notify(8, nullptr, 0, nullptr);
+    EXPECT_THAT(callback->types, ElementsAre(8u));
+}
+
+TEST_F(TarnClientTest, SaysThatItIsMadeAndDestroyed) {
+    LogCapture log;
+    sp<TarnClient> client = new TarnClient;
+    client.clear();
+    EXPECT_THAT(log.messages(), ElementsAre("constructor", "destructor"));
+    EXPECT_EQ(log.lines()[0].tag, "Zunt@TarnClient");
+    EXPECT_EQ(log.lines()[0].priority, 3);
+}
+
+}  // namespace

@@ -1,0 +1,319 @@
+#include <binder/IServiceManager.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <tarn/TarnService.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/binder/HostServiceManager.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/RelayBinder.h"
+
+using android::BnTarnClient;
+using android::BpTarnClient;
+using android::BpTarnService;
+using android::IBinder;
+using android::IInterface;
+using android::ITarnClient;
+using android::ITarnService;
+using android::Parcel;
+using android::sp;
+using android::status_t;
+using android::sTarnPlatform;
+using android::String16;
+using android::TarnService;
+using namespace tarn::test;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+struct Notification {
+    unsigned int msgType;
+    std::string bytes;
+    void* ext;
+};
+
+class RecordingClient : public BnTarnClient {
+  public:
+    void notify(unsigned int msgType, void* data, unsigned int size, void* ext) override {
+        received.push_back({msgType, std::string(static_cast<char*>(data), size), ext});
+        if (ownsBuffer(data)) delete[] static_cast<uint8_t*>(data);
+    }
+
+    std::vector<Notification> received;
+};
+
+class RecordingService : public android::BnTarnService {
+  public:
+    int connect(int pid, const sp<ITarnClient>& client) override {
+        pids.push_back(pid);
+        clients.push_back(client);
+        return 17;
+    }
+
+    status_t invoke(const Parcel& data, Parcel* reply) override {
+        payloads.push_back(data.readInt32());
+        reply->writeInt32(5);
+        return 3;
+    }
+
+    std::vector<int> pids;
+    std::vector<sp<ITarnClient>> clients;
+    std::vector<int> payloads;
+};
+
+Parcel* withToken(Parcel* parcel, const char* descriptor) {
+    parcel->writeInterfaceToken(String16(descriptor));
+    return parcel;
+}
+
+TEST(ITarnService, HasItsDescriptor) {
+    EXPECT_EQ(ITarnService::descriptor, String16("android.ITarnService"));
+    EXPECT_EQ(ITarnClient::descriptor, String16("android.ITarnClient"));
+    const sp<RecordingService> service = new RecordingService;
+    EXPECT_EQ(service->getInterfaceDescriptor(), ITarnService::descriptor);
+}
+
+TEST(ITarnService, IsTheObjectItselfWithinAProcessAndAProxyOutside) {
+    const sp<RecordingService> service = new RecordingService;
+    EXPECT_EQ(ITarnService::asInterface(nullptr), nullptr);
+    EXPECT_EQ(ITarnService::asInterface(service).get(), service.get());
+    const sp<RelayBinder> relay = new RelayBinder(service);
+    const sp<ITarnService> proxy = ITarnService::asInterface(relay);
+    EXPECT_NE(proxy.get(), service.get());
+    EXPECT_EQ(IInterface::asBinder(proxy), relay);
+}
+
+TEST(ITarnService, KeepsTheLatestDefaultThatIsNotNull) {
+    const sp<RecordingService> first = new RecordingService;
+    const sp<RecordingService> second = new RecordingService;
+    EXPECT_FALSE(ITarnService::setDefaultImpl(nullptr));
+    EXPECT_TRUE(ITarnService::setDefaultImpl(first));
+    EXPECT_TRUE(ITarnService::setDefaultImpl(second));
+    EXPECT_FALSE(ITarnService::setDefaultImpl(nullptr));
+    EXPECT_EQ(ITarnService::getDefaultImpl().get(), second.get());
+    ITarnService::default_impl.clear();
+}
+
+TEST(ITarnClient, KeepsTheLatestDefaultThatIsNotNull) {
+    const sp<RecordingClient> first = new RecordingClient;
+    EXPECT_FALSE(ITarnClient::setDefaultImpl(nullptr));
+    EXPECT_TRUE(ITarnClient::setDefaultImpl(first));
+    EXPECT_FALSE(ITarnClient::setDefaultImpl(nullptr));
+    EXPECT_EQ(ITarnClient::getDefaultImpl().get(), first.get());
+    ITarnClient::default_impl.clear();
+}
+
+TEST(BpTarnService, CarriesAConnectAndItsAnswer) {
+    const sp<RecordingService> service = new RecordingService;
+    const sp<RecordingClient> client = new RecordingClient;
+    const sp<ITarnService> proxy = new BpTarnService(new RelayBinder(service));
+    LogCapture log;
+    EXPECT_EQ(proxy->connect(321, client), 17);
+    EXPECT_THAT(service->pids, ElementsAre(321));
+    EXPECT_EQ(service->clients[0].get(), client.get());
+
+    const auto lines = log.lines();
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[0].message, "connect !");
+    EXPECT_EQ(lines[0].priority, 6);
+    EXPECT_EQ(lines[0].tag, "Zunt@ITarnService");
+    EXPECT_EQ(lines[1].message, "CONNECT!");
+    EXPECT_EQ(lines[1].priority, 4);
+    EXPECT_EQ(lines[2].message, "connect pid:321, transact return 0!");
+    EXPECT_EQ(lines[2].priority, 4);
+}
+
+TEST(BpTarnService, ReadsTheAnswerWhateverTheStatus) {
+    const sp<RelayBinder> relay = new RelayBinder(new RecordingService);
+    relay->die();
+    const sp<ITarnService> proxy = new BpTarnService(relay);
+    EXPECT_EQ(proxy->connect(1, nullptr), 0);
+}
+
+TEST(BpTarnService, CarriesAnInvokeUnchanged) {
+    const sp<RecordingService> service = new RecordingService;
+    const sp<ITarnService> proxy = new BpTarnService(new RelayBinder(service));
+    Parcel data;
+    withToken(&data, "android.ITarnService")->writeInt32(99);
+    Parcel reply;
+    LogCapture log;
+    EXPECT_EQ(proxy->invoke(data, &reply), 3);
+    EXPECT_THAT(service->payloads, ElementsAre(99));
+    EXPECT_THAT(log.messages(), ElementsAre("invoke !", "INVOKE!"));
+}
+
+TEST(BnTarnService, RefusesParcelsWithoutItsToken) {
+    const sp<RecordingService> service = new RecordingService;
+    LogCapture log;
+    for (const char* token : {"", "android.ITarnClient"}) {
+        log.clear();
+        Parcel data;
+        Parcel reply;
+        if (*token != '\0') withToken(&data, token);
+        data.writeInt32(1);
+        EXPECT_EQ(service->transact(ITarnService::CONNECT, data, &reply), -1);
+        EXPECT_THAT(log.messages(), ElementsAre("CONNECT!"));
+        data.setDataPosition(0);
+        log.clear();
+        EXPECT_EQ(service->transact(ITarnService::INVOKE, data, &reply), -1);
+        EXPECT_THAT(log.messages(), IsEmpty());
+    }
+    EXPECT_THAT(service->pids, IsEmpty());
+    EXPECT_THAT(service->payloads, IsEmpty());
+}
+
+TEST(BnTarnService, RefusesATruncatedConnect) {
+    const sp<RecordingService> service = new RecordingService;
+    Parcel reply;
+    Parcel tokenOnly;
+    withToken(&tokenOnly, "android.ITarnService");
+    EXPECT_NE(service->transact(ITarnService::CONNECT, tokenOnly, &reply), android::OK);
+    Parcel noBinder;
+    withToken(&noBinder, "android.ITarnService")->writeInt32(1);
+    EXPECT_NE(service->transact(ITarnService::CONNECT, noBinder, &reply), android::OK);
+    EXPECT_THAT(service->pids, IsEmpty());
+}
+
+TEST(BnTarnService, LeavesOtherCodesToTheBinder) {
+    const sp<RecordingService> service = new RecordingService;
+    Parcel data;
+    Parcel reply;
+    EXPECT_EQ(service->transact(3, data, &reply), android::UNKNOWN_TRANSACTION);
+    EXPECT_EQ(service->transact(IBinder::INTERFACE_TRANSACTION, data, &reply), android::OK);
+}
+
+TEST(BpTarnClient, SendsTypeAndBytesOneWay) {
+    const sp<RecordingClient> client = new RecordingClient;
+    const sp<ITarnClient> proxy = new BpTarnClient(new RelayBinder(client));
+    char bytes[] = {'a', 'b', 'c', 'd'};
+    proxy->notify(7, bytes, 4, bytes);
+    ASSERT_EQ(client->received.size(), 1u);
+    EXPECT_EQ(client->received[0].msgType, 7u);
+    EXPECT_EQ(client->received[0].bytes, "abcd");
+    EXPECT_EQ(client->received[0].ext, nullptr);
+}
+
+TEST(BpTarnClient, SendsTheTypeAloneWithoutBytes) {
+    const sp<RecordingClient> client = new RecordingClient;
+    const sp<ITarnClient> proxy = new BpTarnClient(new RelayBinder(client));
+    char byte = 'a';
+    proxy->notify(7, nullptr, 4, nullptr);
+    proxy->notify(8, &byte, 0, nullptr);
+    ASSERT_EQ(client->received.size(), 2u);
+    EXPECT_EQ(client->received[0].bytes, "");
+    EXPECT_EQ(client->received[1].bytes, "");
+}
+
+TEST(BpTarnClient, ShowsTheReceiverThePaddingToo) {
+    const sp<RecordingClient> client = new RecordingClient;
+    const sp<ITarnClient> proxy = new BpTarnClient(new RelayBinder(client));
+    char bytes[] = {'a', 'b', 'c', 'd', 'e'};
+    proxy->notify(7, bytes, 5, nullptr);
+    EXPECT_EQ(client->received[0].bytes, std::string("abcde\0\0\0", 8));
+}
+
+TEST(BnTarnClient, RefusesWrongTokensAndTruncatedNotifications) {
+    const sp<RecordingClient> client = new RecordingClient;
+    Parcel reply;
+    Parcel wrong;
+    withToken(&wrong, "android.ITarnService")->writeInt32(1);
+    EXPECT_EQ(client->transact(ITarnClient::NOTIFY, wrong, &reply), -1);
+    Parcel truncated;
+    withToken(&truncated, "android.ITarnClient");
+    EXPECT_NE(client->transact(ITarnClient::NOTIFY, truncated, &reply), android::OK);
+    EXPECT_THAT(client->received, IsEmpty());
+    EXPECT_EQ(client->transact(9, truncated, &reply), android::UNKNOWN_TRANSACTION);
+}
+
+class TarnServiceFanOut : public testing::Test {
+  protected:
+    sp<TarnService> service = new TarnService;
+};
+
+TEST_F(TarnServiceFanOut, KeepsAClientThatConnectsAgainOnce) {
+    const sp<RecordingClient> client = new RecordingClient;
+    const sp<RelayBinder> relay = new RelayBinder(client);
+    LogCapture log;
+    EXPECT_EQ(service->connect(5, ITarnClient::asInterface(relay)), -1);
+    EXPECT_EQ(service->connect(5, ITarnClient::asInterface(relay)), -1);
+    EXPECT_THAT(log.messages(), ElementsAre("entern connect, client pid = 5", "mClients.size = 1 ",
+                                            "entern connect, client pid = 5", "mClients.size = 1 "));
+    EXPECT_EQ(log.lines()[0].tag, "Zunt@TarnService");
+    EXPECT_EQ(log.lines()[0].priority, 3);
+
+    EXPECT_EQ(service->notify(4, nullptr, 0, nullptr), 0);
+    EXPECT_EQ(client->received.size(), 1u);
+}
+
+TEST_F(TarnServiceFanOut, ReachesEveryClient) {
+    const sp<RecordingClient> clients[] = {new RecordingClient, new RecordingClient};
+    service->connect(1, clients[0]);
+    service->connect(2, new BpTarnClient(new RelayBinder(clients[1])));
+    char bytes[] = {'a', 'b', 'c', 'd'};
+    LogCapture log;
+    EXPECT_EQ(service->notify(4, bytes, 4, nullptr), 0);
+    EXPECT_EQ(clients[0]->received[0].bytes, "abcd");
+    EXPECT_EQ(clients[1]->received[0].bytes, "abcd");
+    ASSERT_EQ(log.lines().size(), 2u);
+    EXPECT_THAT(log.messages()[0], testing::MatchesRegex("Notify<Client:0x[0-9a-f]+ Type:4>"));
+}
+
+TEST_F(TarnServiceFanOut, GoesOnPastADeadClient) {
+    const sp<RelayBinder> dead = new RelayBinder(new RecordingClient);
+    const sp<RecordingClient> alive = new RecordingClient;
+    service->connect(1, ITarnClient::asInterface(dead));
+    service->connect(2, alive);
+    dead->die();
+    EXPECT_EQ(service->notify(4, nullptr, 0, nullptr), 0);
+    EXPECT_EQ(alive->received.size(), 1u);
+}
+
+TEST_F(TarnServiceFanOut, SkipsANullClient) {
+    service->connect(1, nullptr);
+    EXPECT_EQ(service->notify(4, nullptr, 0, nullptr), 0);
+}
+
+TEST_F(TarnServiceFanOut, IsSilentWithoutClients) {
+    LogCapture log;
+    EXPECT_EQ(service->notify(4, nullptr, 0, nullptr), 0);
+    EXPECT_THAT(log.messages(), IsEmpty());
+}
+
+TEST(TarnService, RefusesWhatItDoesNotDo) {
+    const sp<TarnService> service = new TarnService;
+    Parcel data;
+    EXPECT_EQ(service->invoke(data, nullptr), -1);
+    EXPECT_EQ(service->initTv(), -1);
+    EXPECT_EQ(service->exitTv(), -1);
+}
+
+TEST(TarnService, SaysThatItIsDestroyed) {
+    sp<TarnService> service = new TarnService;
+    LogCapture log;
+    service.clear();
+    EXPECT_THAT(log.messages(), ElementsAre("TarnService destroyed"));
+    EXPECT_EQ(log.lines()[0].priority, 3);
+}
+
+TEST(TarnService, IsPublishedAndStaysSoWithoutItsPlatformSide) {
+    LogCapture log;
+    TarnService::instantiate();
+    EXPECT_THAT(log.messages(), ElementsAre("TarnService instantiate"));
+    EXPECT_NE(sTarnPlatform, nullptr);
+
+    TarnService::deinstantiate();
+    EXPECT_THAT(log.messages().back(), "TarnService deinstantiate");
+    EXPECT_EQ(sTarnPlatform, nullptr);
+    const sp<ITarnService> service = android::interface_cast<ITarnService>(
+            android::defaultServiceManager()->checkService(String16("tarn.service")));
+    ASSERT_NE(service, nullptr);
+    EXPECT_EQ(service->connect(1, nullptr), -1);
+    android::host::removeService(String16("tarn.service"));
+}
+
+}  // namespace
