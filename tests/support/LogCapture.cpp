@@ -6,6 +6,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <mutex>
 
 namespace tarn::test {
@@ -75,8 +76,10 @@ extern "C" int __android_log_print(int priority, const char* tag, const char* fo
     const int length = vsnprintf(text, sizeof(text), format, args);
     va_end(args);
 
+    // The platform's own libraries log through here too; theirs is not the library's shape.
+    const bool ours = strstr(format, "[%s:%d] %s") != nullptr;
     std::lock_guard<std::mutex> guard(tarn::test::gLock);
-    if (tarn::test::gCapturing) {
+    if (ours && tarn::test::gCapturing) {
         tarn::test::gLines.push_back(
                 tarn::test::takeApart(priority, tag != nullptr ? tag : "", text));
     }
