@@ -1,0 +1,316 @@
+#include "modules/TouchCtrl.h"
+
+#include "modules/Replies.h"
+#include "protocol/Commands.h"
+
+// This file has no tag of its own: the log drops its line.
+#define TARN_LOG_TAG nullptr
+#define TARN_LOG_PINNED
+#include "log/Log.h"
+
+namespace android {
+
+namespace {
+
+int askForInt(TarnManager* manager, int cmd) {
+    Parcel reply;
+    const int status = manager->exeCmdSet_Parcel(cmd, &reply);
+    return intUnlessFailed(status, reply);
+}
+
+String16 askForText(TarnManager* manager, int cmd) {
+    Parcel reply;
+    const int status = manager->exeCmdSet_Parcel(cmd, &reply);
+    return textUnlessFailed(status, reply);
+}
+
+bool sendForBool(TarnManager* manager, int cmd, const Parcel& request) {
+    Parcel reply;
+    const int status = manager->exeCmdSet_Parcel(cmd, request, &reply);
+    return boolUnlessFailed(status, reply);
+}
+
+bool sendText(TarnManager* manager, int cmd, const String16& text) {
+    Parcel request;
+    request.writeString16(text);
+    return sendForBool(manager, cmd, request);
+}
+
+bool sendInt(TarnManager* manager, int cmd, int value) {
+    Parcel request;
+    request.writeInt32(value);
+    return sendForBool(manager, cmd, request);
+}
+
+/** The points' extra values stay in the process. */
+void writeCorners(Parcel* request, const TouchRect& rect) {
+    request->writeInt32(rect.start.x);
+    request->writeInt32(rect.start.y);
+    request->writeInt32(rect.end.x);
+    request->writeInt32(rect.end.y);
+}
+
+bool sendSourceRect(TarnManager* manager, int cmd, const TouchRect& rect, int value0, int value1,
+                    int value2) {
+    Parcel request;
+    writeCorners(&request, rect);
+    request.writeInt32(value0);
+    request.writeInt32(value1);
+    request.writeInt32(value2);
+    return sendForBool(manager, cmd, request);
+}
+
+/** Reads what follows the index in the reply to CMD_TOUCH_GET_NO_TOUCH_AREA. */
+void readNoTouchArea(const Parcel& reply, int id, std::vector<TouchRect>* areas) {
+    const int32_t valid = reply.readInt32();
+    const int32_t x1 = reply.readInt32();
+    const int32_t y1 = reply.readInt32();
+    const int32_t x2 = reply.readInt32();
+    const int32_t y2 = reply.readInt32();
+    if (valid != 1) return;
+    areas->push_back(TouchRect(TouchPoint(x1, y1, 0), TouchPoint(x2, y2, 0), id));
+}
+
+}  // namespace
+
+TouchCtrl::TouchCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {}
+
+int TouchCtrl::getMouseFadeState() {
+    return askForInt(mTarnMgr.get(), CMD_TOUCH_GET_MOUSE_FADE_STATE);
+}
+
+bool TouchCtrl::setMouseFadeState(int state) {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_SET_MOUSE_FADE_STATE, state);
+}
+
+String16 TouchCtrl::getMouseFadeBlacklist() {
+    return askForText(mTarnMgr.get(), CMD_TOUCH_GET_MOUSE_FADE_BLACKLIST);
+}
+
+bool TouchCtrl::setMouseFadeBlacklist(String16 applications) {
+    return sendText(mTarnMgr.get(), CMD_TOUCH_SET_MOUSE_FADE_BLACKLIST, applications);
+}
+
+bool TouchCtrl::addMouseFadeBlacklist(String16 application) {
+    return sendText(mTarnMgr.get(), CMD_TOUCH_ADD_MOUSE_FADE_BLACKLIST, application);
+}
+
+bool TouchCtrl::deleteMouseFadeBlacklist(String16 application) {
+    return sendText(mTarnMgr.get(), CMD_TOUCH_DELETE_MOUSE_FADE_BLACKLIST, application);
+}
+
+int TouchCtrl::getPenNum() {
+    return mTarnMgr->exeCmdSet_Int(CMD_TOUCH_GET_PEN_NUM);
+}
+
+bool TouchCtrl::setPenNum(int number) {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_SET_PEN_NUM, number);
+}
+
+String16 TouchCtrl::getPenType() {
+    return askForText(mTarnMgr.get(), CMD_TOUCH_GET_PEN_TYPE);
+}
+
+bool TouchCtrl::setPenType(String16 type) {
+    return sendText(mTarnMgr.get(), CMD_TOUCH_SET_PEN_TYPE, type);
+}
+
+bool TouchCtrl::dumpTouchDebugInfo() {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_DUMP_DEBUG_INFO);
+}
+
+bool TouchCtrl::setTouchBrushMode(int mode) {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_SET_BRUSH_MODE, mode);
+}
+
+int TouchCtrl::getTouchBrushMode() {
+    const int mode = askForInt(mTarnMgr.get(), CMD_TOUCH_GET_BRUSH_MODE);
+    TLOGE_AT(238, "getTouchBrushMode cpp retval=%d \n", mode);
+    return mode;
+}
+
+bool TouchCtrl::setTouchBurnMode() {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_SET_BURN_MODE);
+}
+
+int TouchCtrl::getTouchBurnMode() {
+    return askForInt(mTarnMgr.get(), CMD_TOUCH_GET_BURN_MODE);
+}
+
+int TouchCtrl::getTouchStaCheck() {
+    return askForInt(mTarnMgr.get(), CMD_TOUCH_GET_STA_CHECK);
+}
+
+bool TouchCtrl::setCapTouchReset() {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_SET_CAP_TOUCH_RESET);
+}
+
+String16 TouchCtrl::getParameter(String16 key) {
+    Parcel request;
+    request.writeString16(key);
+    Parcel reply;
+    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_TOUCH_GET_PARAMETER, request, &reply);
+    return status != -1 ? reply.readString16() : String16("Unimplemented interface");
+}
+
+bool TouchCtrl::setParameter(String16 key, String16 value) {
+    Parcel request;
+    request.writeString16(key);
+    request.writeString16(value);
+    Parcel reply;
+    return mTarnMgr->exeCmdSet_Parcel(CMD_TOUCH_SET_PARAMETER, request, &reply) != -1;
+}
+
+int TouchCtrl::getMaxSupportedNoTouchAreas() {
+    return askForInt(mTarnMgr.get(), CMD_TOUCH_GET_MAX_NO_TOUCH_AREAS);
+}
+
+int TouchCtrl::getNoTouchAreaId() {
+    return askForInt(mTarnMgr.get(), CMD_TOUCH_GET_NO_TOUCH_AREA_ID);
+}
+
+bool TouchCtrl::addNoTouchArea(TouchRect area) {
+    Parcel request;
+    request.writeInt32(area.id);
+    writeCorners(&request, area);
+    return sendForBool(mTarnMgr.get(), CMD_TOUCH_ADD_NO_TOUCH_AREA, request);
+}
+
+bool TouchCtrl::removeNoTouchArea(int id) {
+    return sendInt(mTarnMgr.get(), CMD_TOUCH_REMOVE_NO_TOUCH_AREA, id);
+}
+
+bool TouchCtrl::setOutTouchState(int state) {
+    return sendInt(mTarnMgr.get(), CMD_TOUCH_SET_OUT_TOUCH_STATE, state);
+}
+
+int TouchCtrl::getOutTouchState() {
+    const Parcel request;
+    Parcel reply;
+    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_TOUCH_GET_OUT_TOUCH_STATE, request, &reply);
+    return intUnlessFailed(status, reply);
+}
+
+String16 TouchCtrl::getTouchVersion() {
+    return askForText(mTarnMgr.get(), CMD_TOUCH_GET_VERSION);
+}
+
+bool TouchCtrl::setSourceTouchRect(TouchRect rect, int value0, int value1, int value2) {
+    return sendSourceRect(mTarnMgr.get(), CMD_TOUCH_SET_SOURCE_RECT, rect, value0, value1, value2);
+}
+
+bool TouchCtrl::setSourceRectOffset(TouchRect rect, int value) {
+    Parcel request;
+    writeCorners(&request, rect);
+    request.writeInt32(value);
+    return sendForBool(mTarnMgr.get(), CMD_TOUCH_SET_SOURCE_RECT_OFFSET, request);
+}
+
+bool TouchCtrl::clearSourceTouchRect(int source) {
+    return sendInt(mTarnMgr.get(), CMD_TOUCH_CLEAR_SOURCE_RECT, source);
+}
+
+std::vector<TouchRect> TouchCtrl::getAllNoTouchAreas() {
+    std::vector<TouchRect> areas;
+    Parcel request;
+    Parcel reply;
+    // The count is the service's and is trusted.
+    const int count = getMaxSupportedNoTouchAreas();
+    for (int i = 0; i < count; i++) {
+        request.writeInt32(i);
+        const int status = mTarnMgr->exeCmdSet_Parcel(CMD_TOUCH_GET_NO_TOUCH_AREA, request, &reply);
+        // Part of the protocol: a failed index stays in the request, and the next one follows it.
+        if (status == -1) continue;
+        const int32_t echo = reply.readInt32();
+        if (echo == i) readNoTouchArea(reply, echo, &areas);
+        request.freeData();
+        reply.freeData();
+    }
+    return areas;
+}
+
+String16 TouchCtrl::getHidMode() {
+    return askForText(mTarnMgr.get(), CMD_TOUCH_GET_HID_MODE);
+}
+
+bool TouchCtrl::setHidMode(String16 mode) {
+    return sendText(mTarnMgr.get(), CMD_TOUCH_SET_HID_MODE, mode);
+}
+
+bool TouchCtrl::getLogicalTouchRange(TouchLogicalCoordinates* range) {
+    Parcel reply;
+    if (mTarnMgr->exeCmdSet_Parcel(CMD_TOUCH_GET_LOGICAL_RANGE, &reply) == -1) return false;
+    range->range0 = reply.readInt32();
+    range->range1 = reply.readInt32();
+    return true;
+}
+
+int TouchCtrl::SetSmallMode(int mode, int count, int* values) {
+    Parcel request;
+    request.writeInt32(mode);
+    request.writeInt32(count);
+    for (int j = 0; j < count; j++) request.writeInt32(values[j]);
+    Parcel reply;
+    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_TOUCH_SET_SMALL_MODE, request, &reply);
+    return intUnlessFailed(status, reply);
+}
+
+bool TouchCtrl::setPIPSourceTouchRect(TouchRect rect, int value0, int value1, int value2) {
+    return sendSourceRect(mTarnMgr.get(), CMD_TOUCH_SET_PIP_SOURCE_RECT, rect, value0, value1,
+                          value2);
+}
+
+bool TouchCtrl::setPalmRejectionEnable(bool on) {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_SET_PALM_REJECTION, on);
+}
+
+bool TouchCtrl::isPalmRejectionEnable() {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_IS_PALM_REJECTION);
+}
+
+bool TouchCtrl::setTouchPressMode(int mode) {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_SET_PRESS_MODE, mode);
+}
+
+int TouchCtrl::getTouchPressMode() {
+    return mTarnMgr->exeCmdSet_Int(CMD_TOUCH_GET_PRESS_MODE);
+}
+
+bool TouchCtrl::sendPcKeyEvent(EnumPcKeyEventAction action, int value0, int value1) {
+    Parcel request;
+    request.writeInt32(action);
+    request.writeInt32(value0);
+    request.writeInt32(value1);
+    return sendForBool(mTarnMgr.get(), CMD_TOUCH_SEND_PC_KEY_EVENT, request);
+}
+
+bool TouchCtrl::setAndroidForbiddenState(int state) {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_SET_ANDROID_FORBIDDEN_STATE, state);
+}
+
+bool TouchCtrl::getAndroidForbiddenState() {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_GET_ANDROID_FORBIDDEN_STATE);
+}
+
+bool TouchCtrl::setTouchSmoothingFliter(int filter) {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_SET_SMOOTHING_FILTER, filter);
+}
+
+int TouchCtrl::getTouchSmoothingFliter() {
+    return mTarnMgr->exeCmdSet_Int(CMD_TOUCH_GET_SMOOTHING_FILTER);
+}
+
+bool TouchCtrl::setTouchStateDisabled(bool disabled) {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_SET_STATE_DISABLED, disabled);
+}
+
+bool TouchCtrl::getTouchStateDisabled() {
+    return mTarnMgr->exeCmdSet_Bool(CMD_TOUCH_GET_STATE_DISABLED);
+}
+
+int TouchCtrl::getTouchAreaRecognitionMethod() {
+    const int method = mTarnMgr->exeCmdSet_Int(CMD_TOUCH_GET_AREA_RECOGNITION_METHOD);
+    return method != -1 ? method : 0;
+}
+
+}  // namespace android
