@@ -1,5 +1,6 @@
 #include "modules/FwTouchCtrl.h"
 
+#include "modules/FirmwareRecords.h"
 #include "modules/Replies.h"
 #include "protocol/Commands.h"
 
@@ -14,22 +15,6 @@ namespace {
 /** The low 16 bits of the next integer. */
 int16_t readShort(const Parcel& reply) {
     return static_cast<int16_t>(reply.readInt32());
-}
-
-EntityFwTouch readTouch(const Parcel& reply) {
-    EntityFwTouch touch;
-    touch.value0 = reply.readInt32();
-    touch.value1 = reply.readInt32();
-    touch.value2 = reply.readInt32();
-    touch.text0 = readUtf8(reply);
-    touch.flag0 = reply.readBool();
-    touch.text1 = readUtf8(reply);
-    touch.flag1 = reply.readBool();
-    touch.text2 = readUtf8(reply);
-    touch.text3 = readUtf8(reply);
-    touch.text4 = readUtf8(reply);
-    touch.flag2 = reply.readBool();
-    return touch;
 }
 
 EntityFwTouchDriver readDriver(const Parcel& reply) {
@@ -47,7 +32,7 @@ TouchFwDataList readData(const Parcel& reply) {
     TouchFwDataList data;
     data.short0 = readShort(reply);
     data.short1 = readShort(reply);
-    data.touch = readTouch(reply);
+    data.touch = readDevice<EntityFwTouch>(reply);
     data.text0 = readUtf8(reply);
     data.short2 = readShort(reply);
     data.short3 = readShort(reply);
@@ -77,7 +62,7 @@ FwTouchCtrl::FwTouchCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {
 
 bool FwTouchCtrl::getFwTouchList(std::vector<EntityFwTouch>* out) {
     TLOGD_AT(30, "[%s]\n", __func__);
-    return askForList(mTarnMgr.get(), CMD_FW_TOUCH_GET_LIST, readTouch, out);
+    return askForList(mTarnMgr.get(), CMD_FW_TOUCH_GET_LIST, readDevice<EntityFwTouch>, out);
 }
 
 bool FwTouchCtrl::getFwTouchDriverInfoList(std::vector<EntityFwTouchDriver>* out) {

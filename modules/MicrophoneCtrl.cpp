@@ -2,6 +2,7 @@
 
 #include <binder/Parcel.h>
 
+#include "modules/FirmwareRecords.h"
 #include "modules/Replies.h"
 #include "protocol/Commands.h"
 
@@ -9,26 +10,6 @@
 #include "log/Log.h"
 
 namespace android {
-
-namespace {
-
-EntityMicrophone readMicrophone(const Parcel& reply) {
-    EntityMicrophone microphone;
-    microphone.value0 = reply.readInt32();
-    microphone.value1 = reply.readInt32();
-    microphone.value2 = reply.readInt32();
-    microphone.text0 = readUtf8(reply);
-    microphone.flag0 = reply.readBool();
-    microphone.text1 = readUtf8(reply);
-    microphone.flag1 = reply.readBool();
-    microphone.text2 = readUtf8(reply);
-    microphone.text3 = readUtf8(reply);
-    microphone.text4 = readUtf8(reply);
-    microphone.flag2 = reply.readBool();
-    return microphone;
-}
-
-}  // namespace
 
 MicrophoneCtrl::MicrophoneCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {}
 
@@ -39,7 +20,7 @@ int MicrophoneCtrl::getFwMicrophoneList(std::vector<EntityMicrophone>* list) {
     if (ret) {
         // The exchange hands over no reply, so the list stays empty; callers rely on that.
         const Parcel reply;
-        readList(reply, readMicrophone, list);
+        readList(reply, readDevice<EntityMicrophone>, list);
     } else {
         TLOGE("[%s]  fail, ret = %d \n", __func__, ret);
     }

@@ -1,5 +1,6 @@
 #include "modules/RemoteCtrl.h"
 
+#include "modules/Parameters.h"
 #include "protocol/Commands.h"
 
 namespace android {
@@ -15,19 +16,11 @@ bool RemoteCtrl::enableRemoteCtrl() {
 }
 
 String16 RemoteCtrl::getParameter(String16 key) {
-    Parcel request;
-    request.writeString16(key);
-    Parcel reply;
-    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_REMOTE_GET_PARAMETER, request, &reply);
-    return status != -1 ? reply.readString16() : String16("Unimplemented interface");
+    return readParameter(mTarnMgr, CMD_REMOTE_GET_PARAMETER, key);
 }
 
 bool RemoteCtrl::setParameter(String16 key, String16 value) {
-    Parcel request;
-    request.writeString16(key);
-    request.writeString16(value);
-    Parcel reply;
-    return mTarnMgr->exeCmdSet_Parcel(CMD_REMOTE_SET_PARAMETER, request, &reply) != -1;
+    return writeParameter(mTarnMgr, CMD_REMOTE_SET_PARAMETER, key, value);
 }
 
 }  // namespace android

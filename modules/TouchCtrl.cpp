@@ -1,5 +1,6 @@
 #include "modules/TouchCtrl.h"
 
+#include "modules/Parameters.h"
 #include "modules/Replies.h"
 #include "protocol/Commands.h"
 
@@ -146,19 +147,11 @@ bool TouchCtrl::setCapTouchReset() {
 }
 
 String16 TouchCtrl::getParameter(String16 key) {
-    Parcel request;
-    request.writeString16(key);
-    Parcel reply;
-    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_TOUCH_GET_PARAMETER, request, &reply);
-    return status != -1 ? reply.readString16() : String16("Unimplemented interface");
+    return readParameter(mTarnMgr, CMD_TOUCH_GET_PARAMETER, key);
 }
 
 bool TouchCtrl::setParameter(String16 key, String16 value) {
-    Parcel request;
-    request.writeString16(key);
-    request.writeString16(value);
-    Parcel reply;
-    return mTarnMgr->exeCmdSet_Parcel(CMD_TOUCH_SET_PARAMETER, request, &reply) != -1;
+    return writeParameter(mTarnMgr, CMD_TOUCH_SET_PARAMETER, key, value);
 }
 
 int TouchCtrl::getMaxSupportedNoTouchAreas() {

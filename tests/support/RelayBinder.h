@@ -32,8 +32,8 @@ class RelayBinder : public android::BBinder {
     int links() const { return mLinks; }
 
   protected:
-    android::status_t onTransact(uint32_t code, const android::Parcel& data,
-                                 android::Parcel* reply, uint32_t flags) override {
+    android::status_t onTransact(uint32_t code, const android::Parcel& data, android::Parcel* reply,
+                                 uint32_t flags) override {
         if (mDead) return android::DEAD_OBJECT;
         return mTarget->transact(code, data, reply, flags);
     }

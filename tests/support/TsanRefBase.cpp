@@ -1,6 +1,7 @@
 // For the thread sanitizer alone: the platform's libutils is not instrumented, so the sanitizer
 // can't see that counting references orders one thread's last use of an object before another
-// thread's destruction of it. This program's RefBase::decStrong comes before the library's and says so.
+// thread's destruction of it. This program's RefBase::decStrong comes before the library's and says
+// so.
 
 #include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>

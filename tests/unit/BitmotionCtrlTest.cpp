@@ -2,18 +2,18 @@
 #include <gtest/gtest.h>
 #include <tarn/TarnLog.h>
 
-#include <cstdarg>
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
 #include <string>
 #include <vector>
 
 #include "modules/BitmotionCtrl.h"
+#include "tests/support/LogCalls.h"
 #include "tests/support/RecordingManager.h"
 
 using namespace android;
 using tarn::test::hex;
+using tarn::test::logCalls;
 using tarn::test::RecordingManager;
 using tarn::test::Reply;
 using tarn::test::words;
@@ -22,37 +22,11 @@ using testing::IsEmpty;
 
 namespace {
 
-struct LogCall {
-    unsigned int level;
-    bool hasTag;
-    std::string function;
-    int line;
-    std::string message;
-};
-
-std::vector<LogCall> gLogCalls;
-
-}  // namespace
-
-// Stands in for the library's own: a line without a tag leaves no other trace.
-int TarnLog(unsigned int level, const char* tag, const char* function, int line, const char* format,
-            ...) {
-    char message[1024];
-    va_list args;
-    va_start(args, format);
-    vsnprintf(message, sizeof(message), format, args);
-    va_end(args);
-    gLogCalls.push_back(LogCall{level, tag != nullptr, function, line, message});
-    return 0;
-}
-
-namespace {
-
 class BitmotionCtrl : public testing::Test {
   protected:
     BitmotionCtrl()
         : mManager(new RecordingManager), mBitmotion(new android::BitmotionCtrl(mManager)) {
-        gLogCalls.clear();
+        logCalls().clear();
     }
 
     const sp<RecordingManager> mManager;
@@ -73,12 +47,12 @@ TEST(IBitmotionCtrl, HasItsDestructorsBeforeTheMethods) {
 
 TEST_F(BitmotionCtrl, MakesItsConstructorsLogCallWithoutATag) {
     const sp<IBitmotionCtrl> another = new android::BitmotionCtrl(mManager);
-    ASSERT_EQ(gLogCalls.size(), 1u);
-    EXPECT_EQ(gLogCalls[0].level, static_cast<unsigned int>(TARN_LOG_INFO));
-    EXPECT_FALSE(gLogCalls[0].hasTag);
-    EXPECT_EQ(gLogCalls[0].function, "BitmotionCtrl");
-    EXPECT_EQ(gLogCalls[0].line, 7);
-    EXPECT_EQ(gLogCalls[0].message, "BitmotionCtrl created.");
+    ASSERT_EQ(logCalls().size(), 1u);
+    EXPECT_EQ(logCalls()[0].level, static_cast<unsigned int>(TARN_LOG_INFO));
+    EXPECT_FALSE(logCalls()[0].hasTag);
+    EXPECT_EQ(logCalls()[0].function, "BitmotionCtrl");
+    EXPECT_EQ(logCalls()[0].line, 7);
+    EXPECT_EQ(logCalls()[0].message, "BitmotionCtrl created.");
 }
 
 TEST_F(BitmotionCtrl, GivesTheFallbacksWhenTheServiceIsDeadAndLogsNothing) {
@@ -88,7 +62,7 @@ TEST_F(BitmotionCtrl, GivesTheFallbacksWhenTheServiceIsDeadAndLogsNothing) {
     EXPECT_EQ(mBitmotion->setWan1Address(String16("a")), -1);
     EXPECT_EQ(mBitmotion->erase(1), -1);
     EXPECT_EQ(mBitmotion->getVersion(), "");
-    EXPECT_THAT(gLogCalls, IsEmpty());
+    EXPECT_THAT(logCalls(), IsEmpty());
 }
 
 TEST_F(BitmotionCtrl, SendsAPortAndItsSwitch) {

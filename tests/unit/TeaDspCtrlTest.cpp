@@ -1,77 +1,49 @@
 #include <gtest/gtest.h>
 #include <tarn/TarnLog.h>
 
-#include <cstdarg>
-#include <cstdio>
 #include <string>
 #include <vector>
 
 #include "modules/TeaDspCtrl.h"
+#include "tests/support/LogCalls.h"
 #include "tests/support/RecordingManager.h"
 
 using android::ITeaDspCtrl;
 using android::sp;
 using tarn::test::hex;
+using tarn::test::LogCall;
+using tarn::test::logCalls;
 using tarn::test::RecordingManager;
 using tarn::test::Reply;
 using tarn::test::words;
 
 namespace {
 
-struct LogCall {
-    unsigned int level;
-    std::string tag;
-    std::string function;
-    std::string message;
-};
-
-bool operator==(const LogCall& a, const LogCall& b) {
-    return a.level == b.level && a.tag == b.tag && a.function == b.function &&
-           a.message == b.message;
-}
-
-void PrintTo(const LogCall& call, std::ostream* out) {
-    *out << call.level << " " << call.tag << " [" << call.function << "] " << call.message;
-}
-
 using LogCalls = std::vector<LogCall>;
-LogCalls gLogCalls;
 
-}  // namespace
-
-/**
- * Stands before the library's own function: lines without a tag never reach the Android log, so
- * the calls themselves are looked at.
- */
-extern "C" int TarnLog(unsigned int level, const char* tag, const char* function, int,
-                       const char* format, ...) {
-    char message[1024];
-    va_list args;
-    va_start(args, format);
-    vsnprintf(message, sizeof(message), format, args);
-    va_end(args);
-    gLogCalls.push_back({level, tag == nullptr ? "(no tag)" : tag, function, message});
-    return tag == nullptr ? -1 : 0;
+/** The calls so far, from whatever source line. */
+LogCalls calls() {
+    LogCalls calls = logCalls();
+    for (LogCall& call : calls) call.line = 0;
+    return calls;
 }
-
-namespace {
 
 LogCall entry(const std::string& method) {
-    return {TARN_LOG_DEBUG, "(no tag)", method, "[" + method + "] ++ \n"};
+    return {TARN_LOG_DEBUG, false, method, 0, "[" + method + "] ++ \n"};
 }
 
 LogCall ok(const std::string& method) {
-    return {TARN_LOG_DEBUG, "(no tag)", method, "[" + method + "]  tarn_ok, ret = 0\n"};
+    return {TARN_LOG_DEBUG, false, method, 0, "[" + method + "]  tarn_ok, ret = 0\n"};
 }
 
 LogCall error(const std::string& method, int ret) {
-    return {TARN_LOG_ERROR, "(no tag)", method,
+    return {TARN_LOG_ERROR, false, method, 0,
             "[" + method + "]  tarn_error, ret = " + std::to_string(ret) + "\n"};
 }
 
 class TeaDspCtrl : public ::testing::Test {
   protected:
-    TeaDspCtrl() { gLogCalls.clear(); }
+    TeaDspCtrl() { logCalls().clear(); }
 
     sp<RecordingManager> manager = new RecordingManager;
     const sp<ITeaDspCtrl> tea = new android::TeaDspCtrl(manager);
@@ -87,9 +59,9 @@ TEST_F(TeaDspCtrl, LogsTheMuteStateOfADeviceAsAnErrorUnlessItIsZero) {
     manager->answer(words({-1}));
     EXPECT_EQ(tea->GetDeviceMute(3), -1);
 
-    EXPECT_EQ(gLogCalls, (LogCalls{entry("GetDeviceMute"), ok("GetDeviceMute"),
-                                   entry("GetDeviceMute"), error("GetDeviceMute", 1),
-                                   entry("GetDeviceMute"), error("GetDeviceMute", -1)}));
+    EXPECT_EQ(calls(), (LogCalls{entry("GetDeviceMute"), ok("GetDeviceMute"),
+                                 entry("GetDeviceMute"), error("GetDeviceMute", 1),
+                                 entry("GetDeviceMute"), error("GetDeviceMute", -1)}));
 }
 
 TEST_F(TeaDspCtrl, LogsTheOutcomeOfSettingThePoeSinkRoute) {
@@ -99,7 +71,7 @@ TEST_F(TeaDspCtrl, LogsTheOutcomeOfSettingThePoeSinkRoute) {
     EXPECT_EQ(tea->SetDevicePoeSinkRouteMode(2), -7);
 
     EXPECT_EQ(
-            gLogCalls,
+            calls(),
             (LogCalls{entry("SetDevicePoeSinkRouteMode"), ok("SetDevicePoeSinkRouteMode"),
                       entry("SetDevicePoeSinkRouteMode"), error("SetDevicePoeSinkRouteMode", -7)}));
 }
@@ -107,28 +79,28 @@ TEST_F(TeaDspCtrl, LogsTheOutcomeOfSettingThePoeSinkRoute) {
 TEST_F(TeaDspCtrl, ReadsTheDeviceInformationAndLogsOnlyTheEntry) {
     manager->answer(Reply(-5).s16("d\xc3\xa9vice 2"));
     EXPECT_EQ(tea->GetDeviceInformation(), "d\xc3\xa9vice 2");
-    EXPECT_EQ(gLogCalls, LogCalls{entry("GetDeviceInformation")});
+    EXPECT_EQ(calls(), LogCalls{entry("GetDeviceInformation")});
 }
 
 TEST_F(TeaDspCtrl, LogsDeviceInformationThatCannotBeRead) {
     manager->answer(Reply(-1).s16("device 2"));
     EXPECT_EQ(tea->GetDeviceInformation(), "");
-    EXPECT_EQ(gLogCalls,
+    EXPECT_EQ(calls(),
               (LogCalls{entry("GetDeviceInformation"), error("GetDeviceInformation", -1)}));
 }
 
 TEST_F(TeaDspCtrl, ReadsThePoeSinkRouteBehindTheStatus) {
     manager->answer(words({-5, 42}));
     EXPECT_EQ(tea->GetDevicePoeSinkRouteMode(), 42);
-    EXPECT_EQ(gLogCalls,
+    EXPECT_EQ(calls(),
               (LogCalls{entry("GetDevicePoeSinkRouteMode"), ok("GetDevicePoeSinkRouteMode")}));
 }
 
 TEST_F(TeaDspCtrl, ReturnsMinusOneForThePoeSinkRouteWhenTheServiceIsDead) {
     manager->answer(words({-1, 42}));
     EXPECT_EQ(tea->GetDevicePoeSinkRouteMode(), -1);
-    EXPECT_EQ(gLogCalls, (LogCalls{entry("GetDevicePoeSinkRouteMode"),
-                                   error("GetDevicePoeSinkRouteMode", -1)}));
+    EXPECT_EQ(calls(), (LogCalls{entry("GetDevicePoeSinkRouteMode"),
+                                 error("GetDevicePoeSinkRouteMode", -1)}));
 }
 
 TEST_F(TeaDspCtrl, SendsAnAttachStateAsTextIntTextBoolText) {
@@ -137,15 +109,15 @@ TEST_F(TeaDspCtrl, SendsAnAttachStateAsTextIntTextBoolText) {
     EXPECT_EQ(manager->requests().at(0),
               hex("09210000  02000000 7000e900 00000000  07000000  00000000 00000000  01000000  "
                   "03000000 61006200 63000000"));
-    EXPECT_EQ(gLogCalls,
+    EXPECT_EQ(calls(),
               (LogCalls{entry("DevicePortAttachStateUpdate"), ok("DevicePortAttachStateUpdate")}));
 }
 
 TEST_F(TeaDspCtrl, LogsAnAttachStateThatCannotBeSent) {
     manager->answer(words({-1}));
     EXPECT_EQ(tea->DevicePortAttachStateUpdate("a", 7, "b", false, "c"), -1);
-    EXPECT_EQ(gLogCalls, (LogCalls{entry("DevicePortAttachStateUpdate"),
-                                   error("DevicePortAttachStateUpdate", -1)}));
+    EXPECT_EQ(calls(), (LogCalls{entry("DevicePortAttachStateUpdate"),
+                                 error("DevicePortAttachStateUpdate", -1)}));
 }
 
 TEST_F(TeaDspCtrl, LogsNothingInItsOtherMethods) {
@@ -162,5 +134,5 @@ TEST_F(TeaDspCtrl, LogsNothingInItsOtherMethods) {
     tea->GetDeviceMicrophoneOverallMute();
     tea->SetDeviceRingCall(1);
 
-    EXPECT_TRUE(gLogCalls.empty());
+    EXPECT_TRUE(calls().empty());
 }

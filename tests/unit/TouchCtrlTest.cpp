@@ -2,17 +2,17 @@
 #include <gtest/gtest.h>
 #include <tarn/TarnLog.h>
 
-#include <cstdarg>
 #include <cstddef>
-#include <cstdio>
 #include <string>
 #include <vector>
 
 #include "modules/TouchCtrl.h"
+#include "tests/support/LogCalls.h"
 #include "tests/support/RecordingManager.h"
 
 using namespace android;
 using tarn::test::Bytes;
+using tarn::test::logCalls;
 using tarn::test::RecordingManager;
 using tarn::test::Reply;
 using tarn::test::words;
@@ -32,36 +32,10 @@ static_assert(offsetof(TouchLogicalCoordinates, range1) == 4);
 
 namespace {
 
-struct LogCall {
-    unsigned int level;
-    bool hasTag;
-    std::string function;
-    int line;
-    std::string message;
-};
-
-std::vector<LogCall> gLogCalls;
-
-}  // namespace
-
-// Stands in for the library's own: a line without a tag leaves no other trace.
-int TarnLog(unsigned int level, const char* tag, const char* function, int line, const char* format,
-            ...) {
-    char message[1024];
-    va_list args;
-    va_start(args, format);
-    vsnprintf(message, sizeof(message), format, args);
-    va_end(args);
-    gLogCalls.push_back(LogCall{level, tag != nullptr, function, line, message});
-    return 0;
-}
-
-namespace {
-
 class TouchCtrl : public testing::Test {
   protected:
     TouchCtrl() : mManager(new RecordingManager), mTouch(new android::TouchCtrl(mManager)) {
-        gLogCalls.clear();
+        logCalls().clear();
     }
 
     const sp<RecordingManager> mManager;
@@ -104,7 +78,7 @@ TEST_F(TouchCtrl, LogsNothingOnFailure) {
     mManager->answer(words({-1}));
     mTouch->getTouchVersion();
     mTouch->getAllNoTouchAreas();
-    EXPECT_THAT(gLogCalls, IsEmpty());
+    EXPECT_THAT(logCalls(), IsEmpty());
 }
 
 TEST_F(TouchCtrl, SendsAnAreaWithoutTheExtraValues) {
@@ -176,12 +150,12 @@ TEST_F(TouchCtrl, DoesNotReadTheReplyToSetParameter) {
 TEST_F(TouchCtrl, MakesTheBrushModesLogCallWithoutATag) {
     mManager->answer(words({0, 17}));
     mTouch->getTouchBrushMode();
-    ASSERT_EQ(gLogCalls.size(), 1u);
-    EXPECT_EQ(gLogCalls[0].level, static_cast<unsigned int>(TARN_LOG_ERROR));
-    EXPECT_FALSE(gLogCalls[0].hasTag);
-    EXPECT_EQ(gLogCalls[0].function, "getTouchBrushMode");
-    EXPECT_EQ(gLogCalls[0].line, 238);
-    EXPECT_EQ(gLogCalls[0].message, "getTouchBrushMode cpp retval=17 \n");
+    ASSERT_EQ(logCalls().size(), 1u);
+    EXPECT_EQ(logCalls()[0].level, static_cast<unsigned int>(TARN_LOG_ERROR));
+    EXPECT_FALSE(logCalls()[0].hasTag);
+    EXPECT_EQ(logCalls()[0].function, "getTouchBrushMode");
+    EXPECT_EQ(logCalls()[0].line, 238);
+    EXPECT_EQ(logCalls()[0].message, "getTouchBrushMode cpp retval=17 \n");
 }
 
 TEST_F(TouchCtrl, ListsAreasWithTheirEchoedIndexAndNoExtraValue) {

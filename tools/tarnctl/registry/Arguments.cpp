@@ -41,8 +41,7 @@ int32_t parseInt(const std::string& name, const std::string& text) {
     int64_t value = 0;
     if (!readInteger(text, &value) || value < std::numeric_limits<int32_t>::min() ||
         value > std::numeric_limits<int32_t>::max()) {
-        refuse(name, text,
-               "a number from -2147483648 to 2147483647, decimal or 0x hexadecimal");
+        refuse(name, text, "a number from -2147483648 to 2147483647, decimal or 0x hexadecimal");
     }
     return static_cast<int32_t>(value);
 }

@@ -119,9 +119,8 @@ struct ArgumentReader<std::vector<T>> {
  */
 template <typename P>
 class HeldArgument {
-    using Value = std::conditional_t<
-            std::is_same_v<P, char*> || std::is_same_v<P, const char*>, std::string,
-            std::remove_cv_t<std::remove_reference_t<P>>>;
+    using Value = std::conditional_t<std::is_same_v<P, char*> || std::is_same_v<P, const char*>,
+                                     std::string, std::remove_cv_t<std::remove_reference_t<P>>>;
 
   public:
     HeldArgument(const std::string& name, const std::string& text)

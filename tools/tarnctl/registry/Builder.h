@@ -50,12 +50,12 @@ class Builder {
     template <typename Result, typename... Parameters>
     Builder& method(const char* name, int32_t code, Result (Interface::*function)(Parameters...),
                     const char* argumentNames = "") {
-        return add(name, code, slotOf(function), argumentNames,
-                   std::function<Result(Interface&, Parameters...)>(
-                           [function](Interface& controller, Parameters... arguments) -> Result {
-                               return (controller.*function)(
-                                       std::forward<Parameters>(arguments)...);
-                           }));
+        return add(
+                name, code, slotOf(function), argumentNames,
+                std::function<Result(Interface&, Parameters...)>(
+                        [function](Interface& controller, Parameters... arguments) -> Result {
+                            return (controller.*function)(std::forward<Parameters>(arguments)...);
+                        }));
     }
 
     /**
@@ -82,7 +82,7 @@ class Builder {
         method.call = [accessor = mAccessor, function, arguments = method.arguments](
                               android::ITarnManager* manager,
                               const std::vector<std::string>& texts) {
-            return call<Result, Parameters...>(*(manager->*accessor)(), function, arguments, texts,
+            return call<Result, Parameters...>(manager, accessor, function, arguments, texts,
                                                std::index_sequence_for<Parameters...>());
         };
         mController->methods.push_back(std::move(method));
@@ -90,14 +90,15 @@ class Builder {
     }
 
     template <typename Result, typename... Parameters, size_t... Index>
-    static Json::Value call(Interface& controller,
+    static Json::Value call(android::ITarnManager* manager, Accessor accessor,
                             const std::function<Result(Interface&, Parameters...)>& function,
                             const std::vector<Argument>& arguments,
-                            const std::vector<std::string>& texts,
-                            std::index_sequence<Index...>) {
+                            const std::vector<std::string>& texts, std::index_sequence<Index...>) {
         std::tuple<HeldArgument<Parameters>...> held{
                 HeldArgument<Parameters>(arguments[Index].name, texts[Index])...};
-        return toJson<std::decay_t<Result>>(function(controller, std::get<Index>(held).get()...));
+        if (manager == nullptr) return Json::Value();
+        return toJson<std::decay_t<Result>>(
+                function(*(manager->*accessor)(), std::get<Index>(held).get()...));
     }
 
     template <typename... Parameters>

@@ -2,20 +2,27 @@
 
 namespace tarnctl {
 
+// One function per controller, in controllers/<Class>.cpp.
 #define COMMAND(name, code, request, reply)
-#define CONTROLLER(name) __attribute__((weak)) void register##name(std::vector<Controller>* registry);
+#define CONTROLLER(name) void register##name(std::vector<Controller>* registry);
 #include "protocol/All.def"
 #undef CONTROLLER
 
-const std::vector<Controller>& controllers() {
-    static const std::vector<Controller> registry = [] {
-        std::vector<Controller> controllers;
-#define CONTROLLER(name) if (register##name != nullptr) register##name(&controllers);
+namespace {
+
+std::vector<Controller> registerAll() {
+    std::vector<Controller> registry;
+#define CONTROLLER(name) register##name(&registry);
 #include "protocol/All.def"
 #undef CONTROLLER
 #undef COMMAND
-        return controllers;
-    }();
+    return registry;
+}
+
+}  // namespace
+
+const std::vector<Controller>& controllers() {
+    static const std::vector<Controller> registry = registerAll();
     return registry;
 }
 

@@ -35,7 +35,10 @@ struct Method {
     std::vector<Argument> arguments;
     std::string result;  // type of the result, for people
 
-    /** Throws BadArgument before anything is sent; the count must be arguments.size(). */
+    /**
+     * Throws BadArgument before anything is sent; the count must be arguments.size(). Without a
+     * manager the arguments are only checked, and the result is null.
+     */
     std::function<Json::Value(android::ITarnManager*, const std::vector<std::string>&)> call;
 };
 

@@ -32,8 +32,7 @@ Json::Value toJson(const T& value) {
 }
 
 /** A JSON object of named values. */
-inline Json::Value fields(
-        std::initializer_list<std::pair<const char*, Json::Value>> members) {
+inline Json::Value fields(std::initializer_list<std::pair<const char*, Json::Value>> members) {
     Json::Value object(Json::objectValue);
     for (const auto& [name, value] : members) object[name] = value;
     return object;
@@ -68,7 +67,9 @@ struct ResultWriter<std::string> {
 template <>
 struct ResultWriter<char*> {
     static constexpr const char* kType = "text";
-    static Json::Value toJson(const char* value) { return value ? Json::Value(value) : Json::Value(); }
+    static Json::Value toJson(const char* value) {
+        return value ? Json::Value(value) : Json::Value();
+    }
 };
 
 template <>
