@@ -1,0 +1,37 @@
+#include "simulator/JsonFields.h"
+
+#include <algorithm>
+
+namespace tarn::simulator {
+
+void checkKeys(const Json::Value& object, std::initializer_list<const char*> allowed) {
+    if (!object.isObject()) throw JsonError(object, "needs an object");
+    for (auto member = object.begin(); member != object.end(); ++member) {
+        const std::string key = member.name();
+        if (std::find(allowed.begin(), allowed.end(), key) == allowed.end()) {
+            throw JsonError(*member, "unknown key '" + key + "'");
+        }
+    }
+}
+
+const Json::Value* findMember(const Json::Value& object, const char* key) {
+    return object.isMember(key) ? &object[key] : nullptr;
+}
+
+int64_t readNumber(const Json::Value& json, const std::string& what, int64_t min, int64_t max) {
+    if (json.type() != Json::intValue && json.type() != Json::uintValue) {
+        throw JsonError(json, what + " needs a whole number");
+    }
+    if (!json.isInt64() || json.asInt64() < min || json.asInt64() > max) {
+        throw JsonError(json, what + " is not within " + std::to_string(min) + " to " +
+                                      std::to_string(max));
+    }
+    return json.asInt64();
+}
+
+std::string readText(const Json::Value& json, const std::string& what) {
+    if (!json.isString()) throw JsonError(json, what + " needs a text");
+    return json.asString();
+}
+
+}  // namespace tarn::simulator

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
+
+#include <memory>
+#include <vector>
+
+#include "simulator/Board.h"
+#include "simulator/EventCallbacks.h"
+#include "simulator/EventDispatcher.h"
+#include "simulator/Faults.h"
+#include "simulator/PostedEvents.h"
+
+namespace tarn::simulator {
+
+/**
+ * The hardware service of a simulated board. Commands are carried out on the caller's thread, a
+ * delay or latency included; events are handed to all callbacks by a thread of the board's own, in
+ * the order of raising.
+ */
+class SimulatedBoard : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
+  public:
+    explicit SimulatedBoard(std::shared_ptr<const BoardModel> model);
+
+    /** A request that is none, or none that the board knows, is answered with status -1. */
+    ::android::hardware::Return<void> hwInvoke(const ::android::hardware::hidl_string& request,
+                                               hwInvoke_cb _hidl_cb) override;
+
+    /** A second callback of the same process replaces the first. */
+    ::android::hardware::Return<void> hwRegisterCallback(
+            const ::android::sp<::vendor::zunt::hwtarn::V1_0::IHwTarnCallback>& callback,
+            int32_t pid) override;
+
+    /** Keeps the event for postedEvents(); the board does nothing else with it. */
+    ::android::hardware::Return<void> hwPostEvent(
+            int32_t what, const ::android::hardware::hidl_string& data) override;
+
+    /** Queues an event for all callbacks; false if too many wait already. */
+    bool raiseEvent(Event event) { return mDispatcher.post(std::move(event)); }
+
+    /** State and faults as the board's files describe them; posted events are forgotten. */
+    void reset();
+
+    Board& board() { return mBoard; }
+    Faults& faults() { return mFaults; }
+    size_t callbackCount() const { return mCallbacks->size(); }
+    std::vector<PostedEvent> postedEvents() const { return mPosted.list(); }
+
+  private:
+    void switchOnDescribedFaults();
+
+    Board mBoard;
+    Faults mFaults;
+    PostedEvents mPosted;
+    const std::shared_ptr<EventCallbacks> mCallbacks;
+    EventDispatcher mDispatcher;
+};
+
+}  // namespace tarn::simulator
