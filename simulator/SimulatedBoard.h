@@ -35,8 +35,13 @@ class SimulatedBoard : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
     ::android::hardware::Return<void> hwPostEvent(
             int32_t what, const ::android::hardware::hidl_string& data) override;
 
-    /** Queues an event for all callbacks; false if too many wait already. */
-    bool raiseEvent(Event event) { return mDispatcher.post(std::move(event)); }
+    /**
+     * Queues an event for all callbacks; one that nobody has registered for is lost, as on a board.
+     * False if too many wait already.
+     */
+    bool raiseEvent(Event event) {
+        return mCallbacks->size() == 0 || mDispatcher.post(std::move(event));
+    }
 
     /** State and faults as the board's files describe them; posted events are forgotten. */
     void reset();
