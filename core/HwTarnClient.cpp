@@ -80,10 +80,9 @@ int HwTarnClient::hw_invoke(const Parcel& data, Parcel* reply) {
     if (data.dataSize() == 0) return 0;
 
     String8 answer;
-    const Return<void> status =
-            service->hwInvoke(bytesOf(data), [&answer](const hidl_string& bytes) {
-                answer.setTo(bytes.c_str(), bytes.size());
-            });
+    const Return<void> status = service->hwInvoke(
+            bytesOf(data),
+            [&answer](const hidl_string& bytes) { answer.setTo(bytes.c_str(), bytes.size()); });
     if (isDead(status)) {
         TLOGE("Error, hwInvoke failed, service is a DEAD_OBJECT.");
         return -1;

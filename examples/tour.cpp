@@ -80,8 +80,7 @@ class Listener : public ITarnListener {
 
     std::vector<unsigned int> waitFor(size_t count) {
         std::unique_lock<std::mutex> guard(mLock);
-        mChanged.wait_for(guard, std::chrono::seconds(10),
-                          [&] { return mTypes.size() >= count; });
+        mChanged.wait_for(guard, std::chrono::seconds(10), [&] { return mTypes.size() >= count; });
         return mTypes;
     }
 
@@ -104,8 +103,7 @@ void sendCommands(ITarnManager* manager) {
     printf("audio.getOtgMicState\n");
     printf("    result  %s\n", audio->getOtgMicState() ? "true" : "false");
     printf("system.setSelinuxMode 2\n");
-    printf("    result  %d\n",
-           system->setSelinuxMode(static_cast<android::_EnumSelinuxMode_>(2)));
+    printf("    result  %d\n", system->setSelinuxMode(static_cast<android::_EnumSelinuxMode_>(2)));
     printf("system.getCPUtemperature\n");
     printf("    result  \"%s\"\n", android::String8(system->getCPUtemperature()).c_str());
 }

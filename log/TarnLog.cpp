@@ -1,7 +1,6 @@
-#include <tarn/TarnLog.h>
-
 #include <android/log.h>
 #include <cutils/properties.h>
+#include <tarn/TarnLog.h>
 
 #include <atomic>
 #include <cstdarg>
@@ -55,8 +54,8 @@ void Tarn_Log_Init(void) {
     gCurrentLevel.store(level, std::memory_order_relaxed);
 }
 
-int TarnLog(unsigned int level, const char* tag, const char* function, int line,
-            const char* format, ...) {
+int TarnLog(unsigned int level, const char* tag, const char* function, int line, const char* format,
+            ...) {
     if (tag == nullptr) return -1;
     if (level < gCurrentLevel.load(std::memory_order_relaxed)) return -1;
 

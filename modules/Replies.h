@@ -38,8 +38,7 @@ inline String16 textUnlessFailed(int status, const Parcel& reply) {
  * a short reply the records read as zeros and empty texts and are appended all the same.
  */
 template <typename Record>
-void readList(const Parcel& reply, Record (*readRecord)(const Parcel&),
-              std::vector<Record>* list) {
+void readList(const Parcel& reply, Record (*readRecord)(const Parcel&), std::vector<Record>* list) {
     const int32_t count = reply.readInt32();
     for (int32_t i = 0; i < count; i++) list->push_back(readRecord(reply));
 }

@@ -13,11 +13,8 @@ struct TypeName {
 };
 
 constexpr TypeName kTypeNames[] = {
-        {"i32", Type::kInt32},
-        {"bool", Type::kBool},
-        {"s16", Type::kString16},
-        {"f32", Type::kFloat},
-        {"bytes", Type::kBytes},
+        {"i32", Type::kInt32}, {"bool", Type::kBool},   {"s16", Type::kString16},
+        {"f32", Type::kFloat}, {"bytes", Type::kBytes},
 };
 
 class Parser {

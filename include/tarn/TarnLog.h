@@ -34,8 +34,8 @@ void Tarn_Log_Init(void);
  * @param tag   the line's tag; null drops the line.
  * @return 0 when the line was written, -1 when it was filtered out or had no tag.
  */
-int TarnLog(unsigned int level, const char* tag, const char* function, int line,
-            const char* format, ...) __attribute__((format(printf, 5, 6)));
+int TarnLog(unsigned int level, const char* tag, const char* function, int line, const char* format,
+            ...) __attribute__((format(printf, 5, 6)));
 
 /**
  * Sets the filter level of this process and persists its name in the property

@@ -44,11 +44,10 @@ class Listener : public ITarnListener {
         EXPECT_EQ(data->dataPosition(), 0u);
         {
             std::lock_guard<std::mutex> guard(mLock);
-            mReceived.push_back(
-                    Received{msgType,
-                             std::string(reinterpret_cast<const char*>(data->data()),
-                                         data->dataSize()),
-                             Clock::now()});
+            mReceived.push_back(Received{
+                    msgType,
+                    std::string(reinterpret_cast<const char*>(data->data()), data->dataSize()),
+                    Clock::now()});
         }
         mChanged.notify_all();
         if (onNotify) onNotify();

@@ -1,9 +1,8 @@
-#include "core/HwTarnClient.h"
-
 #include <binder/Parcel.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include "core/HwTarnClient.h"
 #include "tests/support/FakeHwTarn.h"
 #include "tests/support/LogCapture.h"
 

@@ -165,8 +165,7 @@ TEST_F(TarnClientTest, HandsANotificationToItsCallbackAndFreesItsBuffer) {
     proxy->notify(3, bytes, 4, nullptr);
     EXPECT_THAT(callback->types, ElementsAre(3u));
     EXPECT_THAT(callback->bytes, ElementsAre("abcd"));
-    EXPECT_THAT(log.messages(),
-                ElementsAre("callback application type=3", "back from callback"));
+    EXPECT_THAT(log.messages(), ElementsAre("callback application type=3", "back from callback"));
     EXPECT_EQ(log.lines()[0].priority, 3);
 }
 
@@ -182,8 +181,7 @@ TEST_F(TarnClientTest, LogsBothLinesWithoutACallback) {
     const sp<TarnClient> client = new TarnClient;
     LogCapture log;
     client->notify(8, nullptr, 0, nullptr);
-    EXPECT_THAT(log.messages(),
-                ElementsAre("callback application type=8", "back from callback"));
+    EXPECT_THAT(log.messages(), ElementsAre("callback application type=8", "back from callback"));
 }
 
 TEST_F(TarnClientTest, TakesACallbackFromADerivedClass) {

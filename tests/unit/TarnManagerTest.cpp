@@ -77,7 +77,8 @@ TEST(TarnManager, CarriesACommandToTheServiceAndBack) {
     sp<TarnManager> manager = new TarnManager;
     EXPECT_EQ(manager->isTarnReady(), 0);
     EXPECT_EQ(manager->exeCmdSet_Int(0x1402, 30), 30);
-    EXPECT_EQ(service->requests(), std::vector<std::string>{std::string("\x02\x14\0\0\x1e\0\0\0", 8)});
+    EXPECT_EQ(service->requests(),
+              std::vector<std::string>{std::string("\x02\x14\0\0\x1e\0\0\0", 8)});
 }
 
 TEST(TarnManager, LeavesTheCallersRequestAloneAndRewindsTheReply) {

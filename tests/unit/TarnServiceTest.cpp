@@ -21,8 +21,8 @@ using android::ITarnClient;
 using android::ITarnService;
 using android::Parcel;
 using android::sp;
-using android::status_t;
 using android::sTarnPlatform;
+using android::status_t;
 using android::String16;
 using android::TarnService;
 using namespace tarn::test;
@@ -241,8 +241,9 @@ TEST_F(TarnServiceFanOut, KeepsAClientThatConnectsAgainOnce) {
     LogCapture log;
     EXPECT_EQ(service->connect(5, ITarnClient::asInterface(relay)), -1);
     EXPECT_EQ(service->connect(5, ITarnClient::asInterface(relay)), -1);
-    EXPECT_THAT(log.messages(), ElementsAre("entern connect, client pid = 5", "mClients.size = 1 ",
-                                            "entern connect, client pid = 5", "mClients.size = 1 "));
+    EXPECT_THAT(log.messages(),
+                ElementsAre("entern connect, client pid = 5", "mClients.size = 1 ",
+                            "entern connect, client pid = 5", "mClients.size = 1 "));
     EXPECT_EQ(log.lines()[0].tag, "Zunt@TarnService");
     EXPECT_EQ(log.lines()[0].priority, 3);
 

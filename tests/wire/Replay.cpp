@@ -160,9 +160,9 @@ class Replayer {
 
     /** The file is typed from the tables a second time: its order must be the slot order too. */
     void checkOrder() {
-        const bool ordered = std::is_sorted(
-                mOrder.begin(), mOrder.end(),
-                [](const Method* a, const Method* b) { return a->slot < b->slot; });
+        const bool ordered =
+                std::is_sorted(mOrder.begin(), mOrder.end(),
+                               [](const Method* a, const Method* b) { return a->slot < b->slot; });
         if (!ordered) mReport->failures.push_back("the cases are not in slot order");
     }
 

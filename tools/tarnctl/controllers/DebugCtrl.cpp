@@ -9,8 +9,10 @@ namespace tarnctl {
 
 void registerDebugCtrl(std::vector<Controller>* registry) {
     Builder<IDebugCtrl>(registry, "debug", "DebugCtrl", &ITarnManager::getDebugCtrl)
-            .method("getSuperRootState", CMD_DEBUG_GET_SUPER_ROOT_STATE, &IDebugCtrl::getSuperRootState)
-            .method("setSuperRootState", CMD_DEBUG_SET_SUPER_ROOT_STATE, &IDebugCtrl::setSuperRootState, "state");
+            .method("getSuperRootState", CMD_DEBUG_GET_SUPER_ROOT_STATE,
+                    &IDebugCtrl::getSuperRootState)
+            .method("setSuperRootState", CMD_DEBUG_SET_SUPER_ROOT_STATE,
+                    &IDebugCtrl::setSuperRootState, "state");
 }
 
 }  // namespace tarnctl

@@ -9,7 +9,8 @@ namespace tarnctl {
 
 void registerEasyTouch(std::vector<Controller>* registry) {
     Builder<IEasyTouch>(registry, "easyTouch", "EasyTouch", &ITarnManager::getEasyTouch)
-            .method("getEasyTouchLogInfo", CMD_EASY_TOUCH_GET_LOG_INFO, &IEasyTouch::getEasyTouchLogInfo);
+            .method("getEasyTouchLogInfo", CMD_EASY_TOUCH_GET_LOG_INFO,
+                    &IEasyTouch::getEasyTouchLogInfo);
 }
 
 }  // namespace tarnctl

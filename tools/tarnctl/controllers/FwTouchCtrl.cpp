@@ -64,14 +64,15 @@ void registerFwTouchCtrl(std::vector<Controller>* registry) {
                          const bool ok = fwTouch.getFwTouchList(&list);
                          return fields({{"result", ok}, {"list", toJson(list)}});
                      })
-            .adapted("getFwTouchDriverInfoList", CMD_FW_TOUCH_GET_DRIVER_LIST, &IFwTouchCtrl::getFwTouchDriverInfoList,
+            .adapted("getFwTouchDriverInfoList", CMD_FW_TOUCH_GET_DRIVER_LIST,
+                     &IFwTouchCtrl::getFwTouchDriverInfoList,
                      [](IFwTouchCtrl& fwTouch) {
                          std::vector<EntityFwTouchDriver> list;
                          const bool ok = fwTouch.getFwTouchDriverInfoList(&list);
                          return fields({{"result", ok}, {"list", toJson(list)}});
                      })
-            .adapted("getTouchFwDataList", CMD_FW_TOUCH_GET_DATA_LIST, &IFwTouchCtrl::getTouchFwDataList,
-                     [](IFwTouchCtrl& fwTouch) {
+            .adapted("getTouchFwDataList", CMD_FW_TOUCH_GET_DATA_LIST,
+                     &IFwTouchCtrl::getTouchFwDataList, [](IFwTouchCtrl& fwTouch) {
                          std::vector<TouchFwDataList> list;
                          const bool ok = fwTouch.getTouchFwDataList(&list);
                          return fields({{"result", ok}, {"list", toJson(list)}});

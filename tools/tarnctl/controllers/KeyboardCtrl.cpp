@@ -9,8 +9,10 @@ namespace tarnctl {
 
 void registerKeyboardCtrl(std::vector<Controller>* registry) {
     Builder<IKeyboardCtrl>(registry, "keyboard", "KeyboardCtrl", &ITarnManager::getKeyboardCtrl)
-            .method("getKeyboardByName", CMD_KEYBOARD_GET_BY_NAME, &IKeyboardCtrl::getKeyboardByName, "name")
-            .method("getKeyboardByID", CMD_KEYBOARD_GET_BY_ID, &IKeyboardCtrl::getKeyboardByID, "id0, id1");
+            .method("getKeyboardByName", CMD_KEYBOARD_GET_BY_NAME,
+                    &IKeyboardCtrl::getKeyboardByName, "name")
+            .method("getKeyboardByID", CMD_KEYBOARD_GET_BY_ID, &IKeyboardCtrl::getKeyboardByID,
+                    "id0, id1");
 }
 
 }  // namespace tarnctl

@@ -9,8 +9,10 @@ namespace tarnctl {
 
 void registerLandscapeCtrl(std::vector<Controller>* registry) {
     Builder<ILandscapeCtrl>(registry, "landscape", "LandscapeCtrl", &ITarnManager::getLandscapeCtrl)
-            .method("setLandscapeAppList", CMD_LANDSCAPE_SET_APP_LIST, &ILandscapeCtrl::setLandscapeAppList, "apps")
-            .method("getLandscapeAppList", CMD_LANDSCAPE_GET_APP_LIST, &ILandscapeCtrl::getLandscapeAppList);
+            .method("setLandscapeAppList", CMD_LANDSCAPE_SET_APP_LIST,
+                    &ILandscapeCtrl::setLandscapeAppList, "apps")
+            .method("getLandscapeAppList", CMD_LANDSCAPE_GET_APP_LIST,
+                    &ILandscapeCtrl::getLandscapeAppList);
 }
 
 }  // namespace tarnctl

@@ -15,14 +15,18 @@ constexpr size_t kValueSize = 92;
 }  // namespace
 
 void registerPropertiesCtrl(std::vector<Controller>* registry) {
-    Builder<IPropertiesCtrl>(registry, "properties", "PropertiesCtrl", &ITarnManager::getPropertiesCtrl)
-            .adapted("property_get", CMD_PROPERTIES_GET, &IPropertiesCtrl::property_get,
-                     [](IPropertiesCtrl& properties, const char* key, const char* defaultValue) {
-                         char value[kValueSize] = "";
-                         const int result = properties.property_get(key, value, defaultValue);
-                         return fields({{"result", result}, {"value", value}});
-                     }, "key, defaultValue")
-            .method("property_set", CMD_PROPERTIES_SET, &IPropertiesCtrl::property_set, "key, value");
+    Builder<IPropertiesCtrl>(registry, "properties", "PropertiesCtrl",
+                             &ITarnManager::getPropertiesCtrl)
+            .adapted(
+                    "property_get", CMD_PROPERTIES_GET, &IPropertiesCtrl::property_get,
+                    [](IPropertiesCtrl& properties, const char* key, const char* defaultValue) {
+                        char value[kValueSize] = "";
+                        const int result = properties.property_get(key, value, defaultValue);
+                        return fields({{"result", result}, {"value", value}});
+                    },
+                    "key, defaultValue")
+            .method("property_set", CMD_PROPERTIES_SET, &IPropertiesCtrl::property_set,
+                    "key, value");
 }
 
 }  // namespace tarnctl

@@ -12,7 +12,8 @@ void registerRemoteCtrl(std::vector<Controller>* registry) {
             .method("disableRemoteCtrl", CMD_REMOTE_DISABLE, &IRemoteCtrl::disableRemoteCtrl)
             .method("enableRemoteCtrl", CMD_REMOTE_ENABLE, &IRemoteCtrl::enableRemoteCtrl)
             .method("getParameter", CMD_REMOTE_GET_PARAMETER, &IRemoteCtrl::getParameter, "key")
-            .method("setParameter", CMD_REMOTE_SET_PARAMETER, &IRemoteCtrl::setParameter, "key, value");
+            .method("setParameter", CMD_REMOTE_SET_PARAMETER, &IRemoteCtrl::setParameter,
+                    "key, value");
 }
 
 }  // namespace tarnctl

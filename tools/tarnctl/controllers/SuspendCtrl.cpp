@@ -10,9 +10,12 @@ namespace tarnctl {
 void registerSuspendCtrl(std::vector<Controller>* registry) {
     Builder<ISuspendCtrl>(registry, "suspend", "SuspendCtrl", &ITarnManager::getSuspendCtrl)
             .method("getSuspendStatus", CMD_SUSPEND_GET_STATUS, &ISuspendCtrl::getSuspendStatus)
-            .method("setSuspendStatus", CMD_SUSPEND_SET_STATUS, &ISuspendCtrl::setSuspendStatus, "on")
-            .method("getFakeStandyStatus", CMD_SUSPEND_GET_FAKE_STANDBY_STATUS, &ISuspendCtrl::getFakeStandyStatus)
-            .method("setFakeStandyStatus", CMD_SUSPEND_SET_FAKE_STANDBY_STATUS, &ISuspendCtrl::setFakeStandyStatus, "on");
+            .method("setSuspendStatus", CMD_SUSPEND_SET_STATUS, &ISuspendCtrl::setSuspendStatus,
+                    "on")
+            .method("getFakeStandyStatus", CMD_SUSPEND_GET_FAKE_STANDBY_STATUS,
+                    &ISuspendCtrl::getFakeStandyStatus)
+            .method("setFakeStandyStatus", CMD_SUSPEND_SET_FAKE_STANDBY_STATUS,
+                    &ISuspendCtrl::setFakeStandyStatus, "on");
 }
 
 }  // namespace tarnctl
