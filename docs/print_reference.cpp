@@ -1,0 +1,64 @@
+// Prints docs/reference.md: every method with its command and its bytes, from the registry and the
+// rows. A test keeps the printed page fresh.
+
+#include <cstdio>
+#include <string>
+
+#include "protocol/Catalog.h"
+#include "tools/tarnctl/registry/Registry.h"
+
+using tarn::protocol::Command;
+using tarnctl::Controller;
+using tarnctl::Method;
+
+namespace {
+
+std::string signature(const Method& method) {
+    std::string text = method.name + "(";
+    for (const tarnctl::Argument& argument : method.arguments) {
+        if (text.back() != '(') text += ", ";
+        text += argument.type + " " + argument.name;
+    }
+    return text + ")";
+}
+
+/** Of two rows that share a code by design, the one whose request fits the method. */
+const Command* rowOf(const Method& method) {
+    const auto rows = tarn::protocol::findCommands(method.code);
+    for (const Command* row : rows) {
+        if (row->requestLayout().empty() == method.arguments.empty()) return row;
+    }
+    return rows.empty() ? nullptr : rows.front();
+}
+
+std::string layout(const char* text) {
+    return *text == '\0' ? "" : "`" + std::string(text) + "`";
+}
+
+void printMethod(const Method& method) {
+    printf("| `%s` | %s |", signature(method).c_str(), method.result.c_str());
+    const Command* row = method.code != tarnctl::kNoCommand ? rowOf(method) : nullptr;
+    if (row == nullptr) {
+        printf(" | sends no command | | |\n");
+        return;
+    }
+    printf(" 0x%04X | `%s` | %s | %s |\n", static_cast<unsigned int>(row->code), row->name,
+           layout(row->request).c_str(), layout(row->reply).c_str());
+}
+
+}  // namespace
+
+int main() {
+    printf("# Reference\n\n");
+    printf("Printed by `print_reference`; do not edit. Arguments and results as `tarnctl` takes "
+           "and "
+           "shows them; the request stands\nbehind the command's code, the reply behind the status "
+           "word. Without a reply the status is the answer.\n");
+    for (const Controller& controller : tarnctl::controllers()) {
+        printf("\n## %s (`%s`)\n\n", controller.className.c_str(), controller.name.c_str());
+        printf("| method | result | code | command | request | reply "
+               "|\n|---|---|---|---|---|---|\n");
+        for (const Method& method : controller.methods) printMethod(method);
+    }
+    return 0;
+}
