@@ -25,7 +25,7 @@ TarnService::TarnService() = default;
 
 TarnService::~TarnService() {
     TLOGD("TarnService destroyed");
-    exitTv();
+    TarnService::exitTv();
 }
 
 bool TarnService::hasClient(const sp<ITarnClient>& client) const {
@@ -66,7 +66,7 @@ int TarnService::notify(unsigned int msgType, void* data, unsigned int size, voi
         clients = mClients;
     }
     for (size_t i = 0; i < clients.size(); i++) {
-        const sp<ITarnClient> client = clients[i];
+        const sp<ITarnClient>& client = clients[i];
         if (client == nullptr) continue;
         TLOGD("Notify<Client:%p Type:%d>", client.get(), static_cast<int>(msgType));
         client->notify(msgType, data, size, ext);

@@ -15,6 +15,13 @@ function(tarn_test name)
   tarn_test_environment(${name})
 endfunction()
 
+# tarn_test_threaded(NAME...): tests that run under the thread sanitizer too.
+add_custom_target(threaded_tests)
+function(tarn_test_threaded)
+  add_dependencies(threaded_tests ${ARGN})
+  set_property(TEST ${ARGN} APPEND PROPERTY LABELS threaded)
+endfunction()
+
 # tarn_test_environment(NAME...): what a test must not share with its neighbours or the user.
 function(tarn_test_environment)
   foreach(name IN LISTS ARGN)

@@ -36,6 +36,7 @@ void registerBurnMacCtrl(std::vector<Controller>* registry) {
             .adapted(
                     "setBurnMacBytes", CMD_BURN_MAC_SET_MAC_BYTES, setBytes,
                     [](IBurnMacCtrl& burnMac, _EnumBurnMacType type, std::vector<uint8_t> mac) {
+                        mac.reserve(1);  // so that no bytes are not a null array
                         return burnMac.setBurnMac(type, mac.data(), static_cast<int>(mac.size()));
                     },
                     "type, mac")
