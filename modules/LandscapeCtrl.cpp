@@ -16,6 +16,7 @@ LandscapeCtrl::LandscapeCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager)
 bool LandscapeCtrl::setLandscapeAppList(std::vector<std::string> apps) {
     TLOGD_AT(53, "[%s] ++ \n", __func__);
     std::vector<String16> texts;
+    texts.reserve(apps.size());
     for (const std::string& app : apps) texts.push_back(String16(app.data(), app.size()));
     Parcel request;
     request.writeString16Vector(texts);

@@ -161,7 +161,7 @@ status_t BpBinder::linkToDeath(const sp<DeathRecipient>& recipient, void* cookie
         return BAD_VALUE;
     }
     AutoMutex lock(mLock);
-    if (load(mObitsSent) != 0) return DEAD_OBJECT;
+    if (load(mObitsSent) != 0 || !isBinderAlive()) return DEAD_OBJECT;
     if (mObituaries == nullptr) {
         mObituaries = new Vector<Obituary>;
         IPCThreadState::self()->requestDeathNotification(mHandle, this);

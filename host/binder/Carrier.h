@@ -4,6 +4,7 @@
 #include <binder/Parcel.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -20,7 +21,7 @@ struct Payload {
     std::vector<Object> objects;  // ordered by offset
 };
 
-/** One transaction that another process sent to an object of this one. */
+/** One transaction that another process sent to an object of this one, or an errand. */
 class IncomingCall {
   public:
     virtual ~IncomingCall() = default;
@@ -34,6 +35,9 @@ class IncomingCall {
     Payload request;
     pid_t callingPid = 0;
     uid_t callingUid = 0;
+
+    /** Work of the carrier's own, such as a death to tell of: set, it is all there is to do. */
+    std::function<void()> errand;
 };
 
 /**
@@ -60,6 +64,9 @@ class Carrier {
      */
     virtual std::unique_ptr<IncomingCall> receive() = 0;
 
+    /** Ends the pool: from now on receive() gives null. */
+    virtual void stop() {}
+
     /** Counts the proxies of a handle: the remote object is kept while there is one. */
     virtual void acquire(int32_t handle) = 0;
     virtual void release(int32_t handle) = 0;
@@ -80,6 +87,15 @@ class Carrier {
 
 /** The carrier in use; null where everything stays within this process. */
 Carrier* carrier();
+
+/** Sets a carrier over the session bus, the first time, if there is a bus and no carrier yet. */
+void connectCarrier();
+
+/** Starts the pool's threads if they are not running, unless the process wants none. */
+void startPoolForCalls();
+
+/** Another process took over the name of a service: its entry in this process's table goes. */
+void serviceReplaced(const String16& name, const sp<IBinder>& service);
 
 /** Sets the carrier, which stays its giver's and must outlive its use; null takes it out again. */
 void setCarrier(Carrier* newCarrier);

@@ -122,6 +122,15 @@ class ServiceTable : public IServiceManager {
         return true;
     }
 
+    void removeReplaced(const String16& name, const sp<IBinder>& service) {
+        std::map<String16, Entry>::node_type removed;
+        std::lock_guard<std::mutex> lock(mLock);
+        const auto found = mServices.find(name);
+        if (found != mServices.end() && found->second.binder == service) {
+            removed = mServices.extract(found);
+        }
+    }
+
     void removeAll() {
         for (const String16& name : localNames()) remove(name);
     }
@@ -165,6 +174,7 @@ const String16& IServiceManager::getInterfaceDescriptor() const {
 }
 
 sp<IServiceManager> defaultServiceManager() {
+    host::connectCarrier();
     std::lock_guard<std::mutex> lock(gManagerLock);
     if (gManager == nullptr) gManager = ServiceTable::get();
     return gManager;
@@ -193,6 +203,10 @@ bool checkCallingPermission(const String16& permission) {
 }
 
 namespace host {
+
+void serviceReplaced(const String16& name, const sp<IBinder>& service) {
+    ServiceTable::get()->removeReplaced(name, service);
+}
 
 bool removeService(const String16& name) {
     return ServiceTable::get()->remove(name);

@@ -273,6 +273,7 @@ void IPCThreadState::joinThreadPool(bool /*isMain*/) {
 
 void IPCThreadState::stopProcess(bool /*immediate*/) {
     IdlePool::get().release();
+    if (host::Carrier* carrier = host::carrier(); carrier != nullptr) carrier->stop();
 }
 
 void IPCThreadState::blockUntilThreadAvailable() {
@@ -288,7 +289,7 @@ void IPCThreadState::blockUntilThreadAvailable() {
 status_t IPCThreadState::getAndExecuteCommand() {
     host::Carrier* const carrier = host::carrier();
     if (carrier == nullptr) return NO_INIT;
-    const std::unique_ptr<host::IncomingCall> call = carrier->receive();
+    std::unique_ptr<host::IncomingCall> call = carrier->receive();
     if (call == nullptr) return NO_INIT;
 
     pthread_mutex_lock(&mProcess->mThreadCountLock);
@@ -300,9 +301,14 @@ status_t IPCThreadState::getAndExecuteCommand() {
     }
     pthread_mutex_unlock(&mProcess->mThreadCountLock);
 
-    tIncoming = call.get();
-    executeCommand(static_cast<int32_t>(call->code));
-    tIncoming = nullptr;
+    if (call->errand) {
+        call->errand();
+    } else {
+        tIncoming = call.get();
+        executeCommand(static_cast<int32_t>(call->code));
+        tIncoming = nullptr;
+    }
+    call.reset();
 
     pthread_mutex_lock(&mProcess->mThreadCountLock);
     mProcess->mExecutingThreadsCount--;

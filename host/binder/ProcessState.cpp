@@ -8,6 +8,7 @@
 #include <pthread.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -33,6 +34,9 @@ void nameThisThread(const std::string& name) {
     pthread_setname_np(pthread_self(), name.substr(0, kMaxThreadName).c_str());
 }
 
+// Set once the process said that it wants no threads but those that it lets join the pool.
+std::atomic<bool> gNoThreadsWanted{false};
+
 std::mutex gInstanceLock;
 // Never destroyed: pool threads may run until the very end of the process.
 sp<ProcessState>& gInstance = *new sp<ProcessState>;
@@ -40,6 +44,7 @@ sp<ProcessState>& gInstance = *new sp<ProcessState>;
 }  // namespace
 
 sp<ProcessState> ProcessState::self() {
+    host::connectCarrier();
     std::lock_guard<std::mutex> lock(gInstanceLock);
     if (gInstance == nullptr) gInstance = new ProcessState(kDriverName);
     return gInstance;
@@ -149,6 +154,7 @@ String8 ProcessState::makeBinderThreadName() {
 status_t ProcessState::setThreadPoolMaxThreadCount(size_t maxThreads) {
     pthread_mutex_lock(&mThreadCountLock);
     mMaxThreads = maxThreads;
+    gNoThreadsWanted = maxThreads == 0;
     pthread_mutex_unlock(&mThreadCountLock);
     return NO_ERROR;
 }
@@ -170,5 +176,13 @@ void ProcessState::setCallRestriction(CallRestriction restriction) {
                         "Call restrictions must be set before the first thread");
     mCallRestriction = restriction;
 }
+
+namespace host {
+
+void startPoolForCalls() {
+    if (!gNoThreadsWanted) ProcessState::self()->startThreadPool();
+}
+
+}  // namespace host
 
 }  // namespace android
