@@ -1,0 +1,57 @@
+#pragma once
+
+#include <json/value.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tarnctl {
+
+/**
+ * The control of a simulated board. What the board refuses throws std::invalid_argument with the
+ * reason.
+ */
+class BoardLink {
+  public:
+    virtual ~BoardLink() = default;
+
+    virtual std::string name() const = 0;
+
+    /** By name: {"type", "value", "initial", "min", "max", "values", "indexed"}, what there is. */
+    virtual Json::Value properties() const = 0;
+
+    /** Of an indexed property "name[index]" is one element. */
+    virtual Json::Value property(const std::string& name) const = 0;
+    virtual void setProperty(const std::string& name, const std::string& value) = 0;
+
+    virtual void raiseEvent(uint32_t type, const std::vector<uint8_t>& data) = 0;
+
+    /** The events that applications posted: [{"what", "data"}], data as hexadecimal pairs. */
+    virtual Json::Value postedEvents() const = 0;
+
+    virtual void reset() = 0;
+
+    /** [{"command", "fault"}] */
+    virtual Json::Value faults() const = 0;
+
+    /** For a command by name, or "*" for all; fault is what the board's files call "fail". */
+    virtual void setFault(const std::string& command, const Json::Value& fault) = 0;
+    virtual void clearFault(const std::string& command) = 0;
+    virtual void clearFaults() = 0;
+};
+
+/** The files that describe a board; empty ones stand for the default board, without overrides. */
+struct BoardFiles {
+    std::string board;
+    std::string overrides;
+};
+
+/**
+ * Starts a simulated board as this process's hardware service; null where tarnctl is built without
+ * one. Throws std::runtime_error if the board is refused.
+ */
+std::unique_ptr<BoardLink> startEmbeddedBoard(const BoardFiles& files);
+
+}  // namespace tarnctl

@@ -1,0 +1,47 @@
+#include "tools/tarnctl/cli/Console.h"
+
+#include <sstream>
+
+#include "tools/tarnctl/cli/Text.h"
+
+namespace tarnctl {
+
+void Output::result(const Json::Value& value) {
+    lines(isJson() ? std::vector<std::string>{jsonText(value, mStyle)} : plainLines(value));
+}
+
+void Output::report(const Report& report) {
+    Json::Value object(Json::objectValue);
+    std::vector<std::string> text;
+    for (const auto& [name, value] : report) {
+        object[name] = value;
+        // One at a time, since an object would put them into the order of their names.
+        Json::Value single(Json::objectValue);
+        single[name] = value;
+        for (const std::string& line : plainLines(single)) text.push_back(line);
+    }
+    if (isJson()) {
+        result(object);
+    } else {
+        lines(text);
+    }
+}
+
+void Output::lines(const std::vector<std::string>& lines) {
+    for (const std::string& line : lines) mStream << line << '\n';
+    mStream.flush();
+}
+
+void Diagnostics::note(const std::string& message) const {
+    if (!mQuiet) requested(message);
+}
+
+void Diagnostics::requested(const std::string& message) const {
+    std::istringstream lines(message);
+    for (std::string line; std::getline(lines, line);) {
+        mStream << "tarnctl: " << mPlace << line << '\n';
+    }
+    mStream.flush();
+}
+
+}  // namespace tarnctl

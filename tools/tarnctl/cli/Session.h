@@ -1,0 +1,51 @@
+#pragma once
+
+#include <utils/StrongPointer.h>
+
+#include <memory>
+
+#include "tools/tarnctl/cli/BoardLink.h"
+#include "tools/tarnctl/cli/Console.h"
+#include "tools/tarnctl/cli/EventCollector.h"
+#include "tools/tarnctl/cli/Options.h"
+#include "tools/tarnctl/cli/TracingManager.h"
+
+namespace tarnctl {
+
+/**
+ * The service that a run of tarnctl works with: the one that it finds, or a simulated board that it
+ * starts. Found or started when it is first needed.
+ */
+class Session {
+  public:
+    /** collectEvents: from the moment when the service is found, not when they are first asked for.
+     */
+    Session(const Options& options, const Diagnostics& diagnostics, bool collectEvents)
+        : mOptions(options), mDiagnostics(diagnostics), mCollectEvents(collectEvents) {}
+
+    /** Lives as long as the process. Throws Failure(kUnreachable). */
+    TracingManager& manager();
+
+    /** Leaves the manager to a call that doesn't come back; the next one is new. */
+    void abandonManager() { mManager = nullptr; }
+
+    /** The simulated board that this process runs, or null. */
+    BoardLink* board();
+
+    /** Throws Failure(kUnreachable). */
+    EventCollector& events();
+
+  private:
+    void connect();
+    void startBoard();
+
+    const Options mOptions;
+    const Diagnostics mDiagnostics;
+    const bool mCollectEvents;
+    bool mConnected = false;
+    std::unique_ptr<BoardLink> mBoard;
+    android::sp<TracingManager> mManager;
+    android::sp<EventCollector> mEvents;
+};
+
+}  // namespace tarnctl
