@@ -167,8 +167,10 @@ bool HwTarnClient::handleMsg(unsigned int msgType, void* data, unsigned int size
 
     Parcel parcel;
     if (data != nullptr && size != 0) parcel.write(data, size);
-    parcel.setDataPosition(0);
-    for (ITarnListener* listener : listeners) listener->notify(msgType, 0, 0, &parcel);
+    for (ITarnListener* listener : listeners) {
+        parcel.setDataPosition(0);
+        listener->notify(msgType, 0, 0, &parcel);
+    }
     return false;
 }
 

@@ -25,20 +25,24 @@ std::atomic<uint32_t> gCurrentLevel{kDefaultLevel};
 
 constexpr size_t kMessageSize = 1024;
 
-int write(int priority, const char* tag, const char* function, int line, const char* message) {
+void writeLine(int priority, const char* tag, const char* function, int line, const char* message) {
     switch (priority) {
         case TARN_LOG_INFO:
-            return __android_log_print(priority, tag, "\x1b[36m[%s:%d] %s\x1b[0m", function, line,
-                                       message);
+            __android_log_print(priority, tag, "\x1b[36m[%s:%d] %s\x1b[0m", function, line,
+                                message);
+            break;
         case TARN_LOG_WARN:
-            return __android_log_print(priority, tag, "\x1b[35m[%s:%d] %s\x1b[0m", function, line,
-                                       message);
+            __android_log_print(priority, tag, "\x1b[35m[%s:%d] %s\x1b[0m", function, line,
+                                message);
+            break;
         case TARN_LOG_ERROR:
         case TARN_LOG_FATAL:
-            return __android_log_print(priority, tag, "\x1b[31m[%s:%d] %s\x1b[0m", function, line,
-                                       message);
+            __android_log_print(priority, tag, "\x1b[31m[%s:%d] %s\x1b[0m", function, line,
+                                message);
+            break;
         default:
-            return __android_log_print(priority, tag, "[%s:%d] %s", function, line, message);
+            __android_log_print(priority, tag, "[%s:%d] %s", function, line, message);
+            break;
     }
 }
 
@@ -67,7 +71,7 @@ int TarnLog(unsigned int level, const char* tag, const char* function, int line,
         va_end(args);
     }
     const int priority = level <= TARN_LOG_FATAL ? static_cast<int>(level) : TARN_LOG_UNKNOWN;
-    write(priority, tag, function != nullptr ? function : "(null)", line, message);
+    writeLine(priority, tag, function != nullptr ? function : "(null)", line, message);
     return 0;
 }
 

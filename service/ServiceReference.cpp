@@ -24,7 +24,8 @@ sp<IBinder> waitForPublishedService() {
     for (;;) {
         const sp<IBinder> binder = manager->getService(String16("tarn.service"));
         if (binder != nullptr) return binder;
-        TLOGD("TarnService not published...");
+        TarnLog(TARN_LOG_DEBUG, TARN_LOG_TAG, "getTarnService", __LINE__,
+                "TarnService not published...");
         usleep(kPollIntervalUs);
     }
 }

@@ -12,8 +12,9 @@ class Parcel;
 class ITarnListener {
   public:
     /**
-     * Called for every event on the library's event thread, one event at a time, with no library
-     * lock held: it may issue commands and register or unregister listeners.
+     * Called for every event on the library's event thread with no library lock held: it may issue
+     * commands and register or unregister listeners. Events come one at a time and in order, unless
+     * createTarnMsgManager() was called more than once: each call adds a thread.
      *
      * @param msgType the event's number, service-defined.
      * @param ext1    always 0.

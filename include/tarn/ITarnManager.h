@@ -147,7 +147,7 @@ class ITarnManager : public virtual RefBase {
 
     /**
      * Starts the delivery of events: registers with the service and starts the event thread.
-     * Every call starts one more thread.
+     * Every call starts one more thread, and several deliver side by side.
      *
      * @return 0 on success; -1 when the service can't be reached or no thread could be started.
      */

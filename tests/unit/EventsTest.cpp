@@ -42,6 +42,7 @@ class Listener : public ITarnListener {
         EXPECT_EQ(ext1, 0);
         EXPECT_EQ(ext2, 0);
         EXPECT_EQ(data->dataPosition(), 0u);
+        data->setDataPosition(data->dataSize());
         {
             std::lock_guard<std::mutex> guard(mLock);
             mReceived.push_back(Received{
@@ -123,6 +124,16 @@ TEST_F(Events, ComeWithAnEmptyParcelWhenTheyCarryNothing) {
     ASSERT_TRUE(listener.waitFor(1));
     EXPECT_EQ(listener.received()[0].bytes, "");
     manager->unRegisterListener(&listener);
+}
+
+TEST_F(Events, StandAtTheirStartForEveryListener) {
+    // A listener checks the position and then reads to the end.
+    Listener* const listeners[] = {&keptListener(), &keptListener()};
+    for (Listener* listener : listeners) manager->registerListener(listener);
+    manager->createTarnMsgManager();
+    service->raiseEvent(7, {42, 0, 0, 0});
+    for (Listener* listener : listeners) EXPECT_TRUE(listener->waitFor(1));
+    for (Listener* listener : listeners) manager->unRegisterListener(listener);
 }
 
 TEST_F(Events, ComeOnceToAListenerThatRegisteredTwice) {

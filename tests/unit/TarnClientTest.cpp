@@ -126,6 +126,11 @@ TEST_F(TarnClientTest, WaitsUntilTheServiceIsPublished) {
     Published published;
     thread.join();
     EXPECT_THAT(log.messages(), Contains("TarnService not published..."));
+    for (const LogLine& line : log.lines()) {
+        if (line.message == "TarnService not published...") {
+            EXPECT_EQ(line.function, "getTarnService");
+        }
+    }
     EXPECT_EQ(published.service->pids.size(), 2u);
 }
 
