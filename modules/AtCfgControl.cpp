@@ -72,7 +72,7 @@ char* AtCfgControl::getString(char* key) {
     request.writeString16(String16(key));
     Parcel reply;
     const int status = mTarnMgr->exeCmdSet_Parcel(CMD_AT_CFG_CTRL_GET_STRING, request, &reply);
-    return keep(toUtf8(textUnlessFailed(status, reply)));
+    return keep(status != -1 ? readUtf8(reply) : std::string());
 }
 
 bool AtCfgControl::setInteger(char* key, int value) {
@@ -85,9 +85,7 @@ bool AtCfgControl::setInteger(char* key, int value) {
 int AtCfgControl::getInteger(char* key) {
     Parcel request;
     request.writeString16(String16(key));
-    Parcel reply;
-    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_AT_CFG_CTRL_GET_INTEGER, request, &reply);
-    return intUnlessFailed(status, reply);
+    return sendForIntUnlessFailed(mTarnMgr, CMD_AT_CFG_CTRL_GET_INTEGER, request);
 }
 
 char* AtCfgControl::keep(std::string text) {

@@ -153,7 +153,7 @@ bool AvManagerCtrl::setPowerDown() {
 }
 
 bool AvManagerCtrl::setDspUsbEnable(bool on) {
-    return mTarnMgr->exeCmdSet_Bool(CMD_AV_SET_DSP_USB_ENABLE, int{on});
+    return mTarnMgr->exeCmdSet_Bool(CMD_AV_SET_DSP_USB_ENABLE, static_cast<int>(on));
 }
 
 bool AvManagerCtrl::getDspUsbEnable() {
@@ -226,8 +226,7 @@ bool AvManagerCtrl::isMicEnabled() {
 }
 
 String16 AvManagerCtrl::getSN() {
-    Parcel reply;
-    return textUnlessFailed(mTarnMgr->exeCmdSet_Parcel(CMD_AV_GET_SN, &reply), reply);
+    return askForText(mTarnMgr, CMD_AV_GET_SN);
 }
 
 bool AvManagerCtrl::setCameraZoomIn() {
@@ -255,7 +254,7 @@ bool AvManagerCtrl::setCameraMoveRight() {
 }
 
 bool AvManagerCtrl::setCameraAutoFramingMode(bool on) {
-    return mTarnMgr->exeCmdSet_Bool(CMD_AV_SET_CAMERA_AUTO_FRAMING_MODE, int{on});
+    return mTarnMgr->exeCmdSet_Bool(CMD_AV_SET_CAMERA_AUTO_FRAMING_MODE, static_cast<int>(on));
 }
 
 bool AvManagerCtrl::setCameraPresetPosition(int preset) {
@@ -283,7 +282,7 @@ bool AvManagerCtrl::getCameraSpeakerTrackingMode() {
 }
 
 bool AvManagerCtrl::setCameraSpeakerTrackingMode(bool on) {
-    return mTarnMgr->exeCmdSet_Bool(CMD_AV_SET_CAMERA_SPEAKER_TRACKING_MODE, int{on});
+    return mTarnMgr->exeCmdSet_Bool(CMD_AV_SET_CAMERA_SPEAKER_TRACKING_MODE, static_cast<int>(on));
 }
 
 int AvManagerCtrl::setMoveCam(bool on) {
@@ -323,8 +322,7 @@ bool AvManagerCtrl::setCameraStatusUpdate(bool on) {
 }
 
 String16 AvManagerCtrl::getDspOtaModule() {
-    Parcel reply;
-    return textUnlessFailed(mTarnMgr->exeCmdSet_Parcel(CMD_AV_GET_DSP_OTA_MODULE, &reply), reply);
+    return askForText(mTarnMgr, CMD_AV_GET_DSP_OTA_MODULE);
 }
 
 AvSignalFormat AvManagerCtrl::get_av_signal_format() {

@@ -10,16 +10,6 @@
 
 namespace android {
 
-namespace {
-
-int sendText(TarnManager* manager, int cmd, const String16& text) {
-    Parcel request;
-    request.writeString16(text);
-    return manager->exeCmdSet_Int(cmd, request);
-}
-
-}  // namespace
-
 BitmotionCtrl::BitmotionCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {
     TLOGI_AT(7, "BitmotionCtrl created.");
 }
@@ -36,15 +26,15 @@ int BitmotionCtrl::setDevicePortEnabled(const String16& port, bool enabled) {
 }
 
 int BitmotionCtrl::setWan1Address(const String16& address) {
-    return sendText(mTarnMgr.get(), CMD_BITMOTION_SET_WAN1_ADDRESS, address);
+    return sendText(mTarnMgr, CMD_BITMOTION_SET_WAN1_ADDRESS, address);
 }
 
 int BitmotionCtrl::setWan2Address(const String16& address) {
-    return sendText(mTarnMgr.get(), CMD_BITMOTION_SET_WAN2_ADDRESS, address);
+    return sendText(mTarnMgr, CMD_BITMOTION_SET_WAN2_ADDRESS, address);
 }
 
 int BitmotionCtrl::updateFirmware(const String16& path) {
-    return sendText(mTarnMgr.get(), CMD_BITMOTION_UPDATE_FIRMWARE, path);
+    return sendText(mTarnMgr, CMD_BITMOTION_UPDATE_FIRMWARE, path);
 }
 
 int BitmotionCtrl::setupWorkMode(int mode) {

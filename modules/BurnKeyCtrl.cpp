@@ -1,7 +1,6 @@
 #include "modules/BurnKeyCtrl.h"
 
 #include "modules/Replies.h"
-#include "modules/TextQuery.h"
 #include "protocol/Commands.h"
 
 #define TARN_LOG_TAG "Zunt@BurnKeyCtrl"

@@ -8,17 +8,11 @@ namespace android {
 DebugCtrl::DebugCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {}
 
 bool DebugCtrl::getSuperRootState() {
-    Parcel reply;
-    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_DEBUG_GET_SUPER_ROOT_STATE, &reply);
-    return boolUnlessFailed(status, reply);
+    return askForBoolUnlessFailed(mTarnMgr, CMD_DEBUG_GET_SUPER_ROOT_STATE);
 }
 
 bool DebugCtrl::setSuperRootState(const char* state) {
-    Parcel request;
-    request.writeString16(String16(state));
-    Parcel reply;
-    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_DEBUG_SET_SUPER_ROOT_STATE, request, &reply);
-    return boolUnlessFailed(status, reply);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_DEBUG_SET_SUPER_ROOT_STATE, String16(state));
 }
 
 }  // namespace android

@@ -13,8 +13,7 @@ namespace {
 int setUsbSwitch(const sp<TarnManager>& manager, int cmd, int host) {
     Parcel request;
     request.writeInt32(host);
-    Parcel reply;
-    return intUnlessFailed(manager->exeCmdSet_Parcel(cmd, request, &reply), reply);
+    return sendForIntUnlessFailed(manager, cmd, request);
 }
 
 /** The host stands behind a first integer here, and is that integer in a setter's reply. */
@@ -108,16 +107,11 @@ bool DeviceCtrl::setUsbPowerStatus(_EnumUsbPowerStatus status) {
 }
 
 String16 DeviceCtrl::getNfcTagMsg() {
-    Parcel reply;
-    return textUnlessFailed(mTarnMgr->exeCmdSet_Parcel(CMD_DEVICE_GET_NFC_TAG_MSG, &reply), reply);
+    return askForTextUnlessFailed(mTarnMgr, CMD_DEVICE_GET_NFC_TAG_MSG);
 }
 
 bool DeviceCtrl::setNfcTagMsg(String16 msg) {
-    Parcel request;
-    request.writeString16(msg);
-    Parcel reply;
-    return boolUnlessFailed(mTarnMgr->exeCmdSet_Parcel(CMD_DEVICE_SET_NFC_TAG_MSG, request, &reply),
-                            reply);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_DEVICE_SET_NFC_TAG_MSG, msg);
 }
 
 bool DeviceCtrl::setUsbSwFollowConfig(_EnumUsbSWFollowConfig config) {

@@ -21,7 +21,7 @@ int DevicePortCtrl::setDevicePortEnabled(char* port, bool enabled) {
     request.writeBool(enabled);
     Parcel reply;
     if (mTarnMgr->exeCmdSet_Parcel(CMD_DEVICE_PORT_SET_ENABLED, request, &reply) == -1) return -1;
-    return reply.readBool();
+    return static_cast<int>(reply.readBool());
 }
 
 bool DevicePortCtrl::getDevicePortEnabled(char* port) {

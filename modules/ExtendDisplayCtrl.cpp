@@ -39,7 +39,8 @@ int ExtendDisplayCtrl::getExtendDisplayEnabled() {
 }
 
 int ExtendDisplayCtrl::setHdmiInOutEnabled(bool on) {
-    return mTarnMgr->exeCmdSet_Int(CMD_EXTENDDISPLAY_CTRL_SET_HDMI_IN_OUT_ENABLED, int{on});
+    return mTarnMgr->exeCmdSet_Int(CMD_EXTENDDISPLAY_CTRL_SET_HDMI_IN_OUT_ENABLED,
+                                   static_cast<int>(on));
 }
 
 int ExtendDisplayCtrl::getHdmiInOutEnabled() {
@@ -58,9 +59,7 @@ std::vector<std::string> ExtendDisplayCtrl::getExtendDisplayUserResolutionList()
 }
 
 int ExtendDisplayCtrl::setExtendDisplayResolution(const String16& resolution) {
-    Parcel request;
-    request.writeString16(resolution);
-    return mTarnMgr->exeCmdSet_Int(CMD_EXTENDDISPLAY_CTRL_SET_RESOLUTION, request);
+    return sendText(mTarnMgr, CMD_EXTENDDISPLAY_CTRL_SET_RESOLUTION, resolution);
 }
 
 String16 ExtendDisplayCtrl::getExtendDisplayResolution() {
@@ -82,9 +81,7 @@ String16 ExtendDisplayCtrl::getExtendDisplayColorFormat() {
 }
 
 int ExtendDisplayCtrl::setExtendDisplayColorFormat(const String16& format) {
-    Parcel request;
-    request.writeString16(format);
-    return mTarnMgr->exeCmdSet_Int(CMD_EXTENDDISPLAY_CTRL_SET_COLOR_FORMAT, request);
+    return sendText(mTarnMgr, CMD_EXTENDDISPLAY_CTRL_SET_COLOR_FORMAT, format);
 }
 
 std::vector<std::string> ExtendDisplayCtrl::getExtendDisplaySuportColorFormatList() {

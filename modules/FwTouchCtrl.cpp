@@ -45,7 +45,7 @@ TouchFwDataList readData(const Parcel& reply) {
 
 /** Unlike elsewhere, every result of the exchange but 0 is a failure. */
 template <typename Record>
-bool askForList(TarnManager* manager, int cmd, Record (*readRecord)(const Parcel&),
+bool askForList(const sp<TarnManager>& manager, int cmd, Record (*readRecord)(const Parcel&),
                 std::vector<Record>* out) {
     Parcel reply;
     out->clear();
@@ -62,17 +62,17 @@ FwTouchCtrl::FwTouchCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {
 
 bool FwTouchCtrl::getFwTouchList(std::vector<EntityFwTouch>* out) {
     TLOGD_AT(30, "[%s]\n", __func__);
-    return askForList(mTarnMgr.get(), CMD_FW_TOUCH_GET_LIST, readDevice<EntityFwTouch>, out);
+    return askForList(mTarnMgr, CMD_FW_TOUCH_GET_LIST, readDevice<EntityFwTouch>, out);
 }
 
 bool FwTouchCtrl::getFwTouchDriverInfoList(std::vector<EntityFwTouchDriver>* out) {
     TLOGD_AT(65, "[%s]\n", __func__);
-    return askForList(mTarnMgr.get(), CMD_FW_TOUCH_GET_DRIVER_LIST, readDriver, out);
+    return askForList(mTarnMgr, CMD_FW_TOUCH_GET_DRIVER_LIST, readDriver, out);
 }
 
 bool FwTouchCtrl::getTouchFwDataList(std::vector<TouchFwDataList>* out) {
     TLOGD_AT(96, "[%s]\n", __func__);
-    return askForList(mTarnMgr.get(), CMD_FW_TOUCH_GET_DATA_LIST, readData, out);
+    return askForList(mTarnMgr, CMD_FW_TOUCH_GET_DATA_LIST, readData, out);
 }
 
 }  // namespace android

@@ -4,7 +4,6 @@
 #include <string.h>
 
 #include "modules/Replies.h"
-#include "modules/TextQuery.h"
 #include "protocol/Commands.h"
 
 #define TARN_LOG_TAG "Zunt@FwUpgrade"
@@ -46,9 +45,7 @@ bool FwUpgrade::setFirmwareUpgrade(int type, String16 path) {
     Parcel request;
     request.writeString16(path);
     request.writeInt32(type);
-    Parcel reply;
-    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_FW_SET_UPGRADE, request, &reply);
-    return boolUnlessFailed(status, reply);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_FW_SET_UPGRADE, request);
 }
 
 String16 FwUpgrade::getMcuBinNameToUp(int type) {
@@ -64,9 +61,7 @@ String16 FwUpgrade::getFwOtakey(int type) {
 }
 
 String16 FwUpgrade::getFwInfoTypecList() {
-    Parcel reply;
-    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_FW_GET_INFO_TYPEC_LIST, &reply);
-    return textUnlessFailed(status, reply);
+    return askForTextUnlessFailed(mTarnMgr, CMD_FW_GET_INFO_TYPEC_LIST);
 }
 
 bool FwUpgrade::getFwMcuList(std::vector<EntityFwInfoMcu>& list) {

@@ -17,11 +17,11 @@ int failWithoutManager(const char* method) {
     return -1;
 }
 
-int readBit(const sp<TarnManager>& manager, int command, unsigned int gpio, TARN_BOOL* bit) {
+int readBit(const sp<TarnManager>& manager, int cmd, unsigned int gpio, TARN_BOOL* bit) {
     Parcel request;
     request.writeInt32(static_cast<int32_t>(gpio));
     Parcel reply;
-    const int status = manager->exeCmdSet_Parcel(command, request, &reply);
+    const int status = manager->exeCmdSet_Parcel(cmd, request, &reply);
     *bit = reply.readInt32();
     return status;
 }

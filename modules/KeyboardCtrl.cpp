@@ -8,11 +8,7 @@ namespace android {
 KeyboardCtrl::KeyboardCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {}
 
 bool KeyboardCtrl::getKeyboardByName(String16 name) {
-    Parcel request;
-    request.writeString16(name);
-    Parcel reply;
-    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_KEYBOARD_GET_BY_NAME, request, &reply);
-    return boolUnlessFailed(status, reply);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_KEYBOARD_GET_BY_NAME, name);
 }
 
 bool KeyboardCtrl::getKeyboardByID(int id0, int id1) {

@@ -8,17 +8,6 @@
 
 namespace android {
 
-namespace {
-
-/** Sends a command with one text; returns the status. */
-int sendText(const sp<TarnManager>& manager, int cmd, const String16& text) {
-    Parcel request;
-    request.writeString16(text);
-    return manager->exeCmdSet_Int(cmd, request);
-}
-
-}  // namespace
-
 NetworkCtrl::NetworkCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {}
 
 int NetworkCtrl::SetEthernetEnable(int port, bool on) {
@@ -30,11 +19,7 @@ int NetworkCtrl::SetEthernetNatEnable(int port, bool on) {
 }
 
 String16 NetworkCtrl::getAntennaRssi(int antenna) {
-    Parcel request;
-    request.writeInt32(antenna);
-    Parcel reply;
-    mTarnMgr->exeCmdSet_Parcel(CMD_NETWORK_GET_ANTENNA_RSSI, request, &reply);
-    return reply.readString16();
+    return askForText(mTarnMgr, CMD_NETWORK_GET_ANTENNA_RSSI, antenna);
 }
 
 int NetworkCtrl::setEthernetRate(int port, int rate) {
@@ -112,11 +97,7 @@ bool NetworkCtrl::getVlanEnable() {
 }
 
 bool NetworkCtrl::getTracerouteMessage(String16 target) {
-    Parcel request;
-    request.writeString16(target);
-    Parcel reply;
-    return boolUnlessFailed(
-            mTarnMgr->exeCmdSet_Parcel(CMD_NETWORK_GET_TRACEROUTE_MESSAGE, request, &reply), reply);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_NETWORK_GET_TRACEROUTE_MESSAGE, target);
 }
 
 int NetworkCtrl::setLldpParams(int params) {

@@ -1,5 +1,6 @@
 #include "modules/ProjectId.h"
 
+#include "modules/Replies.h"
 #include "protocol/Commands.h"
 
 #define TARN_LOG_TAG "Zunt@ProjectId"
@@ -133,15 +134,11 @@ bool ProjectId::getEyePqFixedEnable() {
 }
 
 String16 ProjectId::getEyePqFixedValue() {
-    Parcel reply;
-    mTarnMgr->exeCmdSet_Parcel(CMD_PROJECT_ID_GET_EYE_PQ_FIXED_VALUE, &reply);
-    return reply.readString16();
+    return askForText(mTarnMgr, CMD_PROJECT_ID_GET_EYE_PQ_FIXED_VALUE);
 }
 
 String16 ProjectId::getWifiCountryCode() {
-    Parcel reply;
-    mTarnMgr->exeCmdSet_Parcel(CMD_PROJECT_ID_GET_WIFI_COUNTRY_CODE, &reply);
-    return reply.readString16();
+    return askForText(mTarnMgr, CMD_PROJECT_ID_GET_WIFI_COUNTRY_CODE);
 }
 
 }  // namespace android

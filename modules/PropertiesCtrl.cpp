@@ -6,12 +6,12 @@ namespace android {
 
 namespace {
 
-int sendTexts(const sp<TarnManager>& manager, int command, const char* first, const char* second) {
+int sendTexts(const sp<TarnManager>& manager, int cmd, const char* first, const char* second) {
     Parcel request;
     request.writeString16(String16(first));
     request.writeString16(String16(second));
     Parcel reply;
-    return manager->exeCmdSet_Parcel(command, request, &reply);
+    return manager->exeCmdSet_Parcel(cmd, request, &reply);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <binder/Parcel.h>
+#include <tarn/TarnManager.h>
 #include <utils/String16.h>
 #include <utils/String8.h>
 
@@ -9,28 +10,74 @@
 
 namespace android {
 
-// Shapes of replies that several controllers share. The status is what exeCmdSet_Parcel returned;
-// "failed" is exactly -1. A controller that tests for 0 instead spells its test out.
+// Exchanges and replies whose shape several controllers share. "Unless failed" tests the result of
+// exeCmdSet_Parcel against exactly -1. A controller that tests against 0 spells its test out.
 
-inline std::string toUtf8(const String16& text) {
-    const String8 utf8(text);
-    return std::string(utf8.c_str(), utf8.size());
+/** Sends one text; returns the status. */
+inline int sendText(const sp<TarnManager>& manager, int cmd, const String16& text) {
+    Parcel request;
+    request.writeString16(text);
+    return manager->exeCmdSet_Int(cmd, request);
 }
 
+/** Asks for a text, whatever the status: after a failure the reply is empty and so is the text. */
+inline String16 askForText(const sp<TarnManager>& manager, int cmd) {
+    Parcel reply;
+    manager->exeCmdSet_Parcel(cmd, &reply);
+    return reply.readString16();
+}
+
+/** Asks for the text that belongs to a number, whatever the status. */
+inline String16 askForText(const sp<TarnManager>& manager, int cmd, int number) {
+    Parcel request;
+    request.writeInt32(number);
+    Parcel reply;
+    manager->exeCmdSet_Parcel(cmd, request, &reply);
+    return reply.readString16();
+}
+
+/** Asks for a text; empty when the command failed. */
+inline String16 askForTextUnlessFailed(const sp<TarnManager>& manager, int cmd) {
+    Parcel reply;
+    return manager->exeCmdSet_Parcel(cmd, &reply) != -1 ? reply.readString16() : String16();
+}
+
+/** Asks for an integer; -1 when the command failed. */
+inline int askForIntUnlessFailed(const sp<TarnManager>& manager, int cmd) {
+    Parcel reply;
+    return manager->exeCmdSet_Parcel(cmd, &reply) != -1 ? reply.readInt32() : -1;
+}
+
+/** Sends a request that an integer answers; -1 when the command failed. */
+inline int sendForIntUnlessFailed(const sp<TarnManager>& manager, int cmd, const Parcel& request) {
+    Parcel reply;
+    return manager->exeCmdSet_Parcel(cmd, request, &reply) != -1 ? reply.readInt32() : -1;
+}
+
+/** Asks for a boolean; false when the command failed. */
+inline bool askForBoolUnlessFailed(const sp<TarnManager>& manager, int cmd) {
+    Parcel reply;
+    return manager->exeCmdSet_Parcel(cmd, &reply) != -1 && reply.readBool();
+}
+
+/** Sends a request that a boolean answers; false when the command failed. */
+inline bool sendForBoolUnlessFailed(const sp<TarnManager>& manager, int cmd,
+                                    const Parcel& request) {
+    Parcel reply;
+    return manager->exeCmdSet_Parcel(cmd, request, &reply) != -1 && reply.readBool();
+}
+
+/** Sends one text that a boolean answers; false when the command failed. */
+inline bool sendForBoolUnlessFailed(const sp<TarnManager>& manager, int cmd, const String16& text) {
+    Parcel request;
+    request.writeString16(text);
+    return sendForBoolUnlessFailed(manager, cmd, request);
+}
+
+/** Reads a text as UTF-8. */
 inline std::string readUtf8(const Parcel& reply) {
-    return toUtf8(reply.readString16());
-}
-
-inline bool boolUnlessFailed(int status, const Parcel& reply) {
-    return status != -1 && reply.readBool();
-}
-
-inline int intUnlessFailed(int status, const Parcel& reply) {
-    return status != -1 ? reply.readInt32() : -1;
-}
-
-inline String16 textUnlessFailed(int status, const Parcel& reply) {
-    return status != -1 ? reply.readString16() : String16();
+    const String8 text(reply.readString16());
+    return std::string(text.c_str(), text.size());
 }
 
 /**

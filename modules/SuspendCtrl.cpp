@@ -6,11 +6,11 @@ namespace android {
 
 namespace {
 
-int sendSwitch(const sp<TarnManager>& manager, int command, bool on) {
+int sendSwitch(const sp<TarnManager>& manager, int cmd, bool on) {
     Parcel request;
-    request.writeInt32(on ? 1 : 0);
+    request.writeInt32(static_cast<int>(on));
     Parcel reply;
-    return manager->exeCmdSet_Parcel(command, request, &reply) == 0 ? 0 : -1;
+    return manager->exeCmdSet_Parcel(cmd, request, &reply) == 0 ? 0 : -1;
 }
 
 }  // namespace

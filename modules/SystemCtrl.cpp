@@ -18,18 +18,6 @@ bool isTempType(int type) {
     return type == TEMP_TYPE_SENSOR_1 || type == TEMP_TYPE_SENSOR_2;
 }
 
-bool replaceBootMedium(const sp<TarnManager>& manager, int command, const char* path) {
-    Parcel request;
-    Parcel reply;
-    request.writeString16(String16(path));
-    return boolUnlessFailed(manager->exeCmdSet_Parcel(command, request, &reply), reply);
-}
-
-bool resetBootMedium(const sp<TarnManager>& manager, int command) {
-    Parcel reply;
-    return boolUnlessFailed(manager->exeCmdSet_Parcel(command, &reply), reply);
-}
-
 }  // namespace
 
 SystemCtrl::SystemCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {}
@@ -82,25 +70,23 @@ int SystemCtrl::getSystemSetting() {
 }
 
 bool SystemCtrl::replaceBootLogo(char* path) {
-    return replaceBootMedium(mTarnMgr, CMD_SYSTEM_REPLACE_BOOT_LOGO, path);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_SYSTEM_REPLACE_BOOT_LOGO, String16(path));
 }
 
 bool SystemCtrl::resetBootLogo() {
-    return resetBootMedium(mTarnMgr, CMD_SYSTEM_RESET_BOOT_LOGO);
+    return askForBoolUnlessFailed(mTarnMgr, CMD_SYSTEM_RESET_BOOT_LOGO);
 }
 
 bool SystemCtrl::replaceBootAnimation(char* path) {
-    return replaceBootMedium(mTarnMgr, CMD_SYSTEM_REPLACE_BOOT_ANIMATION, path);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_SYSTEM_REPLACE_BOOT_ANIMATION, String16(path));
 }
 
 bool SystemCtrl::replaceBootVideo(char* path) {
-    return replaceBootMedium(mTarnMgr, CMD_SYSTEM_REPLACE_BOOT_VIDEO, path);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_SYSTEM_REPLACE_BOOT_VIDEO, String16(path));
 }
 
 String16 SystemCtrl::getCPUtemperature() {
-    Parcel reply;
-    mTarnMgr->exeCmdSet_Parcel(CMD_SYSTEM_GET_CPU_TEMPERATURE, &reply);
-    return reply.readString16();
+    return askForText(mTarnMgr, CMD_SYSTEM_GET_CPU_TEMPERATURE);
 }
 
 bool SystemCtrl::isCtsRunning() {
@@ -230,7 +216,7 @@ bool SystemCtrl::setUsbResume() {
 
 bool SystemCtrl::resetBootAnimation() {
     TLOGD("resetBootAnimation\n");
-    return resetBootMedium(mTarnMgr, CMD_SYSTEM_RESET_BOOT_ANIMATION);
+    return askForBoolUnlessFailed(mTarnMgr, CMD_SYSTEM_RESET_BOOT_ANIMATION);
 }
 
 bool SystemCtrl::setLogoDisplayState(bool on) {
@@ -309,7 +295,7 @@ bool SystemCtrl::getBootLogoEnable() {
 }
 
 bool SystemCtrl::resetBootVideo() {
-    return resetBootMedium(mTarnMgr, CMD_SYSTEM_RESET_BOOT_VIDEO);
+    return askForBoolUnlessFailed(mTarnMgr, CMD_SYSTEM_RESET_BOOT_VIDEO);
 }
 
 int SystemCtrl::enable_hdmi_switch_tx(int value) {
@@ -336,9 +322,7 @@ bool SystemCtrl::monitorNfcState(bool on) {
 
 String16 SystemCtrl::getCustomBootMediaPath() {
     TLOGD("getCustomBootMediaPath\n");
-    Parcel reply;
-    mTarnMgr->exeCmdSet_Parcel(CMD_SYSTEM_GET_CUSTOM_BOOT_MEDIA_PATH, &reply);
-    return reply.readString16();
+    return askForText(mTarnMgr, CMD_SYSTEM_GET_CUSTOM_BOOT_MEDIA_PATH);
 }
 
 bool SystemCtrl::setCustomBootMediaType(EnumCustomerBootMediaType type) {

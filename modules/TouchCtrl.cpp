@@ -13,34 +13,11 @@ namespace android {
 
 namespace {
 
-int askForInt(TarnManager* manager, int cmd) {
-    Parcel reply;
-    const int status = manager->exeCmdSet_Parcel(cmd, &reply);
-    return intUnlessFailed(status, reply);
-}
-
-String16 askForText(TarnManager* manager, int cmd) {
-    Parcel reply;
-    const int status = manager->exeCmdSet_Parcel(cmd, &reply);
-    return textUnlessFailed(status, reply);
-}
-
-bool sendForBool(TarnManager* manager, int cmd, const Parcel& request) {
-    Parcel reply;
-    const int status = manager->exeCmdSet_Parcel(cmd, request, &reply);
-    return boolUnlessFailed(status, reply);
-}
-
-bool sendText(TarnManager* manager, int cmd, const String16& text) {
-    Parcel request;
-    request.writeString16(text);
-    return sendForBool(manager, cmd, request);
-}
-
-bool sendInt(TarnManager* manager, int cmd, int value) {
+/** As sendForBoolUnlessFailed(), with one integer. */
+bool sendIntForBoolUnlessFailed(const sp<TarnManager>& manager, int cmd, int value) {
     Parcel request;
     request.writeInt32(value);
-    return sendForBool(manager, cmd, request);
+    return sendForBoolUnlessFailed(manager, cmd, request);
 }
 
 /** The points' extra values stay in the process. */
@@ -51,14 +28,14 @@ void writeCorners(Parcel* request, const TouchRect& rect) {
     request->writeInt32(rect.end.y);
 }
 
-bool sendSourceRect(TarnManager* manager, int cmd, const TouchRect& rect, int value0, int value1,
-                    int value2) {
+bool sendSourceRect(const sp<TarnManager>& manager, int cmd, const TouchRect& rect, int value0,
+                    int value1, int value2) {
     Parcel request;
     writeCorners(&request, rect);
     request.writeInt32(value0);
     request.writeInt32(value1);
     request.writeInt32(value2);
-    return sendForBool(manager, cmd, request);
+    return sendForBoolUnlessFailed(manager, cmd, request);
 }
 
 /** Reads what follows the index in the reply to CMD_TOUCH_GET_NO_TOUCH_AREA. */
@@ -77,7 +54,7 @@ void readNoTouchArea(const Parcel& reply, int id, std::vector<TouchRect>* areas)
 TouchCtrl::TouchCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {}
 
 int TouchCtrl::getMouseFadeState() {
-    return askForInt(mTarnMgr.get(), CMD_TOUCH_GET_MOUSE_FADE_STATE);
+    return askForIntUnlessFailed(mTarnMgr, CMD_TOUCH_GET_MOUSE_FADE_STATE);
 }
 
 bool TouchCtrl::setMouseFadeState(int state) {
@@ -85,19 +62,19 @@ bool TouchCtrl::setMouseFadeState(int state) {
 }
 
 String16 TouchCtrl::getMouseFadeBlacklist() {
-    return askForText(mTarnMgr.get(), CMD_TOUCH_GET_MOUSE_FADE_BLACKLIST);
+    return askForTextUnlessFailed(mTarnMgr, CMD_TOUCH_GET_MOUSE_FADE_BLACKLIST);
 }
 
 bool TouchCtrl::setMouseFadeBlacklist(String16 applications) {
-    return sendText(mTarnMgr.get(), CMD_TOUCH_SET_MOUSE_FADE_BLACKLIST, applications);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_TOUCH_SET_MOUSE_FADE_BLACKLIST, applications);
 }
 
 bool TouchCtrl::addMouseFadeBlacklist(String16 application) {
-    return sendText(mTarnMgr.get(), CMD_TOUCH_ADD_MOUSE_FADE_BLACKLIST, application);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_TOUCH_ADD_MOUSE_FADE_BLACKLIST, application);
 }
 
 bool TouchCtrl::deleteMouseFadeBlacklist(String16 application) {
-    return sendText(mTarnMgr.get(), CMD_TOUCH_DELETE_MOUSE_FADE_BLACKLIST, application);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_TOUCH_DELETE_MOUSE_FADE_BLACKLIST, application);
 }
 
 int TouchCtrl::getPenNum() {
@@ -109,11 +86,11 @@ bool TouchCtrl::setPenNum(int number) {
 }
 
 String16 TouchCtrl::getPenType() {
-    return askForText(mTarnMgr.get(), CMD_TOUCH_GET_PEN_TYPE);
+    return askForTextUnlessFailed(mTarnMgr, CMD_TOUCH_GET_PEN_TYPE);
 }
 
 bool TouchCtrl::setPenType(String16 type) {
-    return sendText(mTarnMgr.get(), CMD_TOUCH_SET_PEN_TYPE, type);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_TOUCH_SET_PEN_TYPE, type);
 }
 
 bool TouchCtrl::dumpTouchDebugInfo() {
@@ -125,7 +102,7 @@ bool TouchCtrl::setTouchBrushMode(int mode) {
 }
 
 int TouchCtrl::getTouchBrushMode() {
-    const int mode = askForInt(mTarnMgr.get(), CMD_TOUCH_GET_BRUSH_MODE);
+    const int mode = askForIntUnlessFailed(mTarnMgr, CMD_TOUCH_GET_BRUSH_MODE);
     TLOGE_AT(238, "getTouchBrushMode cpp retval=%d \n", mode);
     return mode;
 }
@@ -135,11 +112,11 @@ bool TouchCtrl::setTouchBurnMode() {
 }
 
 int TouchCtrl::getTouchBurnMode() {
-    return askForInt(mTarnMgr.get(), CMD_TOUCH_GET_BURN_MODE);
+    return askForIntUnlessFailed(mTarnMgr, CMD_TOUCH_GET_BURN_MODE);
 }
 
 int TouchCtrl::getTouchStaCheck() {
-    return askForInt(mTarnMgr.get(), CMD_TOUCH_GET_STA_CHECK);
+    return askForIntUnlessFailed(mTarnMgr, CMD_TOUCH_GET_STA_CHECK);
 }
 
 bool TouchCtrl::setCapTouchReset() {
@@ -155,52 +132,49 @@ bool TouchCtrl::setParameter(String16 key, String16 value) {
 }
 
 int TouchCtrl::getMaxSupportedNoTouchAreas() {
-    return askForInt(mTarnMgr.get(), CMD_TOUCH_GET_MAX_NO_TOUCH_AREAS);
+    return askForIntUnlessFailed(mTarnMgr, CMD_TOUCH_GET_MAX_NO_TOUCH_AREAS);
 }
 
 int TouchCtrl::getNoTouchAreaId() {
-    return askForInt(mTarnMgr.get(), CMD_TOUCH_GET_NO_TOUCH_AREA_ID);
+    return askForIntUnlessFailed(mTarnMgr, CMD_TOUCH_GET_NO_TOUCH_AREA_ID);
 }
 
 bool TouchCtrl::addNoTouchArea(TouchRect area) {
     Parcel request;
     request.writeInt32(area.id);
     writeCorners(&request, area);
-    return sendForBool(mTarnMgr.get(), CMD_TOUCH_ADD_NO_TOUCH_AREA, request);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_TOUCH_ADD_NO_TOUCH_AREA, request);
 }
 
 bool TouchCtrl::removeNoTouchArea(int id) {
-    return sendInt(mTarnMgr.get(), CMD_TOUCH_REMOVE_NO_TOUCH_AREA, id);
+    return sendIntForBoolUnlessFailed(mTarnMgr, CMD_TOUCH_REMOVE_NO_TOUCH_AREA, id);
 }
 
 bool TouchCtrl::setOutTouchState(int state) {
-    return sendInt(mTarnMgr.get(), CMD_TOUCH_SET_OUT_TOUCH_STATE, state);
+    return sendIntForBoolUnlessFailed(mTarnMgr, CMD_TOUCH_SET_OUT_TOUCH_STATE, state);
 }
 
 int TouchCtrl::getOutTouchState() {
-    const Parcel request;
-    Parcel reply;
-    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_TOUCH_GET_OUT_TOUCH_STATE, request, &reply);
-    return intUnlessFailed(status, reply);
+    return sendForIntUnlessFailed(mTarnMgr, CMD_TOUCH_GET_OUT_TOUCH_STATE, Parcel());
 }
 
 String16 TouchCtrl::getTouchVersion() {
-    return askForText(mTarnMgr.get(), CMD_TOUCH_GET_VERSION);
+    return askForTextUnlessFailed(mTarnMgr, CMD_TOUCH_GET_VERSION);
 }
 
 bool TouchCtrl::setSourceTouchRect(TouchRect rect, int value0, int value1, int value2) {
-    return sendSourceRect(mTarnMgr.get(), CMD_TOUCH_SET_SOURCE_RECT, rect, value0, value1, value2);
+    return sendSourceRect(mTarnMgr, CMD_TOUCH_SET_SOURCE_RECT, rect, value0, value1, value2);
 }
 
 bool TouchCtrl::setSourceRectOffset(TouchRect rect, int value) {
     Parcel request;
     writeCorners(&request, rect);
     request.writeInt32(value);
-    return sendForBool(mTarnMgr.get(), CMD_TOUCH_SET_SOURCE_RECT_OFFSET, request);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_TOUCH_SET_SOURCE_RECT_OFFSET, request);
 }
 
 bool TouchCtrl::clearSourceTouchRect(int source) {
-    return sendInt(mTarnMgr.get(), CMD_TOUCH_CLEAR_SOURCE_RECT, source);
+    return sendIntForBoolUnlessFailed(mTarnMgr, CMD_TOUCH_CLEAR_SOURCE_RECT, source);
 }
 
 std::vector<TouchRect> TouchCtrl::getAllNoTouchAreas() {
@@ -223,11 +197,11 @@ std::vector<TouchRect> TouchCtrl::getAllNoTouchAreas() {
 }
 
 String16 TouchCtrl::getHidMode() {
-    return askForText(mTarnMgr.get(), CMD_TOUCH_GET_HID_MODE);
+    return askForTextUnlessFailed(mTarnMgr, CMD_TOUCH_GET_HID_MODE);
 }
 
 bool TouchCtrl::setHidMode(String16 mode) {
-    return sendText(mTarnMgr.get(), CMD_TOUCH_SET_HID_MODE, mode);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_TOUCH_SET_HID_MODE, mode);
 }
 
 bool TouchCtrl::getLogicalTouchRange(TouchLogicalCoordinates* range) {
@@ -243,14 +217,11 @@ int TouchCtrl::SetSmallMode(int mode, int count, int* values) {
     request.writeInt32(mode);
     request.writeInt32(count);
     for (int j = 0; j < count; j++) request.writeInt32(values[j]);
-    Parcel reply;
-    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_TOUCH_SET_SMALL_MODE, request, &reply);
-    return intUnlessFailed(status, reply);
+    return sendForIntUnlessFailed(mTarnMgr, CMD_TOUCH_SET_SMALL_MODE, request);
 }
 
 bool TouchCtrl::setPIPSourceTouchRect(TouchRect rect, int value0, int value1, int value2) {
-    return sendSourceRect(mTarnMgr.get(), CMD_TOUCH_SET_PIP_SOURCE_RECT, rect, value0, value1,
-                          value2);
+    return sendSourceRect(mTarnMgr, CMD_TOUCH_SET_PIP_SOURCE_RECT, rect, value0, value1, value2);
 }
 
 bool TouchCtrl::setPalmRejectionEnable(bool on) {
@@ -274,7 +245,7 @@ bool TouchCtrl::sendPcKeyEvent(EnumPcKeyEventAction action, int value0, int valu
     request.writeInt32(action);
     request.writeInt32(value0);
     request.writeInt32(value1);
-    return sendForBool(mTarnMgr.get(), CMD_TOUCH_SEND_PC_KEY_EVENT, request);
+    return sendForBoolUnlessFailed(mTarnMgr, CMD_TOUCH_SEND_PC_KEY_EVENT, request);
 }
 
 bool TouchCtrl::setAndroidForbiddenState(int state) {

@@ -20,9 +20,7 @@ bool TxbCtrl::sendTxbSignalAmplitude(int* values, int count) {
 }
 
 int TxbCtrl::getTxbSensorMuteState() {
-    Parcel reply;
-    const int status = mTarnMgr->exeCmdSet_Parcel(CMD_TXB_GET_SENSOR_MUTE_STATE, &reply);
-    return intUnlessFailed(status, reply);
+    return askForIntUnlessFailed(mTarnMgr, CMD_TXB_GET_SENSOR_MUTE_STATE);
 }
 
 bool TxbCtrl::setTxbSensorMuteState(int sensor, bool mute) {

@@ -7,7 +7,7 @@ namespace android {
 
 /**
  * The Widevine keybox, the attestation key and the named values of the service's configuration
- * store. Keys pass through unchecked; names and values of the store are UTF-8.
+ * store. Keys pass through unchecked; names and values of the store are UTF-8 and must not be null.
  *
  * Every call blocks for one exchange with the service; any thread may call.
  */
@@ -39,7 +39,8 @@ class IAtCfgControl : public virtual RefBase {
 
     /**
      * Returns a stored text; empty, never null, on failure. The controller owns the text: it
-     * stays valid until the calling thread's next call, whatever other threads ask for meanwhile.
+     * stays valid until the calling thread's next getString() on this controller, whatever other
+     * threads ask for meanwhile.
      */
     virtual char* getString(char* key) = 0;
 

@@ -118,7 +118,7 @@ class IAudioCtrl : public virtual RefBase {
     /** Tells whether a microphone is available. */
     virtual bool isMicrophoneAvaliable() = 0;
 
-    /** Tells whether the source is a 5K PC module. */
+    /** Returns the service's flag for an OPS 5K source. */
     virtual bool isOps5kSource() = 0;
 
     /** Tells whether the OTG microphone is on. */

@@ -232,7 +232,7 @@ class IAvManagerCtrl : public virtual RefBase {
     /** Tells whether the moving of the camera is on. */
     virtual bool getMoveCam() = 0;
 
-    /** Passes on a direction of arrival of the sound, in the service's unit. */
+    /** Passes DOA data on, a service-defined number. */
     virtual int transferDoaData(int direction) = 0;
 
     /** Sets the camera's pan-tilt-zoom mode. */

@@ -30,7 +30,10 @@ struct EntitySwKey {
  */
 class IBurnKeyCtrl : public virtual RefBase {
   public:
-    /** Replaces the contents of *list with the supported kinds; empty and false on failure. */
+    /**
+     * Replaces the contents of *list with the supported kinds; empty and false on failure. list
+     * must not be null.
+     */
     virtual bool getSupportBurnKeyList(std::vector<EntitySwKey>* list) = 0;
 
     /** Writes a key. */

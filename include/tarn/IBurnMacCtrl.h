@@ -27,7 +27,10 @@ struct EntitySwMac {
  */
 class IBurnMacCtrl : public virtual RefBase {
   public:
-    /** Replaces the contents of *list with the supported slots; empty and false on failure. */
+    /**
+     * Replaces the contents of *list with the supported slots; empty and false on failure. list
+     * must not be null.
+     */
     virtual bool getSupportBurnMacList(std::vector<EntitySwMac>* list) = 0;
 
     /**
@@ -36,7 +39,10 @@ class IBurnMacCtrl : public virtual RefBase {
      */
     virtual bool setBurnMac(_EnumBurnMacType type, String16 mac) = 0;
 
-    /** Writes an address as len raw bytes; true when the service says so, false on failure. */
+    /**
+     * Writes an address as len raw bytes; true when the service says so, false on failure. mac
+     * must not be null.
+     */
     virtual bool setBurnMac(_EnumBurnMacType type, unsigned char* mac, int len) = 0;
 
     /** Returns an address as text; empty on failure. */

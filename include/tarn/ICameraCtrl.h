@@ -59,12 +59,15 @@ class ICameraCtrl : public virtual RefBase {
     /** Enables or disables the cameras of a type; true when the service says so. */
     virtual bool setCameraEnabled(int fwCameraType, bool enabled) = 0;
 
-    /** Asks for the cameras' firmware and empties *out, which stays empty. Always true. */
+    /**
+     * Asks for the cameras' firmware and empties *out, which stays empty. Always true; out must
+     * not be null.
+     */
     virtual bool getFwCameraList(std::vector<EntityFwCamera>* out) = 0;
 
     /**
-     * Maps a camera identifier to a device node, both UTF-8; true when the service's answer is
-     * false.
+     * Maps a camera identifier to a device node, both UTF-8 and neither null; true when the
+     * service's answer is false.
      */
     virtual bool setCameraIdDeviceMap(const char* id, const char* device) = 0;
 

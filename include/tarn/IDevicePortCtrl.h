@@ -15,12 +15,15 @@ namespace android {
 class IDevicePortCtrl : public virtual RefBase {
   public:
     /**
-     * Enables or disables a named port (UTF-8). Returns the service's answer, 0 or 1; -1 when
-     * the command failed.
+     * Enables or disables a named port (UTF-8, must not be null). Returns the service's answer,
+     * 0 or 1; -1 when the command failed.
      */
     virtual int setDevicePortEnabled(char* port, bool enabled) = 0;
 
-    /** Tells whether a named port (UTF-8) is enabled; false when the command failed. */
+    /**
+     * Tells whether a named port (UTF-8, must not be null) is enabled; false when the command
+     * failed.
+     */
     virtual bool getDevicePortEnabled(char* port) = 0;
 
     /**

@@ -53,6 +53,7 @@ struct TouchFwDataList {
  *
  * Every call blocks for one exchange with the service; any thread may call. Each method empties
  * *out, fills it and returns true; when the command failed *out is empty and the result false.
+ * out must not be null.
  */
 class IFwTouchCtrl : public virtual RefBase {
   public:

@@ -33,7 +33,10 @@ class IIoBoxCtrl : public virtual RefBase {
     /** Returns a box's connection state; 2 when it is unknown, as on failure. */
     virtual int getConnectStatus(int box) = 0;
 
-    /** Asks for the boxes' firmware and empties *out, which stays empty. Always true. */
+    /**
+     * Asks for the boxes' firmware and empties *out, which stays empty. Always true; out must not
+     * be null.
+     */
     virtual bool getFwIoBoxList(std::vector<EntityFwIoBox>* out) = 0;
 
     virtual ~IIoBoxCtrl() = default;

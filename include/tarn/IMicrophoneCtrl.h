@@ -31,7 +31,10 @@ struct EntityMicrophone {
  */
 class IMicrophoneCtrl : public virtual RefBase {
   public:
-    /** Asks for the microphones and empties the list, which stays empty. Always returns 1. */
+    /**
+     * Asks for the microphones and empties *list, which stays empty. Always returns 1; list must
+     * not be null.
+     */
     virtual int getFwMicrophoneList(std::vector<EntityMicrophone>* list) = 0;
 
     /** Tells whether a built-in microphone is enabled. */

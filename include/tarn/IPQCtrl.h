@@ -154,8 +154,7 @@ class IPQCtrl : public virtual RefBase {
     /** Writes a preset colour-temperature entry; the five numbers are passed on in their order. */
     virtual int setPresetColorTempMode(int a, int b, int c, int d, int e) = 0;
 
-    /** Returns the preset colour-temperature entry of two numbers; all 0 when the command failed.
-     */
+    /** Returns the preset colour-temperature entry of two numbers; all 0 on failure. */
     virtual PresetColorTempValues getPresetColorTempMode(int a, int b) = 0;
 
     /** Resets the white balance. */

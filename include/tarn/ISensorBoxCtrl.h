@@ -25,8 +25,8 @@ struct EntitySensorBox {
 class ISensorBoxCtrl : public virtual RefBase {
   public:
     /**
-     * Asks for the boxes' firmware and empties *out, which stays empty. Always true. Blocks for
-     * one exchange with the service; any thread may call.
+     * Asks for the boxes' firmware and empties *out, which stays empty. Always true; out must not
+     * be null. Blocks for one exchange with the service; any thread may call.
      */
     virtual bool getFwSensorBoxList(std::vector<EntitySensorBox>* out) = 0;
 

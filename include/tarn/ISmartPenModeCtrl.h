@@ -12,7 +12,10 @@ enum _EnumSmartPenMode : int32_t {
     SMART_PEN_MODE_FALLBACK = 5,
 };
 
-/** The smart pen's mode. Every call blocks for one exchange with the service; any thread may call.
+/**
+ * The smart pen's mode.
+ *
+ * Every call blocks for one exchange with the service; any thread may call.
  */
 class ISmartPenModeCtrl : public virtual RefBase {
   public:

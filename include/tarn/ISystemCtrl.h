@@ -219,7 +219,7 @@ class ISystemCtrl : public virtual RefBase {
     /** Sets the transmitter of the HDMI switch. */
     virtual int enable_hdmi_switch_tx(int value) = 0;
 
-    /** Sets how USB follows when several pictures are shown; true when the service says so. */
+    /** Sets the multi-PiP USB mode, a service-defined number; true when the service says so. */
     virtual bool setMultiPipUsbMode(int mode) = 0;
 
     /** Returns one AENA state. */

@@ -115,10 +115,10 @@ class ITouchCtrl : public virtual RefBase {
     /** Removes an area without touch; true when the service says so. */
     virtual bool removeNoTouchArea(int id) = 0;
 
-    /** Sets the state of the outgoing touch; true when the service says so. */
+    /** Sets the out-touch state; true when the service says so. */
     virtual bool setOutTouchState(int state) = 0;
 
-    /** Returns the state of the outgoing touch. */
+    /** Returns the out-touch state. */
     virtual int getOutTouchState() = 0;
 
     /** Returns the touch frame's version. */
@@ -148,7 +148,10 @@ class ITouchCtrl : public virtual RefBase {
     /** Sets the HID mode; true when the service says so. */
     virtual bool setHidMode(String16 mode) = 0;
 
-    /** Reads the range of the logical coordinates; on failure false, and range stays as it was. */
+    /**
+     * Reads the range of the logical coordinates; on failure false, and *range stays as it was.
+     * range must not be null.
+     */
     virtual bool getLogicalTouchRange(TouchLogicalCoordinates* range) = 0;
 
     /**

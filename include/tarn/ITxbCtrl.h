@@ -42,7 +42,8 @@ class ITxbCtrl : public virtual RefBase {
     /**
      * Reads the self-test states of the sensors.
      *
-     * @param out receives them; must hold as many ints as the service sends, which nothing bounds.
+     * @param out receives them; must not be null and must hold as many ints as the service sends,
+     *            which nothing bounds.
      * @return their number; -1 on failure, and out stays as it was.
      */
     virtual int getTxbSensorSelfTestState(int* out) = 0;
