@@ -64,19 +64,20 @@ class ServiceTable : public IServiceManager {
 
     status_t addService(const String16& name, const sp<IBinder>& service, bool /*allowIsolated*/,
                         int dumpsysFlags) override {
-        if (service == nullptr || !isValidName(name)) {
-            ALOGE("Service '%s' cannot be added", String8(name).string());
-            return BAD_VALUE;
-        }
-        if (host::Carrier* carrier = host::carrier(); carrier != nullptr) {
-            const status_t status = carrier->publish(name, service);
-            if (status != NO_ERROR) return status;
-        }
-        // The service replaced is released without the lock: its destructor may come back here.
+        if (!isAddable(name, service)) return BAD_VALUE;
+        // What is replaced is released without the lock: its destructor may come back here.
         Entry entry{service, dumpsysFlags};
-        std::lock_guard<std::mutex> lock(mLock);
-        std::swap(mServices[name], entry);
-        mAdded.notify_all();
+        exchange(name, &entry);
+        host::Carrier* const carrier = host::carrier();
+        const status_t status = carrier != nullptr ? carrier->publish(name, service) : NO_ERROR;
+        if (status != NO_ERROR) exchange(name, &entry);
+        return status;
+    }
+
+    status_t addLocal(const String16& name, const sp<IBinder>& service) {
+        if (!isAddable(name, service)) return BAD_VALUE;
+        Entry entry{service, DUMP_FLAG_PRIORITY_DEFAULT};
+        exchange(name, &entry);
         return NO_ERROR;
     }
 
@@ -144,6 +145,20 @@ class ServiceTable : public IServiceManager {
         int dumpsysFlags = 0;
     };
 
+    static bool isAddable(const String16& name, const sp<IBinder>& service) {
+        if (service != nullptr && isValidName(name)) return true;
+        ALOGE("Service '%s' cannot be added", String8(name).string());
+        return false;
+    }
+
+    // Puts an entry in the place of another; one without a binder stands for none.
+    void exchange(const String16& name, Entry* entry) {
+        std::lock_guard<std::mutex> lock(mLock);
+        std::swap(mServices[name], *entry);
+        if (mServices[name].binder == nullptr) mServices.erase(name);
+        mAdded.notify_all();
+    }
+
     std::vector<String16> localNames() const {
         std::lock_guard<std::mutex> lock(mLock);
         std::vector<String16> names;
@@ -206,6 +221,10 @@ namespace host {
 
 void serviceReplaced(const String16& name, const sp<IBinder>& service) {
     ServiceTable::get()->removeReplaced(name, service);
+}
+
+status_t addLocalService(const String16& name, const sp<IBinder>& service) {
+    return ServiceTable::get()->addLocal(name, service);
 }
 
 bool removeService(const String16& name) {

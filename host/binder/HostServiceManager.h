@@ -1,8 +1,16 @@
 #pragma once
 
+#include <binder/IBinder.h>
+#include <utils/Errors.h>
 #include <utils/String16.h>
 
 namespace android::host {
+
+/**
+ * As the service manager's addService(), but the service stays within this process, where it comes
+ * before one of the same name of another process.
+ */
+status_t addLocalService(const String16& name, const sp<IBinder>& service);
 
 /** Takes a service out of this process's table again; false if it is not there. For tests. */
 bool removeService(const String16& name);

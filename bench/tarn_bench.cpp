@@ -1,0 +1,274 @@
+#include <binder/Binder.h>
+#include <binder/IServiceManager.h>
+#include <fcntl.h>
+#include <sdbus-c++/sdbus-c++.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <tarn/TarnManager.h>
+#include <unistd.h>
+#include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+extern char** environ;
+
+namespace {
+
+using android::IBinder;
+using android::NO_ERROR;
+using android::Parcel;
+using android::sp;
+using android::status_t;
+using android::String16;
+using android::TarnManager;
+using android::hardware::hidl_string;
+using android::hardware::Return;
+using android::hardware::Void;
+using std::chrono::steady_clock;
+using vendor::zunt::hwtarn::V1_0::IHwTarn;
+using vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
+
+constexpr char kBareName[] = "tarn.bench";
+constexpr char kBarePath[] = "/tarn/bench";
+constexpr char kBareInterface[] = "tarn.bench.Echo";
+constexpr char kCounterName[] = "tarn.bench.counter";
+
+constexpr char kInner[] = "--on-this-bus";
+constexpr char kServe[] = "--serve";
+
+// Answers a command with its own bytes: the code comes back as the status.
+class EchoBoard : public IHwTarn {
+  public:
+    Return<void> hwRegisterCallback(const sp<IHwTarnCallback>&, int32_t) override { return Void(); }
+    Return<void> hwInvoke(const hidl_string& request, hwInvoke_cb _hidl_cb) override {
+        _hidl_cb(request);
+        return Void();
+    }
+    Return<void> hwPostEvent(int32_t, const hidl_string&) override { return Void(); }
+};
+
+// Counts one-way calls.
+class Counter : public android::BBinder {
+  public:
+    enum : uint32_t { COUNT = FIRST_CALL_TRANSACTION, TOTAL };
+
+    status_t onTransact(uint32_t code, const Parcel& data, Parcel* reply, uint32_t flags) override {
+        switch (code) {
+            case COUNT:
+                mTotal++;
+                return NO_ERROR;
+            case TOTAL:
+                return reply->writeInt64(mTotal);
+            default:
+                return BBinder::onTransact(code, data, reply, flags);
+        }
+    }
+
+  private:
+    std::atomic<int64_t> mTotal{0};
+};
+
+int serve() {
+    const sp<EchoBoard> board = new EchoBoard;
+    if (board->registerAsService() != android::OK) return 1;
+    android::defaultServiceManager()->addService(String16(kCounterName), new Counter);
+
+    const auto connection = sdbus::createSessionBusConnection(kBareName);
+    const auto object = sdbus::createObject(*connection, kBarePath);
+    object->registerMethod("Echo")
+            .onInterface(kBareInterface)
+            .implementedAs([](const std::vector<uint8_t>& bytes) { return bytes; });
+    object->finishRegistration();
+    connection->enterEventLoopAsync();
+
+    puts("ready");
+    fflush(stdout);
+    getchar();
+    return 0;
+}
+
+// The service process; it ends with this one.
+class Service {
+  public:
+    Service() {
+        int input[2];
+        int output[2];
+        if (pipe2(input, O_CLOEXEC) != 0 || pipe2(output, O_CLOEXEC) != 0) abort();
+        posix_spawn_file_actions_t actions;
+        posix_spawn_file_actions_init(&actions);
+        posix_spawn_file_actions_adddup2(&actions, input[0], STDIN_FILENO);
+        posix_spawn_file_actions_adddup2(&actions, output[1], STDOUT_FILENO);
+        std::string program = "/proc/self/exe";
+        std::string role = kServe;
+        char* const command[] = {program.data(), role.data(), nullptr};
+        if (posix_spawn(&mPid, command[0], &actions, nullptr, command, environ) != 0) abort();
+        posix_spawn_file_actions_destroy(&actions);
+        close(input[0]);
+        close(output[1]);
+        char ready;
+        if (read(output[0], &ready, 1) != 1) abort();
+        close(output[0]);
+        mInput = input[1];
+    }
+    ~Service() {
+        close(mInput);
+        waitpid(mPid, nullptr, 0);
+    }
+
+  private:
+    pid_t mPid = -1;
+    int mInput = -1;
+};
+
+double secondsSince(steady_clock::time_point start) {
+    return std::chrono::duration<double>(steady_clock::now() - start).count();
+}
+
+double median(std::vector<double> values) {
+    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
+    return values[values.size() / 2];
+}
+
+double timeOf(const std::function<void()>& work) {
+    const auto start = steady_clock::now();
+    work();
+    return secondsSince(start);
+}
+
+void check(bool good) {
+    if (good) return;
+    fputs("tarn_bench: a call failed\n", stderr);
+    exit(1);
+}
+
+void invoke(TarnManager& manager, const Parcel& request) {
+    Parcel reply;
+    check(manager.invoke(request, &reply) == 1 && reply.dataSize() == request.dataSize());
+}
+
+Parcel& fill(Parcel& request, size_t size) {
+    request.writeInt32(1);
+    const std::vector<uint8_t> rest(size - sizeof(int32_t), 7);
+    request.write(rest.data(), rest.size());
+    return request;
+}
+
+void measureRoundTrips(double seconds) {
+    const auto connection = sdbus::createSessionBusConnection();
+    const auto proxy = sdbus::createProxy(*connection, kBareName, kBarePath);
+    const sp<TarnManager> manager = new TarnManager;
+
+    printf("round trip, median\n%12s %14s %14s %8s\n", "bytes", "command", "bare call", "ratio");
+    for (const size_t size : {16, 256, 1024, 4096, 65536, 1024 * 1024}) {
+        Parcel request;
+        fill(request, size);
+        const std::vector<uint8_t> bytes(request.data(), request.data() + size);
+        std::vector<double> commands;
+        std::vector<double> calls;
+        const auto start = steady_clock::now();
+        while (secondsSince(start) < seconds || calls.size() < 10) {
+            commands.push_back(timeOf([&] { invoke(*manager, request); }));
+            calls.push_back(timeOf([&] {
+                std::vector<uint8_t> back;
+                proxy->callMethod("Echo")
+                        .onInterface(kBareInterface)
+                        .withArguments(bytes)
+                        .storeResultsTo(back);
+                check(back.size() == size);
+            }));
+        }
+        const double command = median(std::move(commands));
+        const double call = median(std::move(calls));
+        printf("%12zu %11.1f us %11.1f us %8.2f\n", size, command * 1e6, call * 1e6,
+               command / call);
+    }
+}
+
+void measureConcurrency(double seconds) {
+    const sp<TarnManager> manager = new TarnManager;
+    printf("\ncommands of 64 bytes, several threads\n%12s %14s\n", "threads", "a second");
+    for (const int count : {1, 2, 4, 8}) {
+        std::atomic<bool> stop{false};
+        std::atomic<int64_t> done{0};
+        std::vector<std::thread> threads;
+        const auto start = steady_clock::now();
+        for (int i = 0; i < count; i++) {
+            threads.emplace_back([&] {
+                Parcel request;
+                fill(request, 64);
+                while (!stop) {
+                    invoke(*manager, request);
+                    done++;
+                }
+            });
+        }
+        std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
+        stop = true;
+        for (std::thread& thread : threads) thread.join();
+        printf("%12d %14.0f\n", count, static_cast<double>(done) / secondsSince(start));
+    }
+}
+
+int64_t total(const sp<IBinder>& counter) {
+    Parcel data;
+    Parcel reply;
+    check(counter->transact(Counter::TOTAL, data, &reply) == NO_ERROR);
+    return reply.readInt64();
+}
+
+// Sent no faster than they are counted: who runs ahead too far loses calls.
+void measureOneWay(double seconds) {
+    constexpr int64_t kAhead = 1000;
+    const sp<IBinder> counter =
+            android::defaultServiceManager()->checkService(String16(kCounterName));
+    check(counter != nullptr);
+    int64_t sent = 0;
+    const auto start = steady_clock::now();
+    while (secondsSince(start) < seconds) {
+        for (int64_t i = 0; i < kAhead; i++, sent++) {
+            Parcel data;
+            data.writeInt64(sent);
+            check(counter->transact(Counter::COUNT, data, nullptr, IBinder::FLAG_ONEWAY) ==
+                  NO_ERROR);
+        }
+        while (total(counter) < sent - kAhead) std::this_thread::yield();
+    }
+    while (total(counter) < sent) std::this_thread::yield();
+    printf("\none-way calls of 8 bytes: %.0f a second\n",
+           static_cast<double>(sent) / secondsSince(start));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc > 1 && strcmp(argv[1], kServe) == 0) return serve();
+    if (argc < 2 || strcmp(argv[1], kInner) != 0) {
+        std::vector<char*> command;
+        std::string words[] = {"dbus-run-session", "--", "/proc/self/exe", kInner,
+                               argc > 1 ? argv[1] : "1"};
+        char path[4096];
+        const ssize_t length = readlink(words[2].c_str(), path, sizeof(path));
+        words[2].assign(path, static_cast<size_t>(std::max<ssize_t>(length, 0)));
+        for (std::string& word : words) command.push_back(word.data());
+        command.push_back(nullptr);
+        execvp(command[0], command.data());
+        perror("dbus-run-session");
+        return 1;
+    }
+    const double seconds = argc > 2 ? atof(argv[2]) : 1;
+    const Service service;
+    measureRoundTrips(seconds);
+    measureConcurrency(seconds);
+    measureOneWay(seconds);
+    return 0;
+}

@@ -1,0 +1,230 @@
+#define LOG_TAG "BinderBus"
+
+#include "BusLink.h"
+
+#include <log/log.h>
+#include <poll.h>
+#include <pthread.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+#include "Wire.h"
+
+namespace android::host::dbus {
+
+namespace {
+
+constexpr char kNameOwnerChanged[] =
+        "type='signal',sender='org.freedesktop.DBus',path='/org/freedesktop/DBus',"
+        "interface='org.freedesktop.DBus',member='NameOwnerChanged'";
+
+// The library says by an errno's name that the connection is lost.
+bool meansBroken(const sdbus::Error& error) {
+    const std::string prefix = "System.Error.";
+    const std::string& name = error.getName();
+    return name == prefix + "ENOTCONN" || name == prefix + "ECONNRESET" ||
+           name == prefix + "EPIPE" || name == prefix + "ESHUTDOWN";
+}
+
+}  // namespace
+
+BusLink::Destination::Destination(BusLink& link, const std::string& name, const char* path)
+    : mLink(link), mProxy(sdbus::createProxy(*link.mConnection, name, path)) {}
+
+BusLink::Destination::~Destination() {
+    std::lock_guard<std::mutex> lock(mLink.mLock);
+    mProxy.reset();
+}
+
+BusLink::BusLink(const std::string& address)
+    : mConnection(sdbus::createSessionBusConnectionWithAddress(address)),
+      mUniqueName(mConnection->getUniqueName()),
+      mWakeFd(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
+    if (mWakeFd < 0) throw sdbus::createError(errno, "no event descriptor");
+    mConnection->addMatch(
+            kNameOwnerChanged,
+            [this](sdbus::Message& signal) {
+                std::string name;
+                std::string oldOwner;
+                std::string newOwner;
+                signal >> name >> oldOwner >> newOwner;
+                mInbox.emplace_back(
+                        [=] { mListener->onNameOwnerChanged(name, oldOwner, newOwner); });
+            },
+            sdbus::floating_slot);
+
+    mObject = sdbus::createObject(*mConnection, kObjectPath);
+    const auto accept = [this](sdbus::MethodCall call) {
+        mInbox.emplace_back([this, call]() mutable { mListener->onCall(std::move(call)); });
+    };
+    const std::string content = kContentSignature;
+    mObject->registerMethod(kInterface, kTransact, "tuu" + content, "i" + content, accept);
+    mObject->registerMethod(kInterface, kRelease, "tu", "", accept);
+    mObject->registerMethod(kInterface, kGrant, "ts", "", accept);
+    mObject->registerMethod(kInterface, kLookup, "s", "st", accept);
+    mObject->finishRegistration();
+}
+
+BusLink::~BusLink() {
+    close(mWakeFd);
+}
+
+void BusLink::start(Listener* listener) {
+    mListener = listener;
+    std::thread([this] {
+        pthread_setname_np(pthread_self(), "binder-bus");
+        run();
+    }).detach();
+}
+
+void BusLink::run() {
+    {
+        std::lock_guard<std::mutex> lock(mLock);
+        mThread = std::this_thread::get_id();
+    }
+    try {
+        for (;;) {
+            const bool more = process();
+            deliver();
+            if (!more) waitForEvents();
+        }
+    } catch (const sdbus::Error& error) {
+        deliver();
+        breakOff(error.what());
+    }
+}
+
+bool BusLink::process() {
+    std::lock_guard<std::mutex> lock(mLock);
+    return mConnection->processPendingRequest();
+}
+
+void BusLink::deliver() {
+    for (const auto& arrived : std::exchange(mInbox, {})) arrived();
+}
+
+// A message that did not fit into the socket is written on by this thread; a sender that left one
+// behind wakes it, since it may have begun to wait for nothing but input.
+void BusLink::waitForEvents() {
+    sdbus::IConnection::PollData wanted;
+    {
+        std::lock_guard<std::mutex> lock(mLock);
+        wanted = mConnection->getEventLoopPollData();
+        if ((wanted.events & POLLOUT) == 0) mWritten.notify_all();
+    }
+    pollfd descriptors[] = {{wanted.fd, wanted.events, 0}, {mWakeFd, POLLIN, 0}};
+    const int ready = poll(descriptors, 2, wanted.getPollTimeout());
+    if (ready > 0 && descriptors[1].revents != 0) {
+        eventfd_t count;
+        eventfd_read(mWakeFd, &count);
+    }
+}
+
+void BusLink::wake() {
+    eventfd_write(mWakeFd, 1);
+}
+
+void BusLink::breakOff(const char* why) {
+    ALOGW("The session bus is gone; from now on this process is on its own: %s", why);
+    std::set<std::shared_ptr<Pending>> abandoned;
+    {
+        std::lock_guard<std::mutex> lock(mLock);
+        mBroken = true;
+        abandoned.swap(mPending);
+        mWritten.notify_all();
+    }
+    mListener->onDisconnected();
+    const sdbus::Error error("org.freedesktop.DBus.Error.Disconnected", why);
+    for (const std::shared_ptr<Pending>& pending : abandoned) {
+        sdbus::MethodReply none;
+        pending->handler(none, &error);
+    }
+}
+
+sdbus::MethodCall BusLink::newCall(Destination& destination, const char* interface,
+                                   const char* method) {
+    std::lock_guard<std::mutex> lock(mLock);
+    return destination.mProxy->createMethodCall(interface, method);
+}
+
+bool BusLink::isBroken() {
+    std::lock_guard<std::mutex> lock(mLock);
+    return mBroken;
+}
+
+bool BusLink::hasUnwritten() {
+    try {
+        return (mConnection->getEventLoopPollData().events & POLLOUT) != 0;
+    } catch (const sdbus::Error&) {
+        return false;  // the connection is closed
+    }
+}
+
+// Each thread waits until its own message is written, so that what waits to be written is bounded.
+// Who reads too slowly is the bus's concern: it takes every message at once.
+template <typename Send>
+bool BusLink::sendLocked(Send send) {
+    std::unique_lock<std::mutex> lock(mLock);
+    if (mBroken) return false;
+    try {
+        send();
+    } catch (const sdbus::Error& error) {
+        if (meansBroken(error)) {
+            mBroken = true;
+        } else {
+            ALOGE("A message cannot be sent: %s", error.what());
+        }
+        return false;
+    }
+    if (!hasUnwritten()) return true;
+    wake();
+    if (std::this_thread::get_id() != mThread) {
+        mWritten.wait(lock, [this] { return mBroken || !hasUnwritten(); });
+    }
+    return true;
+}
+
+bool BusLink::send(sdbus::MethodCall& call) {
+    return sendLocked([&call] {
+        call.dontExpectReply();
+        call.send(0);
+    });
+}
+
+bool BusLink::send(const sdbus::MethodReply& reply) {
+    return sendLocked([&reply] { reply.send(); });
+}
+
+bool BusLink::call(const std::shared_ptr<Destination>& destination, const sdbus::MethodCall& call,
+                   std::chrono::microseconds timeout, AnswerHandler handler) {
+    const auto pending = std::make_shared<Pending>(Pending{destination, std::move(handler)});
+    const bool limited = timeout != kForever;
+    return sendLocked([&] {
+        destination->mProxy->callMethod(
+                call,
+                [this, pending](sdbus::MethodReply& reply, const sdbus::Error* error) {
+                    auto failure =
+                            error != nullptr ? std::make_shared<sdbus::Error>(*error) : nullptr;
+                    mInbox.emplace_back([this, pending, reply, failure]() mutable {
+                        finish(pending, reply, failure.get());
+                    });
+                },
+                limited ? static_cast<uint64_t>(timeout.count()) : UINT64_MAX);
+        mPending.insert(pending);
+        if (limited) wake();
+    });
+}
+
+void BusLink::finish(const std::shared_ptr<Pending>& pending, sdbus::MethodReply& reply,
+                     const sdbus::Error* error) {
+    {
+        std::lock_guard<std::mutex> lock(mLock);
+        if (mPending.erase(pending) == 0) return;
+    }
+    pending->handler(reply, error);
+}
+
+}  // namespace android::host::dbus

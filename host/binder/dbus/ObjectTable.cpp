@@ -1,0 +1,158 @@
+#define LOG_TAG "BinderBus"
+
+#include "ObjectTable.h"
+
+#include <log/log.h>
+#include <sys/random.h>
+
+#include <algorithm>
+
+namespace android::host::dbus {
+
+namespace {
+
+// A number is all that one needs to call an object: nobody can guess it, and none comes twice.
+uint64_t newNumber() {
+    uint64_t number = 0;
+    const ssize_t got = getrandom(&number, sizeof(number), 0);
+    LOG_ALWAYS_FATAL_IF(got != sizeof(number), "no random numbers");
+    return number;
+}
+
+}  // namespace
+
+uint64_t ObjectTable::lend(const sp<BBinder>& object, Peer& holder) {
+    std::lock_guard<std::mutex> lock(mLock);
+    if (holder.dead) return 0;
+    const auto known = mNumbers.find(object.get());
+    uint64_t number = known != mNumbers.end() ? known->second : 0;
+    while (number == 0 || (known == mNumbers.end() && mLent.count(number) > 0)) {
+        number = newNumber();
+    }
+    mNumbers[object.get()] = number;
+    Lent& lent = mLent[number];
+    lent.object = object;
+    addHold(number, lent, holder);
+    return number;
+}
+
+bool ObjectTable::lendOn(uint64_t object, Peer& holder) {
+    std::lock_guard<std::mutex> lock(mLock);
+    const auto lent = mLent.find(object);
+    if (lent == mLent.end()) return false;
+    if (!holder.dead) addHold(object, lent->second, holder);
+    return true;
+}
+
+void ObjectTable::addHold(uint64_t object, Lent& lent, Peer& holder) {
+    holder.holds[object]++;
+    lent.holds++;
+}
+
+void ObjectTable::giveBack(uint64_t object, uint64_t count, Peer& holder, Objects* released) {
+    std::lock_guard<std::mutex> lock(mLock);
+    const auto held = holder.holds.find(object);
+    if (held == holder.holds.end()) return;
+    const uint64_t given = std::min(count, held->second);
+    held->second -= given;
+    if (held->second == 0) holder.holds.erase(held);
+    dropHolds(mLent.find(object), given, released);
+}
+
+void ObjectTable::dropHolds(std::map<uint64_t, Lent>::iterator lent, uint64_t count,
+                            Objects* released) {
+    lent->second.holds -= count;
+    if (lent->second.holds > 0) return;
+    mNumbers.erase(lent->second.object.get());
+    released->push_back(std::move(lent->second.object));
+    mLent.erase(lent);
+}
+
+sp<BBinder> ObjectTable::find(uint64_t object) {
+    std::lock_guard<std::mutex> lock(mLock);
+    const auto lent = mLent.find(object);
+    return lent != mLent.end() ? lent->second.object : nullptr;
+}
+
+int32_t ObjectTable::newHandle() {
+    if (mFreeHandles.empty()) return static_cast<int32_t>(mReceived.size()) + 1;
+    const int32_t handle = *mFreeHandles.begin();
+    mFreeHandles.erase(mFreeHandles.begin());
+    return handle;
+}
+
+int32_t ObjectTable::receive(const std::shared_ptr<Peer>& owner, uint64_t object) {
+    std::lock_guard<std::mutex> lock(mLock);
+    const auto [handle, isNew] = mHandles.try_emplace({owner->name, object}, 0);
+    if (isNew) {
+        handle->second = newHandle();
+        mReceived[handle->second].remote = {owner, object};
+    }
+    Received& received = mReceived[handle->second];
+    received.holds++;
+    received.pins++;
+    return handle->second;
+}
+
+std::optional<ObjectTable::Holds> ObjectTable::letGo(int32_t handle) {
+    std::lock_guard<std::mutex> lock(mLock);
+    const auto received = mReceived.find(handle);
+    received->second.pins--;
+    return freeIfUnused(received);
+}
+
+void ObjectTable::acquire(int32_t handle) {
+    std::lock_guard<std::mutex> lock(mLock);
+    const auto received = mReceived.find(handle);
+    if (received != mReceived.end()) received->second.proxies++;
+}
+
+std::optional<ObjectTable::Holds> ObjectTable::release(int32_t handle) {
+    std::lock_guard<std::mutex> lock(mLock);
+    const auto received = mReceived.find(handle);
+    if (received == mReceived.end()) return std::nullopt;
+    received->second.proxies--;
+    return freeIfUnused(received);
+}
+
+std::optional<ObjectTable::Holds> ObjectTable::freeIfUnused(
+        std::map<int32_t, Received>::iterator received) {
+    if (received->second.pins > 0 || received->second.proxies > 0) return std::nullopt;
+    Holds holds{std::move(received->second.remote), received->second.holds};
+    mHandles.erase({holds.remote.owner->name, holds.remote.object});
+    mFreeHandles.insert(received->first);
+    mReceived.erase(received);
+    return holds;
+}
+
+std::optional<ObjectTable::Remote> ObjectTable::remote(int32_t handle) {
+    std::lock_guard<std::mutex> lock(mLock);
+    const auto received = mReceived.find(handle);
+    if (received == mReceived.end()) return std::nullopt;
+    return received->second.remote;
+}
+
+std::vector<int32_t> ObjectTable::bury(Peer& peer, Objects* released) {
+    std::lock_guard<std::mutex> lock(mLock);
+    peer.dead = true;
+    for (const auto& [object, count] : peer.holds) {
+        dropHolds(mLent.find(object), count, released);
+    }
+    peer.holds.clear();
+    std::vector<int32_t> orphans;
+    for (auto& [handle, received] : mReceived) {
+        if (received.remote.owner.get() != &peer) continue;
+        received.pins++;
+        orphans.push_back(handle);
+    }
+    return orphans;
+}
+
+ObjectTable::Counts ObjectTable::counts() {
+    std::lock_guard<std::mutex> lock(mLock);
+    size_t holds = 0;
+    for (const auto& lent : mLent) holds += lent.second.holds;
+    return {mLent.size(), holds, mReceived.size()};
+}
+
+}  // namespace android::host::dbus

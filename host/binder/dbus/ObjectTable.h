@@ -1,0 +1,109 @@
+#pragma once
+
+#include <binder/Binder.h>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "../Carrier.h"
+#include "Peer.h"
+
+namespace android::host::dbus {
+
+/**
+ * The objects that this process shares with others: those of its own that it lent out, and those
+ * of others that it has proxies of. Keeps the books; whoever calls sends the messages.
+ *
+ * A hold is one sending of a reference: the owner counts, by process, how many it sent, and a
+ * process that needs an object no more gives back as many as it received. So a reference that is
+ * on its way while others are given back is never lost. An object is kept while anybody has a hold
+ * on it; when a process dies, all of its holds end.
+ *
+ * References that a function takes out of the table are handed to its caller: an object's
+ * destructor is not to run within, nor on the link's thread.
+ */
+class ObjectTable {
+  public:
+    using Objects = std::vector<sp<IBinder>>;
+
+    /** An object of another process. */
+    struct Remote {
+        std::shared_ptr<Peer> owner;
+        uint64_t object;
+    };
+
+    /** So many holds on an object of another process. */
+    struct Holds {
+        Remote remote;
+        uint32_t count;
+    };
+
+    explicit ObjectTable(std::string self) : mSelf(std::move(self)) {}
+
+    /** Adds a hold on an object of this process and gives its number; 0 if the holder is dead. */
+    uint64_t lend(const sp<BBinder>& object, Peer& holder);
+    /** The same for an object that was lent before; false if there is none of this number. */
+    bool lendOn(uint64_t object, Peer& holder);
+    void giveBack(uint64_t object, uint64_t count, Peer& holder, Objects* released);
+
+    /** The object that was lent under this number; null if there is none. */
+    sp<BBinder> find(uint64_t object);
+
+    /**
+     * Takes note that a hold on another process's object came in. The handle stays valid, without
+     * a proxy too, until it is let go.
+     */
+    int32_t receive(const std::shared_ptr<Peer>& owner, uint64_t object);
+    std::optional<Holds> letGo(int32_t handle);
+
+    void acquire(int32_t handle);
+    std::optional<Holds> release(int32_t handle);
+
+    /** What lies behind a handle; none if it is not in use. */
+    std::optional<Remote> remote(int32_t handle);
+
+    /** Ends a process's holds. Its handles come back, to be let go: their proxies are to be told.
+     */
+    std::vector<int32_t> bury(Peer& peer, Objects* released);
+
+    struct Counts {
+        size_t lent;     // objects of this process that others hold
+        size_t holds;    // all holds on them
+        size_t remotes;  // objects of others that this process holds
+    };
+    Counts counts();
+
+  private:
+    struct Lent {
+        sp<BBinder> object;
+        uint64_t holds = 0;
+    };
+    struct Received {
+        Remote remote;
+        uint32_t holds = 0;
+        int32_t proxies = 0;
+        int32_t pins = 0;
+    };
+
+    void addHold(uint64_t object, Lent& lent, Peer& holder);
+    void dropHolds(std::map<uint64_t, Lent>::iterator lent, uint64_t count, Objects* released);
+    std::optional<Holds> freeIfUnused(std::map<int32_t, Received>::iterator received);
+    int32_t newHandle();
+
+    const std::string mSelf;
+    std::mutex mLock;
+    std::map<uint64_t, Lent> mLent;
+    std::map<const BBinder*, uint64_t> mNumbers;
+    std::map<int32_t, Received> mReceived;
+    std::map<std::pair<std::string, uint64_t>, int32_t> mHandles;
+    std::set<int32_t> mFreeHandles;
+};
+
+}  // namespace android::host::dbus

@@ -1,0 +1,22 @@
+#include "Peer.h"
+
+#include "CallQueue.h"
+
+namespace android::host::dbus {
+
+Peer::Peer(BusLink& link, const std::string& uniqueName)
+    : name(uniqueName),
+      destination(std::make_shared<BusLink::Destination>(link, uniqueName, kObjectPath)) {}
+
+Peer::~Peer() = default;
+
+bool Peer::mayComplain() {
+    const auto now = std::chrono::steady_clock::now();
+    if (complained.time_since_epoch().count() != 0 && now - complained < std::chrono::seconds(1)) {
+        return false;
+    }
+    complained = now;
+    return true;
+}
+
+}  // namespace android::host::dbus

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "BusLink.h"
+#include "Wire.h"
+
+namespace android::host::dbus {
+
+class Call;
+
+/** Another process on the bus, known by its unique name, which no other process ever gets. */
+struct Peer {
+    Peer(BusLink& link, const std::string& uniqueName);
+    ~Peer();
+
+    /** True at most once a second: a flood of bad messages is not to become one of log lines. */
+    bool mayComplain();
+
+    const std::string name;
+    const std::shared_ptr<BusLink::Destination> destination;
+
+    std::atomic<bool> dead{false};
+
+    // What it has sent that no thread has taken up yet.
+    std::atomic<size_t> waitingCalls{0};
+    std::atomic<size_t> waitingBytes{0};
+
+    // How many holds it has on which object of this process. Guarded by the object table.
+    std::map<uint64_t, uint64_t> holds;
+
+    // The rest is for the link's thread alone. Calls wait until it is known who calls.
+    bool identified = false;
+    pid_t pid = 0;
+    uid_t uid = static_cast<uid_t>(-1);
+    std::vector<std::unique_ptr<Call>> unidentified;
+    std::chrono::steady_clock::time_point complained{};
+};
+
+}  // namespace android::host::dbus

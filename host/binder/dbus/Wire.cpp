@@ -1,0 +1,139 @@
+#include "Wire.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace android::host::dbus {
+
+namespace {
+
+// Nobody can change the bytes once they are on their way, nor take them away from a reader.
+constexpr int kSeals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
+
+sdbus::UnixFd sealedFileOf(const std::vector<uint8_t>& bytes) {
+    const int file = memfd_create("binder", MFD_CLOEXEC | MFD_ALLOW_SEALING);
+    if (file < 0) throw sdbus::createError(errno, "no memory file for a transaction");
+    sdbus::UnixFd owned(file, sdbus::adopt_fd);
+    for (size_t done = 0; done < bytes.size();) {
+        const ssize_t written = ::write(file, bytes.data() + done, bytes.size() - done);
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0)
+            throw sdbus::createError(errno, "cannot fill a transaction's memory file");
+        done += static_cast<size_t>(written);
+    }
+    if (fcntl(file, F_ADD_SEALS, kSeals) != 0) {
+        throw sdbus::createError(errno, "cannot seal a transaction's memory file");
+    }
+    return owned;
+}
+
+// Only a sealed memory file is read: any other file could block its reader or change meanwhile.
+bool readFile(int file, std::vector<uint8_t>* bytes) {
+    const int seals = fcntl(file, F_GET_SEALS);
+    if (seals < 0 || (seals & kSeals) != kSeals) return false;
+    struct stat info;
+    if (fstat(file, &info) != 0 || info.st_size < 0) return false;
+    const size_t size = static_cast<size_t>(info.st_size);
+    if (size > kMaxTransactionSize) return false;
+    bytes->resize(size);
+    for (size_t done = 0; done < size;) {
+        const ssize_t got =
+                pread(file, bytes->data() + done, size - done, static_cast<off_t>(done));
+        if (got < 0 && errno == EINTR) continue;
+        if (got <= 0) return false;
+        done += static_cast<size_t>(got);
+    }
+    return true;
+}
+
+bool readInline(sdbus::Message& message, std::vector<uint8_t>* bytes) {
+    if (!message.enterContainer("y")) return false;
+    uint8_t byte = 0;
+    while (message >> byte) {
+        if (bytes->size() == kMaxInlineSize) return false;
+        bytes->push_back(byte);
+    }
+    message.clearFlags();
+    message.exitContainer();
+    return true;
+}
+
+bool readBytes(sdbus::Message& message, std::vector<uint8_t>* bytes) {
+    std::string type;
+    std::string contents;
+    message.peekType(type, contents);
+    if (type != "v" || (contents != "ay" && contents != "h")) return false;
+    if (!message.enterVariant(contents)) return false;
+    if (contents == "ay") {
+        if (!readInline(message, bytes)) return false;
+    } else {
+        sdbus::UnixFd file;
+        if (!(message >> file) || !readFile(file.get(), bytes)) return false;
+    }
+    message.exitVariant();
+    return true;
+}
+
+bool readReferences(sdbus::Message& message, std::vector<Reference>* references) {
+    if (!message.enterContainer("(ust)")) return false;
+    while (message.enterStruct("ust")) {
+        if (references->size() == kMaxReferences) return false;
+        Reference reference;
+        message >> reference.offset >> reference.owner >> reference.object;
+        message.exitStruct();
+        references->push_back(std::move(reference));
+    }
+    message.clearFlags();
+    message.exitContainer();
+    return true;
+}
+
+}  // namespace
+
+void write(sdbus::Message& message, const Content& content) {
+    message.openContainer("(ust)");
+    for (const Reference& reference : content.references) {
+        message.openStruct("ust");
+        message << reference.offset << reference.owner << reference.object;
+        message.closeStruct();
+    }
+    message.closeContainer();
+    if (content.bytes.size() > kMaxInlineSize) {
+        message.openVariant("h");
+        message << sealedFileOf(content.bytes);
+    } else {
+        message.openVariant("ay");
+        message << content.bytes;
+    }
+    message.closeVariant();
+}
+
+bool read(sdbus::Message& message, Content* content) {
+    try {
+        return readReferences(message, &content->references) && readBytes(message, &content->bytes);
+    } catch (const sdbus::Error&) {
+        return false;
+    }
+}
+
+bool read(sdbus::Message& message, int32_t* status, Content* content) {
+    try {
+        message >> *status;
+    } catch (const sdbus::Error&) {
+        return false;
+    }
+    return read(message, content);
+}
+
+bool isUniqueName(const std::string& name) {
+    return name.size() > 1 && name[0] == ':' && name.size() <= 255 &&
+           std::all_of(name.begin() + 1, name.end(),
+                       [](char c) { return (c >= '0' && c <= '9') || c == '.'; });
+}
+
+}  // namespace android::host::dbus

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <sdbus-c++/sdbus-c++.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace android::host::dbus {
+
+/**
+ * What processes say to each other. Each has one object on the bus, at kObjectPath:
+ *
+ *   Transact(object, code, flags, references, bytes) -> (status, references, bytes)
+ *   Release(object, count)      the caller gives back so many of its holds on an object
+ *   Grant(object, holder)       the caller lends an object on to a third process
+ *   Lookup(service) -> (owner, object)
+ *
+ * Nobody waits for Release and Grant, nor for a one-way Transact.
+ */
+inline constexpr char kObjectPath[] = "/tarn/binder";
+inline constexpr char kInterface[] = "tarn.binder.Carrier1";
+inline constexpr char kTransact[] = "Transact";
+inline constexpr char kRelease[] = "Release";
+inline constexpr char kGrant[] = "Grant";
+inline constexpr char kLookup[] = "Lookup";
+
+inline constexpr char kNoSuchObject[] = "tarn.binder.Error.NoSuchObject";
+inline constexpr char kMalformed[] = "tarn.binder.Error.Malformed";
+inline constexpr char kOverloaded[] = "tarn.binder.Error.Overloaded";
+inline constexpr char kUnanswered[] = "tarn.binder.Error.Unanswered";
+
+/** The most bytes and objects of one request or reply. */
+inline constexpr size_t kMaxTransactionSize = 16 * 1024 * 1024;
+inline constexpr size_t kMaxReferences = 4096;
+
+/** More bytes than this travel in a sealed memory file: the library appends byte by byte. */
+inline constexpr size_t kMaxInlineSize = 1024;
+
+/** An object within a transaction's bytes. */
+struct Reference {
+    uint32_t offset;
+    std::string owner;  // the unique bus name of the owner's process; empty for the sender itself
+    uint64_t object;
+};
+
+/** What a parcel holds, on its way between processes. */
+struct Content {
+    std::vector<Reference> references;
+    std::vector<uint8_t> bytes;
+};
+
+/** The D-Bus signature of a Content within a message. */
+inline constexpr char kContentSignature[] = "a(ust)v";
+
+/** Appends a parcel's content; throws sdbus::Error if it cannot. */
+void write(sdbus::Message& message, const Content& content);
+
+/** Reads a parcel's content; false if it is malformed or too large. */
+bool read(sdbus::Message& message, Content* content);
+
+/** Reads a reply to Transact; false if it is malformed or too large. */
+bool read(sdbus::Message& message, int32_t* status, Content* content);
+
+/** True for the name that the bus gave to a connection. */
+bool isUniqueName(const std::string& name);
+
+}  // namespace android::host::dbus

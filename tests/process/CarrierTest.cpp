@@ -1,0 +1,622 @@
+#include <binder/Binder.h>
+#include <binder/BpBinder.h>
+#include <binder/IPCThreadState.h>
+#include <binder/IServiceManager.h>
+#include <binder/ProcessState.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <future>
+#include <thread>
+
+#include "host/binder/HostServiceManager.h"
+#include "tests/process/Desk.h"
+#include "tests/process/ProcessTest.h"
+
+namespace tarn::test {
+namespace {
+
+using android::BAD_VALUE;
+using android::BBinder;
+using android::DEAD_OBJECT;
+using android::FAILED_TRANSACTION;
+using android::IBinder;
+using android::NO_ERROR;
+using android::Parcel;
+using android::sp;
+using android::String16;
+using android::UNKNOWN_TRANSACTION;
+using android::wp;
+
+constexpr size_t kMebibyte = 1024 * 1024;
+
+sp<IBinder> find(const std::string& name) {
+    return android::defaultServiceManager()->checkService(String16(name.c_str()));
+}
+
+int publish(const std::string& name, const sp<IBinder>& service) {
+    return android::defaultServiceManager()->addService(String16(name.c_str()), service);
+}
+
+CHILD(desk) {
+    if (publish(arguments[0], new Desk) != NO_ERROR) return 1;
+    return serveUntilClosed();
+}
+
+// A desk in a process of its own.
+class RemoteDesk {
+  public:
+    explicit RemoteDesk(const std::string& name) : process("desk", {name}) {
+        process.readLine();
+        client = DeskClient(find(name));
+        EXPECT_NE(nullptr, client.binder());
+    }
+
+    Child process;
+    DeskClient client{nullptr};
+};
+
+class Recipient : public IBinder::DeathRecipient {
+  public:
+    void binderDied(const wp<IBinder>& who) override {
+        std::lock_guard<std::mutex> lock(mLock);
+        mDead.push_back(who);
+    }
+    size_t deaths() {
+        std::lock_guard<std::mutex> lock(mLock);
+        return mDead.size();
+    }
+
+  private:
+    std::mutex mLock;
+    std::vector<wp<IBinder>> mDead;
+};
+
+TEST(Carrier, ReachesAServiceOfAnotherProcess) {
+    RemoteDesk desk("tarn.test.desk");
+    EXPECT_EQ(nullptr, desk.client.binder()->localBinder());
+    EXPECT_EQ(NO_ERROR, desk.client.binder()->pingBinder());
+    EXPECT_TRUE(desk.client.binder()->isBinderAlive());
+    std::vector<uint8_t> back;
+    EXPECT_EQ(NO_ERROR, desk.client.echo({1, 2, 0, 3}, &back));
+    EXPECT_EQ((std::vector<uint8_t>{1, 2, 0, 3}), back);
+}
+
+TEST(Carrier, ReportsTheStatusOfTheOtherSide) {
+    RemoteDesk desk("tarn.test.desk");
+    Parcel data;
+    Parcel reply;
+    EXPECT_EQ(UNKNOWN_TRANSACTION, desk.client.binder()->transact(999, data, &reply));
+    EXPECT_EQ(NO_ERROR, desk.client.binder()->pingBinder());
+}
+
+TEST(Carrier, TellsTheServiceWhoCalls) {
+    RemoteDesk desk("tarn.test.desk");
+    Parcel data;
+    Parcel reply;
+    ASSERT_EQ(NO_ERROR, desk.client.binder()->transact(Desk::WHO, data, &reply));
+    EXPECT_EQ(getpid(), reply.readInt32());
+    EXPECT_EQ(static_cast<int32_t>(getuid()), reply.readInt32());
+    EXPECT_EQ(desk.process.pid(), reply.readInt32());
+}
+
+TEST(Carrier, FindsNoServiceThatIsNotThere) {
+    EXPECT_EQ(nullptr, find("tarn.test.nobody").get());
+}
+
+TEST(Carrier, KeepsServicesOfSimilarNamesApart) {
+    const std::vector<std::string> names = {"a.b",
+                                            "a/b",
+                                            "a@b",
+                                            "a:b",
+                                            "a-b",
+                                            "a_b",
+                                            "a..b",
+                                            "a.:b",
+                                            "a:.b",
+                                            "a-db",
+                                            "a_db",
+                                            "vendor.zunt.hwtarn@1.0::IHwTarn/default",
+                                            "0",
+                                            ".",
+                                            "-",
+                                            std::string(127, 'x'),
+                                            std::string(127, '.')};
+    std::vector<std::unique_ptr<Child>> children;
+    for (const std::string& name : names) {
+        children.push_back(std::make_unique<Child>("desk", std::vector<std::string>{name}));
+    }
+    for (const auto& child : children) child->readLine();
+    for (size_t i = 0; i < names.size(); i++) {
+        const sp<IBinder> desk = find(names[i]);
+        ASSERT_NE(nullptr, desk.get()) << names[i];
+        pid_t pid = 0;
+        EXPECT_EQ(NO_ERROR, desk->getDebugPid(&pid));
+        EXPECT_EQ(children[i]->pid(), pid) << names[i];
+    }
+    const android::Vector<String16> listed = android::defaultServiceManager()->listServices();
+    EXPECT_EQ(names.size(), listed.size());
+    for (const std::string& name : names) {
+        EXPECT_TRUE(std::count(listed.begin(), listed.end(), String16(name.c_str())) == 1) << name;
+    }
+}
+
+TEST(Carrier, GivesANameToWhoAddsItLast) {
+    RemoteDesk first("tarn.test.desk");
+    EXPECT_EQ(NO_ERROR, first.client.note(1));
+    RemoteDesk second("tarn.test.desk");
+    EXPECT_NE(first.client.binder(), second.client.binder());
+    pid_t pid = 0;
+    EXPECT_EQ(NO_ERROR, find("tarn.test.desk")->getDebugPid(&pid));
+    EXPECT_EQ(second.process.pid(), pid);
+    // Who has a reference to the one that was replaced goes on using it.
+    EXPECT_EQ((std::vector<int32_t>{1}), first.client.notes());
+    // The name does not fall back to it either.
+    second.process.kill();
+    EXPECT_EQ(nullptr, find("tarn.test.desk").get());
+}
+
+TEST(Carrier, ForgetsItsOwnServiceThatAnotherProcessReplaced) {
+    const sp<Desk> mine = new Desk;
+    ASSERT_EQ(NO_ERROR, publish("tarn.test.desk", mine));
+    EXPECT_EQ(mine, find("tarn.test.desk"));
+    Child other("desk", {"tarn.test.desk"});
+    other.readLine();
+    EXPECT_TRUE(eventually([&] { return find("tarn.test.desk") != mine; }));
+    pid_t pid = 0;
+    EXPECT_EQ(NO_ERROR, find("tarn.test.desk")->getDebugPid(&pid));
+    EXPECT_EQ(other.pid(), pid);
+    // And takes it back.
+    ASSERT_EQ(NO_ERROR, publish("tarn.test.desk", mine));
+    EXPECT_EQ(mine, find("tarn.test.desk"));
+    EXPECT_TRUE(android::host::removeService(String16("tarn.test.desk")));
+    EXPECT_EQ(nullptr, find("tarn.test.desk").get());
+}
+
+TEST(Carrier, TakesANameAwayWithItsOwner) {
+    RemoteDesk desk("tarn.test.desk");
+    desk.process.kill();
+    EXPECT_EQ(nullptr, find("tarn.test.desk").get());
+    EXPECT_EQ(0u, android::defaultServiceManager()->listServices().size());
+}
+
+TEST(Carrier, GivesTheSameProxyForTheSameObject) {
+    RemoteDesk desk("tarn.test.desk");
+    EXPECT_EQ(desk.client.binder(), find("tarn.test.desk"));
+    ASSERT_EQ(NO_ERROR, desk.client.keep(desk.client.binder()));
+    EXPECT_EQ(desk.client.binder(), desk.client.show());
+    std::vector<std::future<sp<IBinder>>> found;
+    for (int i = 0; i < 8; i++) {
+        found.push_back(std::async(std::launch::async, [] { return find("tarn.test.desk"); }));
+    }
+    for (auto& each : found) EXPECT_EQ(desk.client.binder(), each.get());
+    desk.client.drop();
+}
+
+TEST(Carrier, BringsAnObjectHomeAsItself) {
+    RemoteDesk desk("tarn.test.desk");
+    const sp<Desk> mine = new Desk;
+    ASSERT_EQ(NO_ERROR, desk.client.keep(mine));
+    EXPECT_EQ(mine, desk.client.show());
+    EXPECT_EQ(1, countsHere().lent);
+    desk.client.drop();
+}
+
+TEST(Carrier, CallsBackWhoeverIsWaitingForAnAnswer) {
+    RemoteDesk desk("tarn.test.desk");
+    const sp<Desk> mine = new Desk;
+    ASSERT_EQ(NO_ERROR, desk.client.keep(mine));
+    EXPECT_EQ(0, desk.client.call(Desk::INSIDE));
+    // There and back again: the inner desk keeps the outer one.
+    Parcel data;
+    Parcel reply;
+    data.writeStrongBinder(desk.client.binder());
+    ASSERT_EQ(NO_ERROR, mine->transact(Desk::KEEP, data, &reply));
+    Parcel code;
+    code.writeInt32(Desk::INSIDE);
+    ASSERT_EQ(NO_ERROR, mine->transact(Desk::CALL, code, &reply));
+    EXPECT_EQ(NO_ERROR, reply.readInt32());
+    EXPECT_EQ(0, reply.readInt32());
+    Parcel none;
+    mine->transact(Desk::DROP, none, &reply);
+    desk.client.drop();
+}
+
+TEST(Carrier, CarriesAnObjectToAThirdProcess) {
+    RemoteDesk left("tarn.test.left");
+    RemoteDesk right("tarn.test.right");
+    ASSERT_EQ(NO_ERROR, left.client.keep(right.client.binder()));
+    EXPECT_EQ(right.process.pid(), [&] {
+        Parcel data;
+        Parcel reply;
+        left.client.show()->transact(Desk::WHO, data, &reply);
+        reply.readInt32();
+        reply.readInt32();
+        return reply.readInt32();
+    }());
+    // The third process holds it, not only through this one.
+    ASSERT_EQ(NO_ERROR, right.client.keep(new Desk));
+    const sp<IBinder> mine = right.client.show();
+    ASSERT_EQ(NO_ERROR, left.client.keep(mine));
+    right.client.drop();
+    EXPECT_EQ(0, left.client.call(Desk::INSIDE));
+    left.client.drop();
+}
+
+TEST(Carrier, KeepsALentObjectWhileAnotherProcessRefersToIt) {
+    RemoteDesk left("tarn.test.left");
+    RemoteDesk right("tarn.test.right");
+    const int before = Desk::alive();
+    wp<Desk> weak;
+    {
+        const sp<Desk> mine = new Desk;
+        weak = mine;
+        ASSERT_EQ(NO_ERROR, left.client.keep(mine));
+    }
+    EXPECT_EQ(0, left.client.call(Desk::INSIDE));
+    // From one to the other, without this process in between.
+    ASSERT_EQ(NO_ERROR, right.client.keep(left.client.binder()));
+    ASSERT_EQ(NO_ERROR, right.client.keep(left.client.show()));
+    ASSERT_EQ(NO_ERROR, left.client.drop());
+    EXPECT_EQ(0, right.client.call(Desk::INSIDE));
+    EXPECT_EQ(before + 1, Desk::alive());
+    ASSERT_EQ(NO_ERROR, right.client.drop());
+    EXPECT_TRUE(eventually([&] { return Desk::alive() == before; }));
+    EXPECT_EQ(0, countsHere().lent);
+    EXPECT_EQ(nullptr, weak.promote().get());
+}
+
+TEST(Carrier, EndsTheHoldsOfAProcessThatDies) {
+    const int before = Desk::alive();
+    {
+        RemoteDesk desk("tarn.test.desk");
+        ASSERT_EQ(NO_ERROR, desk.client.keep(new Desk));
+        EXPECT_EQ(before + 1, Desk::alive());
+        desk.process.kill();
+    }
+    EXPECT_TRUE(eventually([&] { return Desk::alive() == before; }));
+    EXPECT_EQ(0, countsHere().lent);
+    EXPECT_TRUE(eventually([] { return countsHere().proxies == 0; }));
+}
+
+TEST(Carrier, LeavesNothingBehindWhenObjectsComeAndGo) {
+    RemoteDesk desk("tarn.test.desk");
+    const int before = Desk::alive();
+    for (int i = 0; i < 200; i++) {
+        ASSERT_EQ(NO_ERROR, desk.client.keep(new Desk));
+        ASSERT_NE(nullptr, desk.client.show().get());
+    }
+    ASSERT_EQ(NO_ERROR, desk.client.drop());
+    EXPECT_TRUE(eventually([&] { return Desk::alive() == before && countsHere().lent == 0; }));
+    EXPECT_TRUE(eventually([&] { return desk.client.counts().proxies == 0; }));
+    EXPECT_EQ(1, desk.client.counts().lent);
+    EXPECT_EQ(1, countsHere().proxies);
+}
+
+TEST(Carrier, StaysConsistentWhileManyThreadsExchangeObjects) {
+    RemoteDesk left("tarn.test.left");
+    RemoteDesk right("tarn.test.right");
+    const int before = Desk::alive();
+    std::atomic<int> wrong{0};
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 4; t++) {
+        threads.emplace_back([&, t] {
+            const DeskClient& mine = t % 2 == 0 ? left.client : right.client;
+            const DeskClient& other = t % 2 == 0 ? right.client : left.client;
+            for (int i = 0; i < 100; i++) {
+                if (mine.keep(new Desk) != NO_ERROR) wrong++;
+                const sp<IBinder> shown = mine.show();
+                if (shown == nullptr || other.keep(shown) != NO_ERROR) wrong++;
+                if (find(t % 2 == 0 ? "tarn.test.left" : "tarn.test.right") != mine.binder()) {
+                    wrong++;
+                }
+                if (other.call(Desk::INSIDE) != 0) wrong++;
+            }
+        });
+    }
+    for (std::thread& thread : threads) thread.join();
+    EXPECT_EQ(0, wrong);
+    left.client.drop();
+    right.client.drop();
+    EXPECT_TRUE(eventually([&] { return Desk::alive() == before && countsHere().lent == 0; }));
+    EXPECT_TRUE(eventually([&] {
+        return left.client.counts().proxies == 0 && right.client.counts().proxies == 0;
+    }));
+}
+
+TEST(Carrier, ServesManyCallersAtOnce) {
+    RemoteDesk desk("tarn.test.desk");
+    std::vector<std::thread> callers;
+    std::atomic<int> passed{0};
+    for (int i = 0; i < 10; i++) {
+        callers.emplace_back([&] { passed += desk.client.pass() == NO_ERROR ? 1 : 0; });
+    }
+    EXPECT_TRUE(eventually([&] { return desk.client.inside() == 10; }));
+    EXPECT_EQ(0, passed);
+    EXPECT_EQ(NO_ERROR, desk.client.open());
+    for (std::thread& caller : callers) caller.join();
+    EXPECT_EQ(10, passed);
+}
+
+TEST(Carrier, KeepsTheOrderOfOneWayCalls) {
+    RemoteDesk desk("tarn.test.desk");
+    std::vector<int32_t> sent;
+    for (int32_t i = 0; i < 1000; i++) {
+        ASSERT_EQ(NO_ERROR, desk.client.note(i));
+        sent.push_back(i);
+    }
+    EXPECT_TRUE(eventually([&] { return desk.client.notes().size() == 1000; }));
+    EXPECT_EQ(sent, desk.client.notes());
+}
+
+TEST(Carrier, DoesNotWaitForAOneWayCall) {
+    RemoteDesk desk("tarn.test.desk");
+    Parcel data;
+    EXPECT_EQ(NO_ERROR,
+              desk.client.binder()->transact(Desk::PASS, data, nullptr, IBinder::FLAG_ONEWAY));
+    EXPECT_TRUE(eventually([&] { return desk.client.inside() == 1; }));
+    // The next one-way call to the object waits for the one ahead, a call that waits does not.
+    EXPECT_EQ(NO_ERROR, desk.client.note(5));
+    EXPECT_EQ(0u, desk.client.notes().size());
+    EXPECT_EQ(NO_ERROR, desk.client.open());
+    EXPECT_TRUE(eventually([&] { return desk.client.notes().size() == 1; }));
+}
+
+TEST(Carrier, CarriesEverySizeUpToItsLimitBothWays) {
+    RemoteDesk desk("tarn.test.desk");
+    for (const size_t size :
+         {size_t{0}, size_t{1000}, size_t{1016}, size_t{1017}, size_t{1020}, size_t{1021},
+          size_t{5000}, kMebibyte, 4 * kMebibyte, 16 * kMebibyte - 4}) {
+        std::vector<uint8_t> bytes(size);
+        for (size_t i = 0; i < size; i++) bytes[i] = static_cast<uint8_t>(i * 7 + i / 251);
+        std::vector<uint8_t> back;
+        ASSERT_EQ(NO_ERROR, desk.client.echo(bytes, &back)) << size;
+        EXPECT_TRUE(bytes == back) << size;
+    }
+}
+
+TEST(Carrier, RefusesMoreThanItsLimit) {
+    RemoteDesk desk("tarn.test.desk");
+    std::vector<uint8_t> bytes(16 * kMebibyte);
+    std::vector<uint8_t> back;
+    EXPECT_EQ(FAILED_TRANSACTION, desk.client.echo(bytes, &back));
+    EXPECT_EQ(FAILED_TRANSACTION, desk.client.fill(16 * kMebibyte, &back));
+    EXPECT_TRUE(desk.client.binder()->isBinderAlive());
+    EXPECT_EQ(NO_ERROR, desk.client.fill(16 * kMebibyte - 4, &back));
+}
+
+TEST(Carrier, CarriesLargePayloadsOfSeveralThreadsAtOnce) {
+    RemoteDesk desk("tarn.test.desk");
+    std::atomic<int> wrong{0};
+    std::vector<std::thread> threads;
+    for (uint8_t t = 0; t < 4; t++) {
+        threads.emplace_back([&, t] {
+            const std::vector<uint8_t> bytes(kMebibyte + t, t);
+            std::vector<uint8_t> back;
+            for (int i = 0; i < 20; i++) {
+                if (desk.client.echo(bytes, &back) != NO_ERROR || back != bytes) wrong++;
+            }
+        });
+    }
+    for (std::thread& thread : threads) thread.join();
+    EXPECT_EQ(0, wrong);
+}
+
+TEST(Carrier, WritesOnWhatDidNotFitIntoTheSocket) {
+    RemoteDesk desk("tarn.test.desk");
+    // References are long on the wire: so many fill the socket's buffer more than once.
+    const sp<Desk> mine = new Desk;
+    std::vector<std::thread> threads;
+    std::atomic<int> wrong{0};
+    for (int t = 0; t < 3; t++) {
+        threads.emplace_back([&] {
+            for (int i = 0; i < 3; i++) {
+                Parcel data;
+                Parcel reply;
+                for (int n = 0; n < 4000; n++) data.writeStrongBinder(mine);
+                if (desk.client.binder()->transact(Desk::KEEP, data, &reply) != NO_ERROR) wrong++;
+            }
+        });
+    }
+    for (std::thread& thread : threads) thread.join();
+    EXPECT_EQ(0, wrong);
+    desk.client.drop();
+    EXPECT_TRUE(eventually([] { return countsHere().holds == 0; }));
+}
+
+TEST(Carrier, TellsOfADeath) {
+    RemoteDesk desk("tarn.test.desk");
+    const sp<Recipient> linked = new Recipient;
+    const sp<Recipient> unlinked = new Recipient;
+    const sp<IBinder>& binder = desk.client.binder();
+    EXPECT_EQ(NO_ERROR, binder->linkToDeath(linked));
+    EXPECT_EQ(NO_ERROR, binder->linkToDeath(unlinked));
+    EXPECT_EQ(NO_ERROR, binder->unlinkToDeath(unlinked));
+    desk.process.kill();
+    EXPECT_TRUE(eventually([&] { return linked->deaths() == 1; }));
+    EXPECT_FALSE(binder->isBinderAlive());
+    EXPECT_EQ(DEAD_OBJECT, binder->pingBinder());
+    EXPECT_EQ(DEAD_OBJECT, binder->linkToDeath(linked));
+    EXPECT_EQ(DEAD_OBJECT, desk.client.note(1));
+    EXPECT_EQ(1u, linked->deaths());
+    EXPECT_EQ(0u, unlinked->deaths());
+}
+
+TEST(Carrier, KnowsOfADeathThatNobodyWatchedFor) {
+    RemoteDesk desk("tarn.test.desk");
+    // A pool is there as soon as an object was lent.
+    desk.client.keep(new Desk);
+    desk.process.kill();
+    EXPECT_TRUE(eventually([&] { return !desk.client.binder()->isBinderAlive(); }));
+    EXPECT_EQ(DEAD_OBJECT, desk.client.binder()->linkToDeath(new Recipient));
+}
+
+TEST(Carrier, TellsOfADeathBeforeTheLink) {
+    RemoteDesk desk("tarn.test.desk");
+    desk.process.kill();
+    const sp<Recipient> recipient = new Recipient;
+    const android::status_t linked = desk.client.binder()->linkToDeath(recipient);
+    EXPECT_TRUE(linked == DEAD_OBJECT || eventually([&] { return recipient->deaths() == 1; }));
+}
+
+TEST(Carrier, EndsACallWhoseProcessIsKilled) {
+    RemoteDesk desk("tarn.test.desk");
+    auto waiting = std::async(std::launch::async, [&] { return desk.client.pass(); });
+    EXPECT_TRUE(eventually([&] { return desk.client.inside() == 1; }));
+    desk.process.kill();
+    ASSERT_EQ(std::future_status::ready, waiting.wait_for(kPatience));
+    EXPECT_EQ(DEAD_OBJECT, waiting.get());
+    EXPECT_EQ(DEAD_OBJECT, desk.client.open());
+    EXPECT_EQ(DEAD_OBJECT, desk.client.binder()->pingBinder());
+}
+
+TEST(Carrier, EndsACallWhoseProcessExitsWithoutAnswering) {
+    RemoteDesk desk("tarn.test.desk");
+    EXPECT_EQ(DEAD_OBJECT, desk.client.vanish());
+}
+
+TEST(Carrier, TellsOfTheDeathOfAThirdProcess) {
+    RemoteDesk left("tarn.test.left");
+    sp<IBinder> shown;
+    {
+        RemoteDesk right("tarn.test.right");
+        ASSERT_EQ(NO_ERROR, left.client.keep(right.client.binder()));
+        right.process.kill();
+    }
+    // Its owner is dead before this process hears of the object again.
+    shown = left.client.show();
+    ASSERT_NE(nullptr, shown.get());
+    EXPECT_EQ(DEAD_OBJECT, left.client.call(Desk::INSIDE));
+    const sp<Recipient> recipient = new Recipient;
+    EXPECT_TRUE(shown->linkToDeath(recipient) == DEAD_OBJECT ||
+                eventually([&] { return recipient->deaths() == 1; }));
+    left.client.drop();
+}
+
+// Binder objects of a process that never started a pool, nor joined one, are served all the same.
+CHILD(caller) {
+    const DeskClient desk(find(arguments[0]));
+    if (desk.keep(new Desk) != NO_ERROR) return 1;
+    tell("kept");
+    listen();
+    return 0;
+}
+
+TEST(Carrier, ServesTheCallbacksOfAProcessWithoutAPool) {
+    RemoteDesk desk("tarn.test.desk");
+    Child caller("caller", {"tarn.test.desk"});
+    EXPECT_EQ("kept", caller.readLine());
+    EXPECT_EQ(0, desk.client.call(Desk::INSIDE));
+}
+
+// A process that wants no thread of its own serves on the one that joins.
+CHILD(single) {
+    android::ProcessState::self()->setThreadPoolMaxThreadCount(0);
+    const size_t before = runningThreads();
+    if (publish(arguments[0], new Desk) != NO_ERROR) return 1;
+    if (runningThreads() != before) return 2;
+    std::thread([] {
+        listen();
+        android::IPCThreadState::self()->stopProcess();
+    }).detach();
+    tell("ready");
+    android::IPCThreadState::self()->joinThreadPool();
+    return 0;
+}
+
+TEST(Carrier, ServesOnTheJoinedThreadAlone) {
+    Child single("single", {"tarn.test.desk"});
+    single.readLine();
+    const DeskClient desk(find("tarn.test.desk"));
+    EXPECT_EQ(NO_ERROR, desk.note(1));
+    EXPECT_EQ(NO_ERROR, desk.note(2));
+    EXPECT_TRUE(eventually([&] { return desk.notes().size() == 2; }));
+}
+
+// What is left when the bus goes away.
+CHILD(orphan) {
+    PrivateBus bus;
+    Child other("desk", {"tarn.test.desk"});
+    other.readLine();
+    const DeskClient desk(find("tarn.test.desk"));
+    const sp<Desk> mine = new Desk;
+    if (publish("tarn.test.mine", mine) != NO_ERROR) return 1;
+    if (desk.keep(mine) != NO_ERROR) return 2;
+    const sp<Recipient> recipient = new Recipient;
+    if (desk.binder()->linkToDeath(recipient) != NO_ERROR) return 3;
+    auto waiting = std::async(std::launch::async, [&] { return desk.pass(); });
+    if (!eventually([&] { return desk.inside() == 1; })) return 4;
+
+    bus.kill();
+    if (waiting.wait_for(kPatience) != std::future_status::ready) return 5;
+    if (waiting.get() != DEAD_OBJECT) return 6;
+    if (!eventually([&] { return recipient->deaths() == 1; })) return 7;
+    if (desk.binder()->pingBinder() != DEAD_OBJECT) return 8;
+    if (find("tarn.test.mine") != mine) return 9;
+    if (find("tarn.test.desk") != nullptr) return 10;
+    if (publish("tarn.test.later", new Desk) != NO_ERROR) return 11;
+    if (android::defaultServiceManager()->listServices().size() != 2) return 12;
+    if (!android::host::removeService(String16("tarn.test.later"))) return 13;
+    return eventually([] { return countsHere().lent == 0; }) ? 0 : 14;
+}
+
+TEST(Carrier, SurvivesTheEndOfTheBus) {
+    Child orphan("orphan");
+}
+
+// Says how many lines the process wrote to its standard error, the log included.
+CHILD(alone) {
+    const int log = memfd_create("log", 0);
+    dup2(log, STDERR_FILENO);
+    const sp<Desk> desk = new Desk;
+    if (publish("tarn.test.desk", desk) != NO_ERROR) return 1;
+    if (find("tarn.test.desk") != desk || find("tarn.test.other") != nullptr) return 2;
+    if (runningThreads() != 1) return 3;
+    std::string text(4096, '\0');
+    text.resize(static_cast<size_t>(pread(log, text.data(), text.size(), 0)));
+    tell(std::to_string(std::count(text.begin(), text.end(), '\n')));
+    return 0;
+}
+
+TEST(Carrier, StaysWithinTheProcessWithoutABus) {
+    const std::string address = getenv("DBUS_SESSION_BUS_ADDRESS");
+    setenv("DBUS_SESSION_BUS_ADDRESS", "", 1);
+    EXPECT_EQ("0", Child("alone").readLine());
+    unsetenv("DBUS_SESSION_BUS_ADDRESS");
+    setenv("XDG_RUNTIME_DIR", "/nonexistent", 1);
+    EXPECT_EQ("0", Child("alone").readLine());
+    unsetenv("XDG_RUNTIME_DIR");
+    setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
+}
+
+TEST(Carrier, WarnsOnceOfABusThatCannotBeReached) {
+    const std::string address = getenv("DBUS_SESSION_BUS_ADDRESS");
+    for (const char* bad : {"unix:path=/nonexistent/bus", "nonsense"}) {
+        setenv("DBUS_SESSION_BUS_ADDRESS", bad, 1);
+        EXPECT_EQ("1", Child("alone").readLine()) << bad;
+    }
+    setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
+}
+
+TEST(Carrier, FindsTheBusOfTheUsersSession) {
+    RemoteDesk desk("tarn.test.desk");
+    const std::string address = getenv("DBUS_SESSION_BUS_ADDRESS");
+    const std::string path =
+            address.substr(address.find('/'), address.find(',') - address.find('/'));
+    setenv("XDG_RUNTIME_DIR", path.substr(0, path.rfind('/')).c_str(), 1);
+    unsetenv("DBUS_SESSION_BUS_ADDRESS");
+    {
+        Child caller("caller", {"tarn.test.desk"});
+        EXPECT_EQ("kept", caller.readLine());
+        setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
+        unsetenv("XDG_RUNTIME_DIR");
+        EXPECT_EQ(0, desk.client.call(Desk::INSIDE));
+    }
+}
+
+}  // namespace
+}  // namespace tarn::test

@@ -1,0 +1,486 @@
+// What a process that does not keep to the rules can do to the others: nothing.
+
+#include <binder/Binder.h>
+#include <binder/IServiceManager.h>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sdbus-c++/sdbus-c++.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <functional>
+
+#include "host/binder/dbus/Wire.h"
+#include "tests/process/Desk.h"
+#include "tests/process/ProcessTest.h"
+
+namespace tarn::test {
+namespace {
+
+using android::BAD_VALUE;
+using android::DEAD_OBJECT;
+using android::FAILED_TRANSACTION;
+using android::IBinder;
+using android::NO_ERROR;
+using android::Parcel;
+using android::sp;
+using android::String16;
+using namespace android::host::dbus;
+
+constexpr char kDeskName[] = "tarn.test.desk";
+constexpr char kDeskBusName[] = "tarn.binder.name_tarn-dtest-ddesk";
+constexpr char kRogueName[] = "tarn.test.rogue";
+constexpr char kRogueBusName[] = "tarn.binder.name_tarn-dtest-drogue";
+
+sp<IBinder> find(const std::string& name) {
+    return android::defaultServiceManager()->checkService(String16(name.c_str()));
+}
+
+CHILD(desk) {
+    android::defaultServiceManager()->addService(String16(arguments[0].c_str()), new Desk);
+    return serveUntilClosed();
+}
+
+using Fill = std::function<void(sdbus::Message&)>;
+
+// A connection that speaks to the bus without binder.
+class Rogue {
+  public:
+    Rogue()
+        : mConnection(sdbus::createSessionBusConnectionWithAddress(
+                  getenv("DBUS_SESSION_BUS_ADDRESS"))) {}
+
+    std::string name() const { return mConnection->getUniqueName(); }
+    sdbus::IConnection& connection() { return *mConnection; }
+
+    // Calls the desk; gives the error's name, or an empty one, and hands on what was answered.
+    std::string call(const std::string& method, const Fill& fill,
+                     sdbus::MethodReply* reply = nullptr,
+                     const std::string& interface = kInterface) {
+        const auto proxy = sdbus::createProxy(*mConnection, kDeskBusName, kObjectPath);
+        sdbus::MethodCall message = proxy->createMethodCall(interface, method);
+        fill(message);
+        try {
+            sdbus::MethodReply answer = proxy->callMethod(message, std::chrono::seconds(20));
+            if (reply != nullptr) *reply = answer;
+            return "";
+        } catch (const sdbus::Error& error) {
+            return error.getName();
+        }
+    }
+
+    void send(const std::string& method, const Fill& fill) {
+        const auto proxy = sdbus::createProxy(*mConnection, kDeskBusName, kObjectPath);
+        sdbus::MethodCall message = proxy->createMethodCall(kInterface, method);
+        fill(message);
+        message.dontExpectReply();
+        proxy->callMethod(message);
+    }
+
+    // The number under which the desk is lent to this connection.
+    uint64_t deskNumber(std::string* owner = nullptr) {
+        sdbus::MethodReply reply;
+        EXPECT_EQ("",
+                  call(
+                          kLookup, [](sdbus::Message& m) { m << std::string(kDeskName); }, &reply));
+        std::string owners;
+        uint64_t number = 0;
+        reply >> owners >> number;
+        if (owner != nullptr) *owner = owners;
+        return number;
+    }
+
+  private:
+    std::unique_ptr<sdbus::IConnection> mConnection;
+};
+
+class Hostile : public testing::Test {
+  protected:
+    Hostile() : mProcess("desk", {kDeskName}) {
+        mProcess.readLine();
+        mDesk = DeskClient(find(kDeskName));
+        mNumber = mRogue.deskNumber(&mDeskOwner);
+    }
+
+    // Everybody else is served as before, and nothing is left of what the rogue sent.
+    ~Hostile() override {
+        std::vector<uint8_t> back;
+        EXPECT_EQ(NO_ERROR, mDesk.echo({1, 2, 3}, &back));
+        EXPECT_TRUE(eventually([this] {
+            const Counts counts = mDesk.counts();
+            return counts.proxies == 0 && counts.lent == 1 && counts.waiting == 0;
+        }));
+    }
+
+    std::string transact(const Content& content, int32_t* status = nullptr,
+                         uint32_t code = Desk::KEEP) {
+        return transactRaw(
+                code, [&](sdbus::Message& m) { write(m, content); }, status);
+    }
+
+    std::string transactRaw(uint32_t code, const Fill& fillContent, int32_t* status = nullptr) {
+        sdbus::MethodReply reply;
+        const std::string error = mRogue.call(
+                kTransact,
+                [&](sdbus::Message& m) {
+                    m << mNumber << code << uint32_t{0};
+                    fillContent(m);
+                },
+                &reply);
+        if (error.empty() && status != nullptr) reply >> *status;
+        return error;
+    }
+
+    // A transaction without objects whose bytes lie in a file.
+    std::string transactWithFile(int file) {
+        return transactRaw(Desk::ECHO, [&](sdbus::Message& m) {
+            m.openContainer("(ust)");
+            m.closeContainer();
+            m.openVariant("h");
+            m << sdbus::UnixFd(file);
+            m.closeVariant();
+        });
+    }
+
+    Child mProcess;
+    DeskClient mDesk{nullptr};
+    Rogue mRogue;
+    std::string mDeskOwner;
+    uint64_t mNumber = 0;
+};
+
+TEST_F(Hostile, MessagesOfTheWrongSignatureAreRefused) {
+    const std::string invalid = "org.freedesktop.DBus.Error.InvalidArgs";
+    EXPECT_EQ(invalid, mRogue.call(kTransact, [](sdbus::Message& m) { m << std::string("x"); }));
+    EXPECT_EQ(invalid, mRogue.call(kTransact, [](sdbus::Message&) {}));
+    EXPECT_EQ(invalid, mRogue.call(kRelease, [](sdbus::Message& m) { m << uint64_t{1}; }));
+    EXPECT_EQ(invalid, mRogue.call(kLookup, [](sdbus::Message& m) { m << int32_t{1}; }));
+    EXPECT_EQ("org.freedesktop.DBus.Error.UnknownMethod",
+              mRogue.call("Nothing", [](sdbus::Message&) {}));
+    EXPECT_EQ("org.freedesktop.DBus.Error.UnknownMethod",
+              mRogue.call(
+                      kTransact, [](sdbus::Message&) {}, nullptr, "tarn.binder.Nothing"));
+}
+
+TEST_F(Hostile, ContentOfAnotherTypeIsRefused) {
+    const auto variantOf = [](const std::string& type, const Fill& fill) {
+        return [=](sdbus::Message& m) {
+            m.openContainer("(ust)");
+            m.closeContainer();
+            m.openVariant(type);
+            fill(m);
+            m.closeVariant();
+        };
+    };
+    EXPECT_EQ(kMalformed, transactRaw(Desk::ECHO, variantOf("s", [](sdbus::Message& m) {
+                                          m << std::string("bytes");
+                                      })));
+    EXPECT_EQ(kMalformed, transactRaw(Desk::ECHO, variantOf("ai", [](sdbus::Message& m) {
+                                          m << std::vector<int32_t>{1, 2};
+                                      })));
+    EXPECT_EQ(kMalformed, transactRaw(Desk::ECHO, variantOf("ay", [](sdbus::Message& m) {
+                                          m << std::vector<uint8_t>(kMaxInlineSize + 1);
+                                      })));
+}
+
+TEST_F(Hostile, NumbersThatWereNeverGivenOutAreRefused) {
+    for (const uint64_t number : {uint64_t{0}, uint64_t{1}, mNumber + 1, ~mNumber, UINT64_MAX}) {
+        EXPECT_EQ(kNoSuchObject, mRogue.call(kTransact, [&](sdbus::Message& m) {
+            m << number << uint32_t{Desk::OPEN} << uint32_t{0};
+            write(m, {});
+        }));
+    }
+}
+
+TEST_F(Hostile, ServicesThatAreNotThereAreRefused) {
+    for (const std::string name : {"", "tarn.test.other", "\xc3\xbc"}) {
+        EXPECT_EQ(kNoSuchObject, mRogue.call(kLookup, [&](sdbus::Message& m) { m << name; }));
+    }
+}
+
+TEST_F(Hostile, ObjectsThatDoNotFitIntoTheBytesAreRefused) {
+    const auto statusOf = [this](const std::vector<uint32_t>& offsets, size_t size) {
+        Content content;
+        content.bytes.resize(size);
+        for (const uint32_t offset : offsets) content.references.push_back({offset, "", 7});
+        int32_t status = 0;
+        EXPECT_EQ("", transact(content, &status));
+        return status;
+    };
+    EXPECT_EQ(BAD_VALUE, statusOf({0}, 0));
+    EXPECT_EQ(BAD_VALUE, statusOf({1}, 28));
+    EXPECT_EQ(BAD_VALUE, statusOf({UINT32_MAX}, 28));
+    EXPECT_EQ(BAD_VALUE, statusOf({0, 27}, 56));
+    EXPECT_EQ(BAD_VALUE, statusOf({28, 0}, 56));
+    EXPECT_EQ(BAD_VALUE, statusOf({0, 0}, 56));
+    // The one that fits is taken, and is the rogue's own.
+    EXPECT_EQ(NO_ERROR, statusOf({0}, 28));
+    EXPECT_EQ(1, mDesk.counts().proxies);
+    EXPECT_EQ(NO_ERROR, mDesk.drop());
+}
+
+TEST_F(Hostile, ReferencesToNothingAreRefused) {
+    Content content;
+    content.bytes.resize(56);
+    for (const std::string owner : {"org.freedesktop.DBus", "x", ":", ":1.x", "/", kDeskBusName}) {
+        content.references = {{0, "", 7}, {28, owner, 8}};
+        EXPECT_EQ(kMalformed, transact(content)) << owner;
+    }
+    // An object of the desk's process that it never lent.
+    content.references = {{0, mDeskOwner, mNumber + 1}};
+    EXPECT_EQ(kMalformed, transact(content));
+    // An object of a process that there never was.
+    content.references = {{0, ":1.999999", 8}};
+    EXPECT_EQ("", transact(content));
+    EXPECT_EQ(DEAD_OBJECT, mDesk.call(Desk::INSIDE));
+    EXPECT_EQ(NO_ERROR, mDesk.drop());
+}
+
+TEST_F(Hostile, MoreReferencesThanAllowedAreRefused) {
+    Content content;
+    content.bytes.resize((kMaxReferences + 1) * 28);
+    for (uint32_t i = 0; i <= kMaxReferences; i++)
+        content.references.push_back({i * 28, "", i + 1});
+    EXPECT_EQ(kMalformed, transact(content));
+}
+
+TEST_F(Hostile, TruncatedParcelsAreTheServicesConcern) {
+    int32_t status = 0;
+    EXPECT_EQ("", transact({{}, {1, 2}}, &status));
+    EXPECT_NE(NO_ERROR, status);
+    EXPECT_EQ("", transact({{}, {255, 255, 255, 127, 1, 2, 3, 4}}, &status, Desk::ECHO));
+    EXPECT_NE(NO_ERROR, status);
+}
+
+TEST_F(Hostile, FilesThatCouldChangeOrBlockAreRefused) {
+    int ends[2];
+    ASSERT_EQ(0, pipe2(ends, O_CLOEXEC));
+    EXPECT_EQ(kMalformed, transactWithFile(ends[0]));
+    close(ends[0]);
+    close(ends[1]);
+
+    const int open = memfd_create("open", MFD_CLOEXEC | MFD_ALLOW_SEALING);
+    ASSERT_EQ(0, ftruncate(open, 2000));
+    EXPECT_EQ(kMalformed, transactWithFile(open));
+    ASSERT_EQ(0, fcntl(open, F_ADD_SEALS, F_SEAL_GROW | F_SEAL_WRITE));
+    EXPECT_EQ(kMalformed, transactWithFile(open));
+    close(open);
+
+    const int huge = memfd_create("huge", MFD_CLOEXEC | MFD_ALLOW_SEALING);
+    ASSERT_EQ(0, ftruncate(huge, off_t{1} << 40));
+    ASSERT_EQ(0, fcntl(huge, F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE));
+    EXPECT_EQ(kMalformed, transactWithFile(huge));
+    close(huge);
+
+    const int null = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+    EXPECT_EQ(kMalformed, transactWithFile(null));
+    close(null);
+}
+
+TEST_F(Hostile, NobodyCanReleaseWhatOthersHold) {
+    mRogue.send(kRelease, [this](sdbus::Message& m) { m << mNumber << UINT32_MAX; });
+    mRogue.send(kRelease, [this](sdbus::Message& m) { m << mNumber << uint32_t{1}; });
+    mRogue.send(kRelease, [this](sdbus::Message& m) { m << mNumber + 1 << uint32_t{1}; });
+    EXPECT_EQ(NO_ERROR, mDesk.open());
+    EXPECT_EQ(1, mDesk.counts().holds);
+}
+
+TEST_F(Hostile, NothingIsHeldForThoseWhoAreNotThere) {
+    for (const std::string holder : {":1.999999", "", "x", "org.freedesktop.DBus"}) {
+        mRogue.send(kGrant, [&](sdbus::Message& m) { m << mNumber << holder; });
+        mRogue.send(kGrant, [&](sdbus::Message& m) { m << mNumber + 1 << holder; });
+    }
+    EXPECT_TRUE(eventually([this] { return mDesk.counts().holds == 2; }));
+}
+
+TEST_F(Hostile, WhatARogueHoldsEndsWithIt) {
+    {
+        Rogue other;
+        for (int i = 0; i < 100; i++) EXPECT_EQ(mNumber, other.deskNumber());
+        EXPECT_EQ(102, mDesk.counts().holds);
+    }
+    EXPECT_TRUE(eventually([this] { return mDesk.counts().holds == 2; }));
+}
+
+TEST_F(Hostile, ForgedDeathsAreNotBelieved) {
+    const auto object = sdbus::createObject(mRogue.connection(), "/org/freedesktop/DBus");
+    sdbus::Signal forged = object->createSignal("org.freedesktop.DBus", "NameOwnerChanged");
+    forged << mDeskOwner << mDeskOwner << std::string();
+    forged.send();
+    mRogue.deskNumber();  // once it is answered, the signal was delivered
+    EXPECT_EQ(NO_ERROR, mDesk.binder()->pingBinder());
+    EXPECT_TRUE(mDesk.binder()->isBinderAlive());
+}
+
+TEST_F(Hostile, AFloodOfOneWayCallsIsBounded) {
+    constexpr int kFlood = 10000;
+    const auto note = [this](int32_t value) {
+        mRogue.send(kTransact, [&](sdbus::Message& m) {
+            Parcel parcel;
+            parcel.writeInt32(value);
+            m << mNumber << uint32_t{Desk::NOTE} << uint32_t{IBinder::FLAG_ONEWAY};
+            write(m, {{}, std::vector<uint8_t>(parcel.data(), parcel.data() + 4)});
+        });
+    };
+    // The desk is busy with a one-way call, so all others wait behind it.
+    Parcel none;
+    ASSERT_EQ(NO_ERROR, mDesk.binder()->transact(Desk::PASS, none, nullptr, IBinder::FLAG_ONEWAY));
+    ASSERT_TRUE(eventually([this] { return mDesk.inside() == 1; }));
+    for (int32_t i = 0; i < kFlood; i++) note(i);
+    mRogue.deskNumber();
+    EXPECT_EQ(4096, mDesk.counts().waiting);
+    // Others are served, one-way too.
+    EXPECT_EQ(NO_ERROR, mDesk.note(-1));
+    std::vector<uint8_t> back;
+    EXPECT_EQ(NO_ERROR, mDesk.echo({1}, &back));
+
+    EXPECT_EQ(NO_ERROR, mDesk.open());
+    EXPECT_TRUE(eventually([this] { return mDesk.notes().size() == 4097; }));
+    const std::vector<int32_t> notes = mDesk.notes();
+    for (int32_t i = 0; i < 4096; i++) ASSERT_EQ(i, notes[static_cast<size_t>(i)]);
+    EXPECT_EQ(-1, notes.back());
+    // And the rogue is served again.
+    note(5);
+    EXPECT_TRUE(eventually([this] { return mDesk.notes().back() == 5; }));
+}
+
+TEST_F(Hostile, AFloodOfCallsWhoseAnswersNobodyReadsIsBounded) {
+    Rogue other;
+    const auto proxy = sdbus::createProxy(other.connection(), kDeskBusName, kObjectPath);
+    for (int i = 0; i < 10000; i++) {
+        sdbus::MethodCall message = proxy->createMethodCall(kInterface, kTransact);
+        message << mNumber << uint32_t{Desk::INSIDE} << uint32_t{0};
+        write(message, {});
+        proxy->callMethod(
+                message, [](sdbus::MethodReply&, const sdbus::Error*) {}, UINT64_MAX);
+        ASSERT_LE(mDesk.counts().waiting, 4096);
+    }
+}
+
+// A service that answers as its test says, in words of the signatures that it is given.
+class RogueService {
+  public:
+    using Answer = std::function<sdbus::MethodReply(sdbus::MethodCall&)>;
+
+    explicit RogueService(Answer onTransact,
+                          const std::string& signature = std::string("i") + kContentSignature,
+                          Answer onLookup = nullptr, const std::string& lookupSignature = "st") {
+        if (!onLookup) {
+            onLookup = [this](sdbus::MethodCall& call) {
+                sdbus::MethodReply reply = call.createReply();
+                reply << mRogue.name() << uint64_t{5};
+                return reply;
+            };
+        }
+        mObject = sdbus::createObject(mRogue.connection(), kObjectPath);
+        mObject->registerMethod(kInterface, kLookup, "s", lookupSignature,
+                                [onLookup](sdbus::MethodCall call) { onLookup(call).send(); });
+        mObject->registerMethod(kInterface, kTransact, std::string("tuu") + kContentSignature,
+                                signature,
+                                [onTransact](sdbus::MethodCall call) { onTransact(call).send(); });
+        mObject->registerMethod(kInterface, kRelease, "tu", "", [](sdbus::MethodCall) {});
+        mObject->finishRegistration();
+        mRogue.connection().requestName(kRogueBusName);
+        mRogue.connection().enterEventLoopAsync();
+    }
+    ~RogueService() { mRogue.connection().leaveEventLoop(); }
+
+  private:
+    Rogue mRogue;
+    std::unique_ptr<sdbus::IObject> mObject;
+};
+
+RogueService::Answer answering(const Fill& fill) {
+    return [fill](sdbus::MethodCall& call) {
+        sdbus::MethodReply reply = call.createReply();
+        fill(reply);
+        return reply;
+    };
+}
+
+android::status_t callRogue() {
+    const sp<IBinder> proxy = find(kRogueName);
+    if (proxy == nullptr) return android::NAME_NOT_FOUND;
+    Parcel data;
+    Parcel reply;
+    return proxy->transact(1, data, &reply);
+}
+
+TEST(HostileService, RepliesOfTheWrongShapeAreFailures) {
+    const auto statusOf = [](const std::string& signature, const Fill& fill) {
+        const RogueService rogue(answering(fill), signature);
+        return callRogue();
+    };
+    const auto emptyList = [](sdbus::Message& m) {
+        m.openContainer("(ust)");
+        m.closeContainer();
+    };
+    EXPECT_EQ(FAILED_TRANSACTION, statusOf("", [](sdbus::Message&) {}));
+    EXPECT_EQ(FAILED_TRANSACTION,
+              statusOf("s", [](sdbus::Message& m) { m << std::string("yes"); }));
+    EXPECT_EQ(FAILED_TRANSACTION, statusOf("i", [](sdbus::Message& m) { m << int32_t{0}; }));
+    EXPECT_EQ(FAILED_TRANSACTION, statusOf("ia(ust)", [&](sdbus::Message& m) {
+                  m << int32_t{0};
+                  emptyList(m);
+              }));
+    EXPECT_EQ(FAILED_TRANSACTION, statusOf("ia(ust)ay", [&](sdbus::Message& m) {
+                  m << int32_t{0};
+                  emptyList(m);
+                  m << std::vector<uint8_t>{1};
+              }));
+    EXPECT_EQ(FAILED_TRANSACTION, statusOf("ia(us)v", [](sdbus::Message& m) {
+                  m << int32_t{0};
+                  m.openContainer("(us)");
+                  m.closeContainer();
+                  m.openVariant("ay");
+                  m << std::vector<uint8_t>{1};
+                  m.closeVariant();
+              }));
+}
+
+TEST(HostileService, ObjectsOfTheWrongKindAreFailures) {
+    const auto statusOf = [](const Content& content) {
+        const RogueService rogue(answering([&](sdbus::Message& m) {
+            m << int32_t{0};
+            write(m, content);
+        }));
+        return callRogue();
+    };
+    const std::vector<uint8_t> room(28);
+    EXPECT_EQ(FAILED_TRANSACTION, statusOf({{{0, "org.freedesktop.DBus", 1}}, room}));
+    EXPECT_EQ(BAD_VALUE, statusOf({{{1, "", 1}}, room}));
+    EXPECT_EQ(NO_ERROR, statusOf({{{0, "", 1}}, room}));
+    EXPECT_TRUE(eventually([] { return countsHere().proxies == 0; }));
+}
+
+TEST(HostileService, ErrorsAreFailures) {
+    const auto statusOf = [](const std::string& error) {
+        const RogueService rogue([error](sdbus::MethodCall& call) {
+            return call.createErrorReply(sdbus::Error(error, "because"));
+        });
+        return callRogue();
+    };
+    EXPECT_EQ(FAILED_TRANSACTION, statusOf("tarn.test.Error"));
+    EXPECT_EQ(FAILED_TRANSACTION, statusOf(kOverloaded));
+    EXPECT_EQ(BAD_VALUE, statusOf(kMalformed));
+    EXPECT_EQ(DEAD_OBJECT, statusOf(kNoSuchObject));
+    EXPECT_EQ(DEAD_OBJECT, statusOf("org.freedesktop.DBus.Error.NoReply"));
+}
+
+TEST(HostileService, AnswersOfTheWrongShapeFindNothing) {
+    const auto found = [](const std::string& signature, const Fill& fill) {
+        const RogueService rogue(nullptr, "", answering(fill), signature);
+        return find(kRogueName);
+    };
+    EXPECT_EQ(nullptr, found("", [](sdbus::Message&) {}).get());
+    EXPECT_EQ(nullptr, found("t", [](sdbus::Message& m) { m << uint64_t{5}; }).get());
+    EXPECT_EQ(nullptr,
+              found("st", [](sdbus::Message& m) { m << std::string("x") << uint64_t{5}; }).get());
+    EXPECT_EQ(nullptr, found("ss", [](sdbus::Message& m) {
+                           m << std::string(":1.1") << std::string("5");
+                       }).get());
+}
+
+}  // namespace
+}  // namespace tarn::test

@@ -1,0 +1,259 @@
+#include "tests/process/ProcessTest.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <stdexcept>
+#include <system_error>
+#include <thread>
+
+extern char** environ;
+
+namespace tarn::test {
+
+namespace {
+
+constexpr char kChildMark[] = "--child";
+
+std::map<std::string, ChildBody>& bodies() {
+    static std::map<std::string, ChildBody> all;
+    return all;
+}
+
+struct Pipe {
+    Pipe() {
+        int ends[2];
+        if (pipe2(ends, O_CLOEXEC) != 0) throw std::system_error(errno, std::generic_category());
+        read = ends[0];
+        write = ends[1];
+    }
+    int read;
+    int write;
+};
+
+// Starts a program whose input and output are these; all else stays open only in this process.
+pid_t spawn(const std::vector<std::string>& command, int input, int output) {
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    if (input >= 0) posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
+    if (output >= 0) posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    std::vector<char*> argv;
+    for (const std::string& word : command) argv.push_back(const_cast<char*>(word.c_str()));
+    argv.push_back(nullptr);
+    pid_t pid = -1;
+    const int error = posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    if (error != 0) throw std::system_error(error, std::generic_category(), command[0]);
+    return pid;
+}
+
+std::string readLineFrom(int descriptor, std::string* unread) {
+    const auto deadline = std::chrono::steady_clock::now() + kPatience;
+    for (;;) {
+        const size_t end = unread->find('\n');
+        if (end != std::string::npos) {
+            std::string line = unread->substr(0, end);
+            unread->erase(0, end + 1);
+            return line;
+        }
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
+                deadline - std::chrono::steady_clock::now());
+        pollfd waited{descriptor, POLLIN, 0};
+        if (left.count() <= 0 || poll(&waited, 1, static_cast<int>(left.count())) <= 0) return "";
+        char bytes[4096];
+        const ssize_t got = read(descriptor, bytes, sizeof(bytes));
+        if (got <= 0) return "";
+        unread->append(bytes, static_cast<size_t>(got));
+    }
+}
+
+size_t entriesOf(const char* directory) {
+    size_t count = 0;
+    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(directory)) {
+        count++;
+    }
+    return count;
+}
+
+// As the bus of a user's session, for this user alone and without what could be activated.
+constexpr char kBusConfiguration[] = R"(<!DOCTYPE busconfig PUBLIC
+ "-//freedesktop//DTD D-BUS Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig>
+  <type>session</type>
+  <listen>unix:path=%SOCKET%</listen>
+  <auth>EXTERNAL</auth>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+  <limit name="max_incoming_bytes">1000000000</limit>
+  <limit name="max_incoming_unix_fds">250000000</limit>
+  <limit name="max_outgoing_bytes">1000000000</limit>
+  <limit name="max_outgoing_unix_fds">250000000</limit>
+  <limit name="max_message_size">1000000000</limit>
+  <limit name="max_replies_per_connection">50000</limit>
+</busconfig>
+)";
+
+}  // namespace
+
+bool eventually(const std::function<bool()>& condition) {
+    const auto deadline = std::chrono::steady_clock::now() + kPatience;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > deadline) return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    return true;
+}
+
+PrivateBus::PrivateBus() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "tarn-bus-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) {
+        throw std::system_error(errno, std::generic_category(), pattern);
+    }
+    mDirectory = pattern;
+    std::string configuration = kBusConfiguration;
+    configuration.replace(configuration.find("%SOCKET%"), 8, mDirectory + "/bus");
+    std::ofstream(mDirectory + "/bus.conf") << configuration;
+
+    const Pipe pipe;
+    mPid = spawn({"dbus-daemon", "--config-file=" + mDirectory + "/bus.conf", "--nofork",
+                  "--nopidfile", "--print-address"},
+                 -1, pipe.write);
+    close(pipe.write);
+    std::string unread;
+    mAddress = readLineFrom(pipe.read, &unread);
+    close(pipe.read);
+    if (mAddress.empty()) throw std::runtime_error("dbus-daemon does not start");
+    setenv("DBUS_SESSION_BUS_ADDRESS", mAddress.c_str(), 1);
+}
+
+PrivateBus::~PrivateBus() {
+    kill();
+    std::filesystem::remove_all(mDirectory);
+}
+
+void PrivateBus::kill() {
+    if (mPid < 0) return;
+    ::kill(mPid, SIGKILL);
+    waitpid(mPid, nullptr, 0);
+    mPid = -1;
+}
+
+bool Child::add(const std::string& role, ChildBody body) {
+    bodies()[role] = std::move(body);
+    return true;
+}
+
+Child::Child(const std::string& role, const std::vector<std::string>& arguments) {
+    const Pipe input;
+    const Pipe output;
+    std::vector<std::string> command = {"/proc/self/exe", kChildMark, role};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    mPid = spawn(command, input.read, output.write);
+    close(input.read);
+    close(output.write);
+    mInput = input.write;
+    mOutput = output.read;
+}
+
+Child::~Child() {
+    close(mInput);
+    if (mPid > 0) {
+        int status = 0;
+        const bool ended = eventually([&] { return waitpid(mPid, &status, WNOHANG) == mPid; });
+        if (!ended) kill();
+        EXPECT_TRUE(ended && WIFEXITED(status) && WEXITSTATUS(status) == 0)
+                << "a child ended with status " << status;
+    }
+    close(mOutput);
+}
+
+std::string Child::readLine() {
+    const std::string line = readLineFrom(mOutput, &mUnread);
+    EXPECT_NE("", line) << "a child says nothing";
+    return line;
+}
+
+void Child::writeLine(const std::string& line) {
+    const std::string text = line + "\n";
+    EXPECT_EQ(static_cast<ssize_t>(text.size()), write(mInput, text.data(), text.size()));
+}
+
+void Child::kill() {
+    ::kill(mPid, SIGKILL);
+    waitpid(mPid, nullptr, 0);
+    mPid = -1;
+}
+
+void tell(const std::string& line) {
+    std::cout << line << std::endl;
+}
+
+std::string listen() {
+    std::string line;
+    std::getline(std::cin, line);
+    return line;
+}
+
+int serveUntilClosed() {
+    tell("ready");
+    listen();
+    return 0;
+}
+
+size_t openDescriptors() {
+    return entriesOf("/proc/self/fd");
+}
+
+size_t runningThreads() {
+    return entriesOf("/proc/self/task");
+}
+
+namespace {
+
+class BusEnvironment : public testing::Environment {
+  public:
+    void SetUp() override { mBus = std::make_unique<PrivateBus>(); }
+    void TearDown() override { mBus.reset(); }
+
+  private:
+    std::unique_ptr<PrivateBus> mBus;
+};
+
+}  // namespace
+
+}  // namespace tarn::test
+
+// For the address sanitizer: the bus library loses a little memory when it cannot connect.
+extern "C" const char* __lsan_default_suppressions() {
+    return "leak:libsystemd.so";
+}
+
+int main(int argc, char** argv) {
+    using tarn::test::bodies;
+    signal(SIGPIPE, SIG_IGN);
+    const std::vector<std::string> words(argv + 1, argv + argc);
+    if (words.size() >= 2 && words[0] == tarn::test::kChildMark) {
+        // A child does not outlive a test that crashed.
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        return bodies().at(words[1])({words.begin() + 2, words.end()});
+    }
+    testing::InitGoogleTest(&argc, argv);
+    testing::AddGlobalTestEnvironment(new tarn::test::BusEnvironment);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tarn::test {
+
+/** How long a test waits for what must happen before it gives up. */
+inline constexpr std::chrono::seconds kPatience(20);
+
+/** Waits until a condition holds; false if it does not within kPatience. */
+bool eventually(const std::function<bool()>& condition);
+
+/**
+ * A session bus of its own, to which DBUS_SESSION_BUS_ADDRESS leads from then on. Every test
+ * program has one from its start to its end.
+ */
+class PrivateBus {
+  public:
+    PrivateBus();
+    ~PrivateBus();
+    PrivateBus(const PrivateBus&) = delete;
+    PrivateBus& operator=(const PrivateBus&) = delete;
+
+    const std::string& address() const { return mAddress; }
+
+    /** Kills the bus, as a crash would. */
+    void kill();
+
+  private:
+    std::string mDirectory;
+    std::string mAddress;
+    pid_t mPid = -1;
+};
+
+/** What a child process runs; the strings are what it was given. Returns its exit code. */
+using ChildBody = std::function<int(const std::vector<std::string>&)>;
+
+/**
+ * Another process: the test's own program, started anew in the role of a registered child body. A
+ * child talks to its test in lines, through its standard input and output.
+ */
+class Child {
+  public:
+    explicit Child(const std::string& role, const std::vector<std::string>& arguments = {});
+    /** Ends the child by closing its input, and fails the test unless it exits with 0. */
+    ~Child();
+    Child(const Child&) = delete;
+    Child& operator=(const Child&) = delete;
+
+    pid_t pid() const { return mPid; }
+
+    /** The child's next line; empty, and the test fails, if there comes none within kPatience. */
+    std::string readLine();
+    void writeLine(const std::string& line);
+
+    /** Kills the child and waits until it is gone. */
+    void kill();
+
+    static bool add(const std::string& role, ChildBody body);
+
+  private:
+    int mInput = -1;
+    int mOutput = -1;
+    pid_t mPid = -1;
+    std::string mUnread;
+};
+
+/** The child's side: a line to the test, and the next one from it (empty at the end). */
+void tell(const std::string& line);
+std::string listen();
+
+/** Serves until the test is done with the child. */
+int serveUntilClosed();
+
+size_t openDescriptors();
+size_t runningThreads();
+
+/** CHILD(role) { ... } defines what a child in that role runs; `arguments` is what it was given. */
+#define CHILD(role)                                                                         \
+    static int child_##role(const std::vector<std::string>& arguments);                     \
+    static const bool child_##role##_added = ::tarn::test::Child::add(#role, child_##role); \
+    static int child_##role([[maybe_unused]] const std::vector<std::string>& arguments)
+
+}  // namespace tarn::test

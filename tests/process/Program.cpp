@@ -1,0 +1,179 @@
+#include "tests/process/Program.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <system_error>
+
+#include "tests/process/ProcessTest.h"
+
+extern char** environ;
+
+namespace tarn::test {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+int millisecondsUntil(Clock::time_point deadline) {
+    const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
+    return static_cast<int>(std::max<int64_t>(0, left.count()));
+}
+
+std::vector<std::string> variables(const Program::Environment& changes) {
+    std::vector<std::string> all;
+    for (char** variable = environ; *variable != nullptr; variable++) {
+        const std::string text = *variable;
+        if (changes.count(text.substr(0, text.find('='))) == 0) all.push_back(text);
+    }
+    for (const auto& [name, value] : changes) {
+        if (!value.empty()) all.push_back(name + "=" + value);
+    }
+    return all;
+}
+
+std::vector<char*> pointers(const std::vector<std::string>& texts) {
+    std::vector<char*> all;
+    for (const std::string& text : texts) all.push_back(const_cast<char*>(text.c_str()));
+    all.push_back(nullptr);
+    return all;
+}
+
+void openPipe(int* readEnd, int* writeEnd) {
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) != 0) throw std::system_error(errno, std::generic_category());
+    *readEnd = ends[0];
+    *writeEnd = ends[1];
+}
+
+}  // namespace
+
+Program::Program(const std::string& path, const std::vector<std::string>& arguments,
+                 const Environment& environment) {
+    int output = -1;
+    int errors = -1;
+    openPipe(&mOutput.descriptor, &output);
+    openPipe(&mErrors.descriptor, &errors);
+    std::vector<std::string> words = {path};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    const std::vector<std::string> environmentTexts = variables(environment);
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, errors, STDERR_FILENO);
+    const int error = posix_spawn(&mPid, path.c_str(), &actions, nullptr, pointers(words).data(),
+                                  pointers(environmentTexts).data());
+    posix_spawn_file_actions_destroy(&actions);
+    close(output);
+    close(errors);
+    if (error != 0) throw std::system_error(error, std::generic_category(), path);
+}
+
+Program::~Program() {
+    if (!mReaped) {
+        kill(mPid, SIGKILL);
+        waitpid(mPid, nullptr, 0);
+    }
+    close(mOutput.descriptor);
+    close(mErrors.descriptor);
+}
+
+bool Program::Stream::fill(int milliseconds) {
+    pollfd waited{descriptor, POLLIN, 0};
+    if (ended || poll(&waited, 1, milliseconds) <= 0) return false;
+    char bytes[4096];
+    const ssize_t got = read(descriptor, bytes, sizeof(bytes));
+    if (got <= 0) {
+        ended = true;
+        return false;
+    }
+    unread.append(bytes, static_cast<size_t>(got));
+    return true;
+}
+
+std::string Program::Stream::line() {
+    const auto deadline = Clock::now() + kPatience;
+    size_t end;
+    while ((end = unread.find('\n')) == std::string::npos) {
+        if (fill(millisecondsUntil(deadline))) continue;
+        ADD_FAILURE() << "no line but \"" << unread << "\"";
+        return "";
+    }
+    const std::string text = unread.substr(0, end);
+    unread.erase(0, end + 1);
+    return text;
+}
+
+std::string Program::Stream::rest() {
+    while (fill(0)) {
+    }
+    return std::exchange(unread, "");
+}
+
+std::string Program::outputLine() {
+    return mOutput.line();
+}
+
+std::string Program::errorLine() {
+    return mErrors.line();
+}
+
+std::string Program::errorLineWith(const std::string& text) {
+    std::string line;
+    do {
+        line = mErrors.line();
+    } while (!line.empty() && line.find(text) == std::string::npos);
+    return line;
+}
+
+void Program::signal(int number) const {
+    kill(mPid, number);
+}
+
+void Program::drain() {
+    // What is not read keeps the program from ending.
+    mOutput.fill(0);
+    mErrors.fill(0);
+}
+
+int Program::wait() {
+    if (mReaped) return mExitCode;
+    int status = 0;
+    mReaped = eventually([&] {
+        drain();
+        return waitpid(mPid, &status, WNOHANG) == mPid;
+    });
+    if (!mReaped) {
+        ADD_FAILURE() << "the program does not end";
+        return INT32_MIN;
+    }
+    mExitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+    return mExitCode;
+}
+
+std::string Program::restOfOutput() {
+    return mOutput.rest();
+}
+
+std::string Program::restOfErrors() {
+    return mErrors.rest();
+}
+
+Outcome runProgram(const std::string& path, const std::vector<std::string>& arguments,
+                   const Program::Environment& environment) {
+    Program program(path, arguments, environment);
+    const int code = program.wait();
+    return Outcome{code, program.restOfOutput(), program.restOfErrors()};
+}
+
+}  // namespace tarn::test
