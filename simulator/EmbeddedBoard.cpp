@@ -1,13 +1,20 @@
 #include "simulator/EmbeddedBoard.h"
 
+#include <hidl/HidlBinderSupport.h>
 #include <utils/Errors.h>
+#include <utils/String16.h>
+#include <vendor/zunt/hwtarn/1.0/BnHwHwTarn.h>
 
 #include <cstdlib>
 #include <stdexcept>
 
+#include "host/binder/HostServiceManager.h"
 #include "simulator/BoardLoader.h"
 
 namespace tarn::simulator {
+
+using ::vendor::zunt::hwtarn::V1_0::BnHwHwTarn;
+using ::vendor::zunt::hwtarn::V1_0::IHwTarn;
 
 std::string defaultBoardPath() {
     const char* chosen = getenv("TARN_BOARD");
@@ -18,7 +25,9 @@ std::string defaultBoardPath() {
 android::sp<SimulatedBoard> startEmbeddedBoard(const std::string& path,
                                                const std::string& overridePath) {
     android::sp<SimulatedBoard> board(new SimulatedBoard(loadBoard(path, overridePath)));
-    const android::status_t status = board->registerAsService();
+    const android::status_t status = android::host::addLocalService(
+            android::String16((std::string(IHwTarn::descriptor) + "/default").c_str()),
+            android::hardware::toBinder<IHwTarn, BnHwHwTarn>(board));
     if (status != android::OK) {
         throw std::runtime_error("the board can't be published: error " + std::to_string(status));
     }

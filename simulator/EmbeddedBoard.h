@@ -12,8 +12,9 @@ namespace tarn::simulator {
 std::string defaultBoardPath();
 
 /**
- * Loads a board and publishes it in this process as the hardware service "default". It runs as long
- * as it is published. Throws BoardFileError if the board is refused, std::runtime_error if it can't
+ * Loads a board and publishes it as the hardware service "default" of this process, and of no
+ * other: here it comes before a board that is served on the session bus. It runs as long as it is
+ * published. Throws BoardFileError if the board is refused, std::runtime_error if it can't
  * be published.
  */
 android::sp<SimulatedBoard> startEmbeddedBoard(const std::string& path = defaultBoardPath(),

@@ -5,30 +5,47 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <mutex>
 
 #include "simulator/Board.h"
+#include "simulator/EventDispatcher.h"
 
 namespace tarn::simulator {
 
-/** Who wants the board's events: one callback a process. Any thread may call. */
-class EventCallbacks {
+/**
+ * Who wants the board's events: one callback a process, each called on a thread of its own, so that
+ * a process that is stopped holds up nobody else. Any thread may call.
+ */
+class EventCallbacks : public std::enable_shared_from_this<EventCallbacks> {
   public:
-    using Callback = ::android::sp<::vendor::zunt::hwtarn::V1_0::IHwTarnCallback>;
+    using IHwTarnCallback = ::vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
+    using Callback = ::android::sp<IHwTarnCallback>;
 
-    /** Replaces the callback that the process had. */
+    /** Replaces the callback that the process had. It is forgotten when it dies. */
     void add(int32_t pid, const Callback& callback);
 
-    /** Calls every callback, in the order of the process ids, and drops those that are dead. */
-    void deliver(const Event& event);
+    /**
+     * Queues an event for every callback, for all of them in the same order. False if too many wait
+     * already for one of them, which loses this one.
+     */
+    bool post(const Event& event);
 
     size_t size() const;
 
   private:
-    void drop(int32_t pid, const Callback& dead);
+    class Obituary;
+
+    struct Receiver {
+        Callback callback;
+        ::android::sp<Obituary> obituary;
+        std::unique_ptr<EventDispatcher> dispatcher;
+    };
+
+    void drop(int32_t pid, const IHwTarnCallback* dead);
 
     mutable std::mutex mLock;
-    std::map<int32_t, Callback> mCallbacks;
+    std::map<int32_t, Receiver> mReceivers;
 };
 
 }  // namespace tarn::simulator

@@ -12,6 +12,7 @@ struct EventDispatcher::Queue {
     std::mutex lock;
     std::condition_variable changed;
     std::deque<Event> events;
+    size_t bytes = 0;
     bool stopped = false;
 
     /** Waits for the next event; nothing once the queue is stopped. */
@@ -21,6 +22,7 @@ struct EventDispatcher::Queue {
         if (stopped) return std::nullopt;
         Event event = std::move(events.front());
         events.pop_front();
+        bytes -= event.data.size();
         return event;
     }
 
@@ -38,6 +40,7 @@ EventDispatcher::EventDispatcher(std::function<void(const Event&)> deliver)
 
 EventDispatcher::~EventDispatcher() {
     mQueue->stop();
+    if (!mThread.joinable()) return;
     // A receiver that drops the last reference to the board does so on this very thread.
     if (mThread.get_id() == std::this_thread::get_id()) {
         mThread.detach();
@@ -46,9 +49,16 @@ EventDispatcher::~EventDispatcher() {
     }
 }
 
+void EventDispatcher::abandon() {
+    mQueue->stop();
+    if (mThread.joinable()) mThread.detach();
+}
+
 bool EventDispatcher::post(Event event) {
     std::lock_guard<std::mutex> guard(mQueue->lock);
-    if (mQueue->events.size() >= kMaxPending) return false;
+    const size_t bytes = mQueue->bytes + event.data.size();
+    if (mQueue->events.size() >= kMaxPending || bytes > kMaxPendingBytes) return false;
+    mQueue->bytes = bytes;
     mQueue->events.push_back(std::move(event));
     mQueue->changed.notify_one();
     return true;

@@ -15,13 +15,17 @@ namespace tarn::simulator {
  */
 class EventDispatcher {
   public:
-    /** How many events can wait. */
+    /** How many events can wait, and how many bytes in them. */
     static constexpr size_t kMaxPending = 65'536;
+    static constexpr size_t kMaxPendingBytes = 16 << 20;
 
     explicit EventDispatcher(std::function<void(const Event&)> deliver);
 
     /** Waits for the event that is being handed over, if any; those that wait are dropped. */
     ~EventDispatcher();
+
+    /** Ends without waiting: the event that is being handed over may come to its end later. */
+    void abandon();
 
     EventDispatcher(const EventDispatcher&) = delete;
     EventDispatcher& operator=(const EventDispatcher&) = delete;

@@ -7,7 +7,6 @@
 
 #include "simulator/Board.h"
 #include "simulator/EventCallbacks.h"
-#include "simulator/EventDispatcher.h"
 #include "simulator/Faults.h"
 #include "simulator/PostedEvents.h"
 
@@ -37,11 +36,9 @@ class SimulatedBoard : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
 
     /**
      * Queues an event for all callbacks; one that nobody has registered for is lost, as on a board.
-     * False if too many wait already.
+     * False if too many wait already for one of them.
      */
-    bool raiseEvent(Event event) {
-        return mCallbacks->size() == 0 || mDispatcher.post(std::move(event));
-    }
+    bool raiseEvent(const Event& event) { return mCallbacks->post(event); }
 
     /** State and faults as the board's files describe them; posted events are forgotten. */
     void reset();
@@ -58,7 +55,6 @@ class SimulatedBoard : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
     Faults mFaults;
     PostedEvents mPosted;
     const std::shared_ptr<EventCallbacks> mCallbacks;
-    EventDispatcher mDispatcher;
 };
 
 }  // namespace tarn::simulator

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <json/value.h>
+#include <sys/types.h>
 
 #include <cstdint>
 #include <memory>
@@ -11,7 +12,7 @@ namespace tarnctl {
 
 /**
  * The control of a simulated board. What the board refuses throws std::invalid_argument with the
- * reason.
+ * reason; Failure(kUnreachable) is thrown when its process is gone.
  */
 class BoardLink {
   public:
@@ -53,5 +54,8 @@ struct BoardFiles {
  * one. Throws std::runtime_error if the board is refused.
  */
 std::unique_ptr<BoardLink> startEmbeddedBoard(const BoardFiles& files);
+
+/** The control of the simulated board that another process serves; null if it serves none. */
+std::unique_ptr<BoardLink> findServedBoard(pid_t process);
 
 }  // namespace tarnctl

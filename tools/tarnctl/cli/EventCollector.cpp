@@ -1,7 +1,6 @@
 #include "tools/tarnctl/cli/EventCollector.h"
 
 #include <binder/Parcel.h>
-#include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
 
 #include <utility>
 
@@ -28,8 +27,13 @@ sp<EventCollector> EventCollector::start(android::ITarnManager* manager) {
     manager->registerListener(collector.get());
     const sp<IHwTarn> service = IHwTarn::getService();
     if (service == nullptr || manager->createTarnMsgManager() != 0) return nullptr;
-    if (service->isRemote()) service->linkToDeath(collector, 0);
+    if (service->isRemote() && !collector->watch(service)) return nullptr;
     return collector;
+}
+
+bool EventCollector::watch(const sp<IHwTarn>& service) {
+    mService = service;
+    return service->linkToDeath(this, 0).withDefault(false);
 }
 
 std::optional<BoardEvent> EventCollector::next() {

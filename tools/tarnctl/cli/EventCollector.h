@@ -4,6 +4,7 @@
 #include <tarn/ITarnListener.h>
 #include <tarn/ITarnManager.h>
 #include <utils/StrongPointer.h>
+#include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
 
 #include <cstdint>
 #include <deque>
@@ -40,6 +41,11 @@ class EventCollector : public ITarnListener, public android::hardware::hidl_deat
                      const android::wp<android::hidl::base::V1_0::IBase>& who) override;
 
   private:
+    /** Asks to be told of the service's death; false if it is dead already. */
+    bool watch(const android::sp<vendor::zunt::hwtarn::V1_0::IHwTarn>& service);
+
+    // A proxy that nobody holds forgets whom to tell of the death.
+    android::sp<vendor::zunt::hwtarn::V1_0::IHwTarn> mService;
     mutable std::mutex mLock;
     std::deque<BoardEvent> mEvents;
     bool mServiceDied = false;

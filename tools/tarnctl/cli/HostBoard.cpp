@@ -1,12 +1,18 @@
+#include <utility>
+
 #include "simulator/BoardControl.h"
 #include "simulator/EmbeddedBoard.h"
+#include "simulator/daemon/RemoteBoard.h"
 #include "tools/tarnctl/cli/BoardLink.h"
+#include "tools/tarnctl/cli/Failure.h"
 
 namespace tarnctl {
 
 namespace {
 
 using tarn::simulator::BoardControl;
+using tarn::simulator::bus::BoardUnreachable;
+using tarn::simulator::bus::RemoteBoard;
 
 class EmbeddedBoardLink : public BoardLink {
   public:
@@ -46,6 +52,65 @@ class EmbeddedBoardLink : public BoardLink {
     BoardControl mControl;
 };
 
+template <typename Action>
+auto reach(const Action& action) try {
+    return action();
+} catch (const BoardUnreachable& error) {
+    throw Failure(kUnreachable, error.what());
+}
+
+class ServedBoardLink : public BoardLink {
+  public:
+    explicit ServedBoardLink(std::unique_ptr<RemoteBoard> board) : mBoard(std::move(board)) {}
+
+    std::string name() const override {
+        return reach([this] { return mBoard->name(); });
+    }
+
+    Json::Value properties() const override {
+        return reach([this] { return mBoard->listProperties(); });
+    }
+
+    Json::Value property(const std::string& name) const override {
+        return reach([&] { return mBoard->getProperty(name); });
+    }
+
+    void setProperty(const std::string& name, const std::string& value) override {
+        reach([&] { mBoard->setPropertyFromText(name, value); });
+    }
+
+    void raiseEvent(uint32_t type, const std::vector<uint8_t>& data) override {
+        reach([&] { mBoard->raiseEvent(type, data); });
+    }
+
+    Json::Value postedEvents() const override {
+        return reach([this] { return mBoard->postedEvents(); });
+    }
+
+    void reset() override {
+        reach([this] { mBoard->reset(); });
+    }
+
+    Json::Value faults() const override {
+        return reach([this] { return mBoard->listFaults(); });
+    }
+
+    void setFault(const std::string& command, const Json::Value& fault) override {
+        reach([&] { mBoard->setFault(command, fault); });
+    }
+
+    void clearFault(const std::string& command) override {
+        reach([&] { mBoard->clearFault(command); });
+    }
+
+    void clearFaults() override {
+        reach([this] { mBoard->clearFaults(); });
+    }
+
+  private:
+    const std::unique_ptr<RemoteBoard> mBoard;
+};
+
 }  // namespace
 
 std::unique_ptr<BoardLink> startEmbeddedBoard(const BoardFiles& files) {
@@ -53,6 +118,12 @@ std::unique_ptr<BoardLink> startEmbeddedBoard(const BoardFiles& files) {
             files.board.empty() ? tarn::simulator::defaultBoardPath() : files.board;
     const auto board = tarn::simulator::startEmbeddedBoard(path, files.overrides);
     return std::make_unique<EmbeddedBoardLink>(BoardControl(board));
+}
+
+std::unique_ptr<BoardLink> findServedBoard(pid_t process) {
+    std::unique_ptr<RemoteBoard> board = RemoteBoard::find();
+    if (board == nullptr || board->pid() != process) return nullptr;
+    return std::make_unique<ServedBoardLink>(std::move(board));
 }
 
 }  // namespace tarnctl

@@ -6,4 +6,8 @@ std::unique_ptr<BoardLink> startEmbeddedBoard(const BoardFiles&) {
     return nullptr;
 }
 
+std::unique_ptr<BoardLink> findServedBoard(pid_t) {
+    return nullptr;
+}
+
 }  // namespace tarnctl

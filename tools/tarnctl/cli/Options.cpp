@@ -76,6 +76,9 @@ constexpr OptionRow kRows[] = {
         {"--service", 0, Takes::kNothing, "", nullptr, true,
          [](Options* options, const std::string&) { options->serviceOnly = true; },
          "use a running service only, never start a simulated board"},
+        {"--embedded", 0, Takes::kNothing, "", nullptr, true,
+         [](Options* options, const std::string&) { options->embeddedOnly = true; },
+         "start a simulated board, even where a service runs"},
         {"--trace", 0, Takes::kNothing, "", nullptr, false,
          [](Options* options, const std::string&) { options->trace = true; },
          "requests and replies as hexadecimal words on standard error"},
@@ -193,8 +196,7 @@ class Parser {
                 throw Failure(kBadUsage, nameOf(*row) + " is an option of " + row->command);
             }
         }
-        if (mLine.options.serviceOnly &&
-            !(mLine.options.boardFile.empty() && mLine.options.overrideFile.empty())) {
+        if (mLine.options.serviceOnly && mLine.options.wantsOwnBoard()) {
             throw Failure(kBadUsage, "--service and a simulated board exclude each other");
         }
     }

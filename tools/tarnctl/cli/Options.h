@@ -18,12 +18,18 @@ struct Options {
     bool help = false;
     bool version = false;
     bool serviceOnly = false;
+    bool embeddedOnly = false;
     bool trace = false;
     bool keepGoing = false;
     std::optional<std::chrono::milliseconds> timeout;
     std::optional<int32_t> count;
     std::string boardFile;
     std::string overrideFile;
+
+    /** Whether a running service doesn't matter. */
+    bool wantsOwnBoard() const {
+        return embeddedOnly || !boardFile.empty() || !overrideFile.empty();
+    }
 };
 
 /** A command line taken apart: the options, and the command with its arguments. */

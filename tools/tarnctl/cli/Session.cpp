@@ -1,5 +1,7 @@
 #include "tools/tarnctl/cli/Session.h"
 
+#include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
+
 #include <mutex>
 #include <vector>
 
@@ -8,6 +10,7 @@
 namespace tarnctl {
 
 using android::sp;
+using vendor::zunt::hwtarn::V1_0::IHwTarn;
 
 namespace {
 
@@ -34,7 +37,20 @@ TracingManager& Session::manager() {
 
 BoardLink* Session::board() {
     manager();
+    if (mBoard == nullptr && !mBoardSought) {
+        mBoardSought = true;
+        if (const pid_t process = servingProcess()) mBoard = findServedBoard(process);
+    }
     return mBoard.get();
+}
+
+pid_t Session::servingProcess() {
+    manager();
+    const sp<IHwTarn> service = IHwTarn::getService();
+    if (service == nullptr || !service->isRemote()) return 0;
+    pid_t process = -1;
+    service->getDebugInfo([&process](const IHwTarn::DebugInfo& info) { process = info.pid; });
+    return process;
 }
 
 EventCollector& Session::events() {
@@ -44,7 +60,7 @@ EventCollector& Session::events() {
 }
 
 void Session::connect() {
-    if (!mOptions.boardFile.empty() || !mOptions.overrideFile.empty()) {
+    if (mOptions.wantsOwnBoard()) {
         startBoard();
         if (mBoard == nullptr) throw Failure(kBadUsage, "this tarnctl has no simulated board");
         return;

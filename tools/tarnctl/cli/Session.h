@@ -1,5 +1,6 @@
 #pragma once
 
+#include <sys/types.h>
 #include <utils/StrongPointer.h>
 
 #include <memory>
@@ -29,8 +30,11 @@ class Session {
     /** Leaves the manager to a call that doesn't come back; the next one is new. */
     void abandonManager() { mManager = nullptr; }
 
-    /** The simulated board that this process runs, or null. */
+    /** The simulated board that is the service, in this process or another, or null. */
     BoardLink* board();
+
+    /** The process that serves; 0 if it is this one, -1 if it does not tell. */
+    pid_t servingProcess();
 
     /** Throws Failure(kUnreachable). */
     EventCollector& events();
@@ -43,6 +47,7 @@ class Session {
     const Diagnostics mDiagnostics;
     const bool mCollectEvents;
     bool mConnected = false;
+    bool mBoardSought = false;
     std::unique_ptr<BoardLink> mBoard;
     android::sp<TracingManager> mManager;
     android::sp<EventCollector> mEvents;

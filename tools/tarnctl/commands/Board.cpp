@@ -153,7 +153,8 @@ const CommandDescription kBoardCommand = {
   board fault clear [COMMAND] switch them off
   board log                   the events that applications posted
 
-A board within tarnctl lives as long as tarnctl: put such commands into a batch.)",
+It is the board that tarn-board serves, if it does. A board within tarnctl lives as long as
+tarnctl: put such commands into a batch.)",
         runBoard};
 
 }  // namespace tarnctl

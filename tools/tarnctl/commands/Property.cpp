@@ -80,7 +80,7 @@ const CommandDescription kGetCommand = {
 audio.drcEnable or audio.drc is audio.isDrcEnable(). Arguments of the getter follow the
 name: get audio.ampMute 1. The case of letters doesn't matter. This works on every board.
 
-Where no getter has that name and tarnctl runs a simulated board, it is the board's own
+Where no getter has that name and the service is a simulated board, it is the board's own
 property of that name, as tarnctl board get gives it.
 
 Without a name: every property, whether it can be read (r) and written (w), and its type.)",
@@ -90,7 +90,7 @@ const CommandDescription kSetCommand = {
         "set", "CONTROLLER.PROPERTY [INDEX]... VALUE", "write a property",
         R"(The counterpart of get: set audio.volume 30 is audio.setVolume(30), set audio.drc on is
 audio.enableDrc(true), set audio.ampMute 1 0 is audio.setAmpMute(1, 0). Prints the method's
-result. Where no setter has that name and tarnctl runs a simulated board, it sets the
+result. Where no setter has that name and the service is a simulated board, it sets the
 board's own property, as tarnctl board set does, and prints nothing.)",
         runSet};
 

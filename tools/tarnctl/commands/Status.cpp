@@ -1,5 +1,3 @@
-#include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
-
 #include "tools/tarnctl/cli/Failure.h"
 #include "tools/tarnctl/cli/LibraryLog.h"
 #include "tools/tarnctl/commands/Commands.h"
@@ -8,12 +6,18 @@ namespace tarnctl {
 
 namespace {
 
-using vendor::zunt::hwtarn::V1_0::IHwTarn;
-
-std::string placeOf(const BoardLink* board) {
-    if (board != nullptr) return "embedded";
-    const android::sp<IHwTarn> service = IHwTarn::getService();
-    return service != nullptr && service->isRemote() ? "another process" : "this process";
+Report describeService(Session& session) {
+    const BoardLink* board = session.board();
+    const pid_t process = session.servingProcess();
+    Report report = {{"service", "ready"}};
+    if (process != 0) {
+        report.emplace_back("where", "another process");
+        if (process > 0) report.emplace_back("process", process);
+    } else {
+        report.emplace_back("where", board != nullptr ? "embedded" : "this process");
+    }
+    if (board != nullptr) report.emplace_back("board", board->name());
+    return report;
 }
 
 int runStatus(Context& context, const Arguments& arguments) {
@@ -21,9 +25,7 @@ int runStatus(Context& context, const Arguments& arguments) {
     Report report;
     int code = kDone;
     try {
-        const BoardLink* board = context.session.board();
-        report = {{"service", "ready"}, {"where", placeOf(board)}};
-        if (board != nullptr) report.emplace_back("board", board->name());
+        report = describeService(context.session);
     } catch (const Failure& failure) {
         if (failure.code() != kUnreachable) throw;
         report = {{"service", "not ready"}};
@@ -40,7 +42,8 @@ int runStatus(Context& context, const Arguments& arguments) {
 const CommandDescription kStatusCommand = {
         "status", "", "whether the service is ready, and where it runs",
         R"(Prints whether the hardware service is ready; where it runs: embedded (a simulated board
-within tarnctl) or in another process; and the library's log level. With --service only a
+within tarnctl) or in another process, and in which; the name of a simulated board; and the
+library's log level. With --service only a
 running service counts: the exit code is 4 if there is none.)",
         runStatus};
 

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <sdbus-c++/Types.h>
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+// The board's run-time control on the session bus; simulator/daemon/README.md lists its methods.
+namespace tarn::simulator::bus {
+
+constexpr char kBoardName[] = "org.tarn.Board1";
+constexpr char kBoardPath[] = "/org/tarn/Board1";
+constexpr char kBoardInterface[] = "org.tarn.Board1";
+
+/** The error of a call that the board refuses; its message tells a person why. */
+constexpr char kRefusedError[] = "org.tarn.Board1.Error.Refused";
+
+/** The most bytes that an event may carry, as those that applications post. */
+constexpr size_t kMostEventBytes = 1'040'384;
+
+using Dictionary = std::map<std::string, sdbus::Variant>;          // a{sv}
+using Descriptions = std::map<std::string, Dictionary>;            // a{sa{sv}}
+using PostedEvent = sdbus::Struct<int32_t, std::vector<uint8_t>>;  // (iay)
+using SetFault = sdbus::Struct<std::string, Dictionary>;           // (sa{sv})
+
+}  // namespace tarn::simulator::bus

@@ -1,0 +1,39 @@
+#include "simulator/daemon/ControlBus.h"
+
+#include <sdbus-c++/Error.h>
+
+#include <string>
+#include <utility>
+
+namespace tarn::simulator {
+
+ControlBus::ControlBus() : mConnection(bus::connectSessionBus()) {}
+
+ControlBus::~ControlBus() {
+    if (!mLoop.joinable()) return;
+    mConnection->leaveEventLoop();
+    mLoop.join();
+}
+
+void ControlBus::serve(const BoardControl& control, std::function<void(EndCause)> ended) {
+    mEnded = std::move(ended);
+    mObject = std::make_unique<bus::BoardObject>(*mConnection, control);
+    watchName();
+    mLoop = std::thread([this] { run(); });
+}
+
+void ControlBus::watchName() {
+    mBus = sdbus::createProxy(*mConnection, "org.freedesktop.DBus", "/org/freedesktop/DBus");
+    mBus->uponSignal("NameLost")
+            .onInterface("org.freedesktop.DBus")
+            .call([this](const std::string& name) {
+                if (name == bus::kBoardName) mEnded(EndCause::kReplaced);
+            });
+    mBus->finishRegistration();
+}
+
+void ControlBus::run() try { mConnection->enterEventLoop(); } catch (const sdbus::Error&) {
+    mEnded(EndCause::kBusGone);
+}
+
+}  // namespace tarn::simulator

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <sdbus-c++/IConnection.h>
+#include <sdbus-c++/IProxy.h>
+#include <sys/types.h>
+
+#include <functional>
+#include <memory>
+#include <thread>
+
+#include "simulator/BoardControl.h"
+#include "simulator/daemon/BoardObject.h"
+#include "simulator/daemon/EndWatch.h"
+#include "simulator/daemon/SessionBus.h"
+
+namespace tarn::simulator {
+
+/** The daemon's place on the session bus: its name, and the board's control behind it. */
+class ControlBus {
+  public:
+    /** Connects; throws bus::BusUnreachable. */
+    ControlBus();
+    ~ControlBus();
+    ControlBus(const ControlBus&) = delete;
+    ControlBus& operator=(const ControlBus&) = delete;
+
+    /** The process that has the name now, 0 if none has it. */
+    pid_t owner() { return bus::processOf(*mConnection, bus::kBoardName); }
+
+    /** Takes the name; calls to it wait until serve(). */
+    bus::NameOutcome takeName(bool replace) {
+        return bus::takeName(*mConnection, bus::kBoardName, replace);
+    }
+
+    /** Answers from now on, on a thread of its own; ended hears of the name's or the bus's loss. */
+    void serve(const BoardControl& control, std::function<void(EndCause)> ended);
+
+  private:
+    void watchName();
+    void run();
+
+    const std::unique_ptr<sdbus::IConnection> mConnection;
+    std::function<void(EndCause)> mEnded;
+    std::unique_ptr<sdbus::IProxy> mBus;
+    std::unique_ptr<bus::BoardObject> mObject;
+    std::thread mLoop;
+};
+
+}  // namespace tarn::simulator

@@ -1,0 +1,135 @@
+#include "simulator/daemon/Daemon.h"
+
+#include <hidl/HidlTransportSupport.h>
+#include <signal.h>
+#include <unistd.h>
+#include <utils/Errors.h>
+
+#include <cstdio>
+#include <string>
+
+#include "simulator/BoardLoader.h"
+#include "simulator/EmbeddedBoard.h"
+#include "simulator/daemon/ControlBus.h"
+#include "simulator/daemon/TracedBoard.h"
+
+namespace tarn::simulator {
+
+using ::android::sp;
+using ::vendor::zunt::hwtarn::V1_0::IHwTarn;
+
+namespace {
+
+/** A command that a fault delays keeps its thread, so there are more than a client or two need. */
+constexpr size_t kThreads = 16;
+
+/** Ends the daemon with an exit code and a line on standard error. */
+class Refusal : public std::runtime_error {
+  public:
+    Refusal(DaemonExit code, const std::string& message)
+        : std::runtime_error(message), mCode(code) {}
+
+    DaemonExit code() const { return mCode; }
+
+  private:
+    DaemonExit mCode;
+};
+
+void say(const std::string& line) {
+    fprintf(stderr, "tarn-board: %s\n", line.c_str());
+}
+
+sp<SimulatedBoard> makeBoard(const DaemonOptions& options) {
+    const std::string path = options.board.empty() ? defaultBoardPath() : options.board;
+    try {
+        const auto model = loadBoard(path, options.overrides);
+        return options.verbose ? new TracedBoard(model) : new SimulatedBoard(model);
+    } catch (const BoardFileError& error) {
+        throw Refusal(kUnusable, std::string("the board is refused:\n") + error.what());
+    }
+}
+
+void applySetting(BoardControl* control, const std::string& property, const std::string& value) {
+    try {
+        control->setPropertyFromText(property, value);
+    } catch (const std::invalid_argument& refusal) {
+        throw Refusal(kUnusable, "--set " + property + "=" + value + ": " + refusal.what());
+    }
+}
+
+std::string processText(pid_t pid) {
+    return pid > 0 ? "process " + std::to_string(pid) : "another process";
+}
+
+pid_t processOf(const sp<IHwTarn>& service) {
+    pid_t pid = 0;
+    service->getDebugInfo([&pid](const IHwTarn::DebugInfo& info) { pid = info.pid; });
+    return pid;
+}
+
+/** Makes sure that it is this process that may serve. */
+void claim(ControlBus* bus, bool replace) {
+    const pid_t owner = bus->owner();
+    if (bus->takeName(replace) == bus::NameOutcome::kRefused) {
+        throw Refusal(kAlreadyServed, "another tarn-board serves already (" + processText(owner) +
+                                              "); --replace takes over from it");
+    }
+    if (replace) return;
+    if (const sp<IHwTarn> service = IHwTarn::getService()) {
+        throw Refusal(kAlreadyServed, "the hardware service is served already (" +
+                                              processText(processOf(service)) +
+                                              "); --replace takes over from it");
+    }
+}
+
+void publish(const sp<SimulatedBoard>& board) {
+    ::android::hardware::configureRpcThreadpool(kThreads, false);
+    const ::android::status_t status = board->registerAsService();
+    if (status != ::android::OK) {
+        throw Refusal(kNotPublished,
+                      "the board can't be published: error " + std::to_string(status));
+    }
+}
+
+int serve(const DaemonOptions& options) {
+    const EndWatch watch;
+    const sp<SimulatedBoard> board = makeBoard(options);
+    BoardControl control(board);
+    for (const auto& [property, value] : options.settings) applySetting(&control, property, value);
+
+    ControlBus bus;
+    claim(&bus, options.replace);
+    publish(board);
+    bus.serve(control, [&watch](EndCause cause) { watch.end(cause); });
+    if (!options.quiet) {
+        say("serving board \"" + control.name() + "\" as " + IHwTarn::descriptor +
+            " \"default\", process " + std::to_string(getpid()));
+    }
+
+    switch (watch.wait()) {
+        case EndCause::kSignal:
+            break;
+        case EndCause::kReplaced:
+            if (!options.quiet) say("another tarn-board took over");
+            break;
+        case EndCause::kBusGone:
+            throw Refusal(kNoBus, "the session bus went away");
+    }
+    return kEnded;
+}
+
+}  // namespace
+
+int runDaemon(const DaemonOptions& options) try {
+    // Whoever reads standard error may go away before the daemon does.
+    signal(SIGPIPE, SIG_IGN);
+    return serve(options);
+} catch (const Refusal& refusal) {
+    say(refusal.what());
+    return refusal.code();
+} catch (const bus::BusUnreachable& error) {
+    say(error.what());
+    return kNoBus;
+}
+
+}  // namespace tarn::simulator

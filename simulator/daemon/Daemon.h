@@ -1,0 +1,18 @@
+#pragma once
+
+#include "simulator/daemon/DaemonOptions.h"
+
+namespace tarn::simulator {
+
+enum DaemonExit : int {
+    kEnded = 0,          // by a signal, or by another that took over
+    kNotPublished = 1,   // the platform refused
+    kUnusable = 2,       // the command line or the board's description
+    kAlreadyServed = 3,  // somebody serves already
+    kNoBus = 4,          // there is no session bus, or it went away
+};
+
+/** Serves a board until it is told to end; what goes wrong is told on standard error. */
+int runDaemon(const DaemonOptions& options);
+
+}  // namespace tarn::simulator

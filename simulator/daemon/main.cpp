@@ -1,0 +1,24 @@
+#include <cstdio>
+#include <cstdlib>
+
+#include "simulator/daemon/Daemon.h"
+
+int main(int argc, char** argv) {
+    using namespace tarn::simulator;
+
+    int code = kEnded;
+    try {
+        const DaemonOptions options = parseDaemonOptions(argc, argv);
+        if (options.help) {
+            fputs(kDaemonHelp, stdout);
+        } else if (options.version) {
+            puts("tarn-board " TARN_BOARD_VERSION);
+        } else {
+            code = runDaemon(options);
+        }
+    } catch (const BadUsage& error) {
+        fprintf(stderr, "tarn-board: %s\n", error.what());
+        code = kUnusable;
+    }
+    return code;
+}
