@@ -2,7 +2,6 @@
 # Both install what is missing, build quietly and go. BUILD picks another build directory.
 BUILD ?= build
 CMAKE_FLAGS ?=
-NINJA = ninja -C $(BUILD) --quiet
 
 .PHONY: run test bench build configure packages format clean
 
@@ -13,9 +12,11 @@ test: build
 	@ctest --test-dir $(BUILD) --output-on-failure --no-tests=error --parallel 2 --timeout 600
 	@$(BUILD)/bin/wire_test --table
 
+bench: build
+	@$(BUILD)/bin/tarn_bench
+
 build: configure
-	@echo "building in $(BUILD)"
-	@NINJA_STATUS='[%f/%t] ' ninja -C $(BUILD) $(if $(CI),--quiet,)
+	@scripts/build $(BUILD)
 
 configure: packages
 	@[ -f $(BUILD)/build.ninja ] || { echo "configuring $(BUILD)"; cmake -S . -B $(BUILD) -G Ninja $(CMAKE_FLAGS) >$(BUILD).log 2>&1 || { cat $(BUILD).log >&2; exit 1; }; rm -f $(BUILD).log; }
