@@ -1,7 +1,5 @@
 #include "simulator/EventCallbacks.h"
 
-#include <hidl/HidlSupport.h>
-
 #include <utility>
 
 namespace tarn::simulator {
@@ -37,7 +35,7 @@ void EventCallbacks::add(int32_t pid, const Callback& callback) {
                 if (!callback->hwNotify_vec(event.type, 0, data).isDeadObject()) return;
                 if (const auto callbacks = self.lock()) callbacks->drop(pid, callback.get());
             });
-    const sp<Obituary> obituary = receiver.obituary;
+    const auto obituary = receiver.obituary;
     {
         std::lock_guard<std::mutex> guard(mLock);
         std::swap(mReceivers[pid], receiver);

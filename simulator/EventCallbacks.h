@@ -1,5 +1,6 @@
 #pragma once
 
+#include <hidl/HidlSupport.h>
 #include <utils/StrongPointer.h>
 #include <vendor/zunt/hwtarn/1.0/IHwTarnCallback.h>
 
@@ -38,7 +39,7 @@ class EventCallbacks : public std::enable_shared_from_this<EventCallbacks> {
 
     struct Receiver {
         Callback callback;
-        ::android::sp<Obituary> obituary;
+        ::android::sp<::android::hardware::hidl_death_recipient> obituary;
         std::unique_ptr<EventDispatcher> dispatcher;
     };
 

@@ -36,9 +36,7 @@ bool isKind(const FaultEffect& effect, Fault::Kind kind) {
 }  // namespace
 
 SimulatedBoard::SimulatedBoard(std::shared_ptr<const BoardModel> model)
-    : mBoard(std::move(model)),
-      mCallbacks(std::make_shared<EventCallbacks>()),
-      mDispatcher([callbacks = mCallbacks](const Event& event) { callbacks->deliver(event); }) {
+    : mBoard(std::move(model)), mCallbacks(std::make_shared<EventCallbacks>()) {
     switchOnDescribedFaults();
 }
 
@@ -56,7 +54,7 @@ Return<void> SimulatedBoard::hwInvoke(const hidl_string& request, hwInvoke_cb _h
     if (isKind(effect, Fault::Kind::kStatus)) {
         reply = statusReply(effect.answer->value);
     } else if (decoded) {
-        reply = mBoard.execute(*decoded, [this](Event event) { raiseEvent(std::move(event)); });
+        reply = mBoard.execute(*decoded, [this](const Event& event) { raiseEvent(event); });
     } else {
         reply = statusReply(-1);
     }

@@ -14,8 +14,8 @@ namespace tarn::simulator {
 
 /**
  * The hardware service of a simulated board. Commands are carried out on the caller's thread, a
- * delay or latency included; events are handed to all callbacks by a thread of the board's own, in
- * the order of raising.
+ * delay or latency included; events are handed to each callback by a thread of its own, in the
+ * order of raising.
  */
 class SimulatedBoard : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
   public:

@@ -20,5 +20,7 @@ int main(int argc, char** argv) {
         fprintf(stderr, "tarn-board: %s\n", error.what());
         code = kUnusable;
     }
-    return code;
+    fflush(stdout);
+    // Commands may still be carried out: no destructor may run underneath them.
+    std::quick_exit(code);
 }

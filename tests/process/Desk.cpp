@@ -8,6 +8,7 @@
 
 #include "host/binder/dbus/DBusCarrier.h"
 #include "host/binder/dbus/SessionBus.h"
+#include "tests/process/ProcessTest.h"
 
 namespace tarn::test {
 
@@ -73,6 +74,8 @@ status_t Desk::onTransact(uint32_t code, const Parcel& data, Parcel* reply, uint
             std::swap(mKept, dropped);
             return NO_ERROR;
         }
+        case MAKE:
+            return reply->writeStrongBinder(new Desk);
         case CALL: {
             Parcel request;
             Parcel answer;
@@ -114,7 +117,8 @@ status_t Desk::onTransact(uint32_t code, const Parcel& data, Parcel* reply, uint
             reply->writeInt32(counts.proxies);
             reply->writeInt32(counts.lent);
             reply->writeInt32(counts.holds);
-            return reply->writeInt32(counts.waiting);
+            reply->writeInt32(counts.waiting);
+            return reply->writeInt32(counts.descriptors);
         }
         case VANISH:
             _exit(0);
@@ -128,7 +132,8 @@ Counts countsHere() {
     if (carrier == nullptr) return {};
     const auto counts = carrier->counts();
     return {static_cast<int32_t>(counts.objects.remotes), static_cast<int32_t>(counts.objects.lent),
-            static_cast<int32_t>(counts.objects.holds), static_cast<int32_t>(counts.waitingCalls)};
+            static_cast<int32_t>(counts.objects.holds), static_cast<int32_t>(counts.waitingCalls),
+            static_cast<int32_t>(openDescriptors())};
 }
 
 status_t DeskClient::send(uint32_t code) const {
@@ -160,11 +165,19 @@ status_t DeskClient::keep(const sp<IBinder>& binder) const {
     return mDesk->transact(Desk::KEEP, data, &reply);
 }
 
-sp<IBinder> DeskClient::show() const {
+sp<IBinder> DeskClient::ask(uint32_t code) const {
     Parcel data;
     Parcel reply;
-    if (mDesk->transact(Desk::SHOW, data, &reply) != NO_ERROR) return nullptr;
+    if (mDesk->transact(code, data, &reply) != NO_ERROR) return nullptr;
     return reply.readStrongBinder();
+}
+
+sp<IBinder> DeskClient::show() const {
+    return ask(Desk::SHOW);
+}
+
+sp<IBinder> DeskClient::make() const {
+    return ask(Desk::MAKE);
 }
 
 status_t DeskClient::drop() const {
@@ -217,12 +230,13 @@ status_t DeskClient::vanish() const {
 Counts DeskClient::counts() const {
     Parcel data;
     Parcel reply;
-    if (mDesk->transact(Desk::COUNTS, data, &reply) != NO_ERROR) return {-1, -1, -1, -1};
+    if (mDesk->transact(Desk::COUNTS, data, &reply) != NO_ERROR) return {-1, -1, -1, -1, -1};
     Counts counts;
     counts.proxies = reply.readInt32();
     counts.lent = reply.readInt32();
     counts.holds = reply.readInt32();
     counts.waiting = reply.readInt32();
+    counts.descriptors = reply.readInt32();
     return counts;
 }
 

@@ -19,6 +19,7 @@ class Desk : public android::BBinder {
         KEEP,                           // binder: keeps it
         SHOW,                           // -> the binder kept
         DROP,                           // drops the binder kept
+        MAKE,                           // -> a new desk, to which the process keeps no reference
         CALL,                           // code: calls the binder kept -> its status and its int32
         NOTE,                           // value: notes it down
         NOTES,                          // -> the values noted, in order
@@ -26,7 +27,7 @@ class Desk : public android::BBinder {
         OPEN,                           // opens the gate
         INSIDE,                         // -> how many wait at the gate
         WHO,                            // -> the caller's pid and uid, and the desk's own pid
-        COUNTS,                         // -> proxies, objects lent, holds on them, calls that wait
+        COUNTS,                         // -> the counts of its process
         VANISH,                         // ends the process at once
     };
 
@@ -51,12 +52,13 @@ class Desk : public android::BBinder {
     bool mOpen = false;
 };
 
-/** What a process keeps of others' objects, and others of its. */
+/** What a process keeps of others' objects, and others of its; and what that costs it. */
 struct Counts {
     int32_t proxies = 0;
     int32_t lent = 0;
     int32_t holds = 0;
     int32_t waiting = 0;
+    int32_t descriptors = 0;
 };
 Counts countsHere();
 
@@ -72,6 +74,7 @@ class DeskClient {
     android::status_t keep(const android::sp<android::IBinder>& binder) const;
     android::sp<android::IBinder> show() const;
     android::status_t drop() const;
+    android::sp<android::IBinder> make() const;
     /** The int32 that the kept binder answered; or the failure. */
     int32_t call(uint32_t code) const;
     android::status_t note(int32_t value) const;
@@ -84,6 +87,7 @@ class DeskClient {
 
   private:
     android::status_t send(uint32_t code) const;
+    android::sp<android::IBinder> ask(uint32_t code) const;
 
     android::sp<android::IBinder> mDesk;
 };

@@ -101,6 +101,7 @@ class Hostile : public testing::Test {
         mProcess.readLine();
         mDesk = DeskClient(find(kDeskName));
         mNumber = mRogue.deskNumber(&mDeskOwner);
+        mDescriptors = mDesk.counts().descriptors;
     }
 
     // Everybody else is served as before, and nothing is left of what the rogue sent.
@@ -109,7 +110,8 @@ class Hostile : public testing::Test {
         EXPECT_EQ(NO_ERROR, mDesk.echo({1, 2, 3}, &back));
         EXPECT_TRUE(eventually([this] {
             const Counts counts = mDesk.counts();
-            return counts.proxies == 0 && counts.lent == 1 && counts.waiting == 0;
+            return counts.proxies == 0 && counts.lent == 1 && counts.waiting == 0 &&
+                   counts.descriptors == mDescriptors;
         }));
     }
 
@@ -146,6 +148,7 @@ class Hostile : public testing::Test {
     Child mProcess;
     DeskClient mDesk{nullptr};
     Rogue mRogue;
+    int32_t mDescriptors = 0;
     std::string mDeskOwner;
     uint64_t mNumber = 0;
 };
@@ -343,6 +346,20 @@ TEST_F(Hostile, AFloodOfOneWayCallsIsBounded) {
     // And the rogue is served again.
     note(5);
     EXPECT_TRUE(eventually([this] { return mDesk.notes().back() == 5; }));
+}
+
+TEST_F(Hostile, AFloodOfRefusedCallsIsGoneAtOnce) {
+    const Content large = {{{0, "", 7}, {28, mDeskOwner, mNumber}}, std::vector<uint8_t>(100000)};
+    for (int i = 0; i < 500; i++) {
+        mRogue.send(kTransact, [&](sdbus::Message& m) {
+            m << mNumber + 1 << uint32_t{Desk::KEEP} << uint32_t{0};
+            write(m, large);
+        });
+    }
+    mRogue.deskNumber();
+    const Counts counts = mDesk.counts();
+    EXPECT_EQ(0, counts.proxies);
+    EXPECT_EQ(mDescriptors, counts.descriptors);
 }
 
 TEST_F(Hostile, AFloodOfCallsWhoseAnswersNobodyReadsIsBounded) {

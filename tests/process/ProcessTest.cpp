@@ -154,6 +154,14 @@ void PrivateBus::kill() {
     mPid = -1;
 }
 
+void PrivateBus::pause() {
+    ::kill(mPid, SIGSTOP);
+}
+
+void PrivateBus::resume() {
+    ::kill(mPid, SIGCONT);
+}
+
 bool Child::add(const std::string& role, ChildBody body) {
     bodies()[role] = std::move(body);
     return true;
@@ -226,22 +234,30 @@ size_t runningThreads() {
 
 namespace {
 
+std::unique_ptr<PrivateBus> gBus;
+
 class BusEnvironment : public testing::Environment {
   public:
-    void SetUp() override { mBus = std::make_unique<PrivateBus>(); }
-    void TearDown() override { mBus.reset(); }
-
-  private:
-    std::unique_ptr<PrivateBus> mBus;
+    void SetUp() override { gBus = std::make_unique<PrivateBus>(); }
+    void TearDown() override { gBus.reset(); }
 };
 
 }  // namespace
+
+PrivateBus& theBus() {
+    return *gBus;
+}
 
 }  // namespace tarn::test
 
 // For the address sanitizer: the bus library loses a little memory when it cannot connect.
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:libsystemd.so";
+}
+
+// For the thread sanitizer: every child would sleep a second at its end.
+extern "C" const char* __tsan_default_options() {
+    return "atexit_sleep_ms=50";
 }
 
 int main(int argc, char** argv) {

@@ -31,11 +31,18 @@ class PrivateBus {
     /** Kills the bus, as a crash would. */
     void kill();
 
+    /** Lets the bus stand still, and go on again. */
+    void pause();
+    void resume();
+
   private:
     std::string mDirectory;
     std::string mAddress;
     pid_t mPid = -1;
 };
+
+/** The test program's bus. */
+PrivateBus& theBus();
 
 /** What a child process runs; the strings are what it was given. Returns its exit code. */
 using ChildBody = std::function<int(const std::vector<std::string>&)>;

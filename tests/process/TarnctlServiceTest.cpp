@@ -96,6 +96,40 @@ TEST(TarnctlService, ShowsEventsInEveryMonitor) {
     EXPECT_EQ("{\"data\":\"\",\"size\":0,\"type\":7}\n", second.restOfOutput());
 }
 
+TEST(TarnctlService, ShowsEventsWhileAnotherMonitorIsStopped) {
+    const BoardProcess board;
+    Program stopped(tarnctlProgram(), {"monitor"});
+    Program monitor(tarnctlProgram(), {"monitor"});
+    EXPECT_EQ("tarnctl: waiting for events", stopped.errorLine());
+    EXPECT_EQ("tarnctl: waiting for events", monitor.errorLine());
+    stopped.signal(SIGSTOP);
+    for (const std::string type : {"1", "2", "3"}) {
+        expectOutcome(runTarnctl({"board", "raise", type}), 0, "");
+        EXPECT_EQ("event 0x000" + type + " size 0", monitor.outputLine());
+    }
+    stopped.signal(SIGCONT);
+    for (const std::string type : {"1", "2", "3"}) {
+        EXPECT_EQ("event 0x000" + type + " size 0", stopped.outputLine());
+    }
+}
+
+TEST(TarnctlService, LeavesNothingBehindInTheDaemon) {
+    const BoardProcess board;
+    const auto watchOnce = [] {
+        Program monitor(tarnctlProgram(), {"monitor"});
+        EXPECT_EQ("tarnctl: waiting for events", monitor.errorLine());
+        monitor.signal(SIGKILL);
+        EXPECT_EQ(-SIGKILL, monitor.wait());
+    };
+    watchOnce();
+    const size_t descriptors = board.descriptors();
+    const size_t threads = board.threads();
+    for (int i = 0; i < 20; i++) watchOnce();
+    // Each monitor had a thread of its own; the pool may grow to its sixteen.
+    EXPECT_TRUE(eventually([&] { return board.threads() <= threads + 15; }));
+    EXPECT_EQ(descriptors, board.descriptors());
+}
+
 TEST(TarnctlService, DrivesTheServedBoard) {
     const BoardProcess board;
     expectOutcome(runTarnctl({"board", "set", "audio.volume", "0x20"}), 0, "");

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <fstream>
+#include <future>
 #include <map>
 #include <mutex>
 #include <random>
@@ -449,8 +450,46 @@ TEST_F(SimulatedBoardEvents, DropADeadCallbackAndReachTheOthers) {
     mControl.raiseEvent(1, {});
     mControl.raiseEvent(2, {});
     EXPECT_EQ(2U, alive->waitFor(2).size());
+    while (mBoard->callbackCount() == 2) std::this_thread::yield();
     EXPECT_EQ(1, dead->calls());
     EXPECT_EQ(1U, mBoard->callbackCount());
+}
+
+/** A callback that does not return until it is set free. */
+class Stuck : public Receiver {
+  public:
+    Return<void> hwNotify_vec(uint32_t, int32_t, const hidl_vec<uint8_t>&) override {
+        mFreed.wait();
+        return android::hardware::Void();
+    }
+    std::promise<void> free;
+
+  private:
+    const std::shared_future<void> mFreed = free.get_future();
+};
+
+TEST_F(SimulatedBoardEvents, ReachOthersWhileACallbackDoesNotReturn) {
+    const sp<Stuck> stuck(new Stuck);
+    const sp<Receiver> other(new Receiver);
+    mBoard->hwRegisterCallback(stuck, 1);
+    mBoard->hwRegisterCallback(other, 2);
+    mControl.raiseEvent(1, {});
+    mControl.raiseEvent(2, {});
+    EXPECT_EQ(2U, other->waitFor(2).size());
+    mBoard->hwRegisterCallback(other, 1);
+    stuck->free.set_value();
+}
+
+TEST_F(SimulatedBoardEvents, AreRefusedWhenTooManyBytesWait) {
+    const sp<Stuck> stuck(new Stuck);
+    mBoard->hwRegisterCallback(stuck, 1);
+    const Bytes megabyte(1 << 20);
+    // One may be on its way already.
+    for (int i = 0; i < 16; i++) mBoard->raiseEvent(Event{1, megabyte});
+    mBoard->raiseEvent(Event{1, megabyte});
+    EXPECT_THAT([&] { mControl.raiseEvent(1, megabyte); },
+                ThrowsMessage<std::invalid_argument>("too many events wait to be delivered"));
+    stuck->free.set_value();
 }
 
 TEST_F(SimulatedBoardEvents, LetACallbackSendCommandsAndRaiseEvents) {

@@ -6,6 +6,13 @@ namespace android::host::dbus {
 
 namespace {
 
+// What a proxy costs, about.
+constexpr size_t kObjectCost = 256;
+
+size_t sizeOf(const Call& call) {
+    return call.request.bytes.size() + call.request.objects.size() * kObjectCost;
+}
+
 class Errand : public IncomingCall {
   public:
     explicit Errand(std::function<void()> work) { errand = std::move(work); }
@@ -29,7 +36,7 @@ void Call::answer(status_t status, Payload reply) {
 
 bool CallQueue::admit(const Call& call) {
     Peer& caller = *call.caller;
-    const size_t size = call.request.bytes.size();
+    const size_t size = sizeOf(call);
     if (caller.waitingCalls >= kMaxWaitingCalls || caller.waitingBytes + size > kMaxWaitingBytes) {
         return false;
     }
@@ -82,7 +89,7 @@ std::unique_ptr<IncomingCall> CallQueue::take() {
     mReady.pop_front();
     if (const auto* call = dynamic_cast<Call*>(next.get()); call != nullptr) {
         call->caller->waitingCalls--;
-        call->caller->waitingBytes -= call->request.bytes.size();
+        call->caller->waitingBytes -= sizeOf(*call);
     }
     return next;
 }

@@ -29,6 +29,16 @@ constexpr uint32_t kDoNotQueue = 4;
 constexpr uint32_t kNowOwner = 1;
 constexpr uint32_t kAlreadyOwner = 4;
 
+// What a call's end on the link's thread must not destroy there.
+ObjectTable::Objects localObjectsOf(const Call& call) {
+    ObjectTable::Objects objects;
+    if (call.target != nullptr) objects.push_back(call.target);
+    for (const Payload::Object& object : call.request.objects) {
+        if (object.binder->localBinder() != nullptr) objects.push_back(object.binder);
+    }
+    return objects;
+}
+
 // The errors that say that there is no such process, or none any more.
 bool meansDeath(const std::string& error) {
     const std::string prefix = "org.freedesktop.DBus.Error.";
@@ -219,8 +229,7 @@ void DBusCarrier::onTransact(sdbus::MethodCall message, const std::shared_ptr<Pe
         mQueue.add(std::move(call));
         return;
     }
-    // The objects that came with it are let go on a thread that may wait.
-    mQueue.addErrand([refused = std::shared_ptr<Call>(std::move(call))] {});
+    discard(localObjectsOf(*call));
 }
 
 void DBusCarrier::onRelease(sdbus::MethodCall& call, Peer& caller) {
@@ -343,10 +352,19 @@ void DBusCarrier::release(int32_t handle) {
     giveBack(mObjects.release(handle));
 }
 
-// A destructor may do anything; so it runs on a pool thread.
+// The destructor of an object may do anything, so the last reference goes on a pool thread. Each
+// object waits for it at most once, however often it was sent.
 void DBusCarrier::discard(ObjectTable::Objects objects) {
     if (objects.empty()) return;
-    mQueue.addErrand([dropped = std::make_shared<ObjectTable::Objects>(std::move(objects))] {});
+    std::lock_guard<std::mutex> lock(mLock);
+    if (mDiscarded.empty()) {
+        mQueue.addErrand([this] {
+            std::set<sp<IBinder>> discarded;
+            std::lock_guard<std::mutex> guard(mLock);
+            discarded.swap(mDiscarded);
+        });
+    }
+    for (sp<IBinder>& object : objects) mDiscarded.insert(std::move(object));
 }
 
 // Other processes.
@@ -369,16 +387,16 @@ std::shared_ptr<Peer> DBusCarrier::peerNamed(const std::string& uniqueName) {
     ask(
             "GetConnectionUnixUser", *peer,
             [peer](sdbus::MethodReply& reply) { reply >> peer->uid; },
-            [this, peer](bool answered) {
+            [this, peer](const sdbus::Error* error) {
                 identified(*peer);
-                if (!answered) bury(peer);
+                if (error != nullptr && meansDeath(error->getName())) bury(peer);
             });
     return peer;
 }
 
 void DBusCarrier::ask(const char* question, const Peer& peer,
                       std::function<void(sdbus::MethodReply&)> onReply,
-                      std::function<void(bool)> then) {
+                      std::function<void(const sdbus::Error*)> then) {
     try {
         sdbus::MethodCall call = mLink.newCall(*mBus, kBusName, question);
         call << peer.name;
@@ -431,7 +449,9 @@ void DBusCarrier::bury(const std::shared_ptr<Peer>& peer) {
         if (found != mPeers.end() && found->second == peer) mPeers.erase(found);
     }
     ObjectTable::Objects released;
-    for (const int32_t handle : mObjects.bury(*peer, &released)) {
+    const std::vector<int32_t> orphans = mObjects.bury(*peer, &released);
+    if (!orphans.empty()) startPoolForCalls();
+    for (const int32_t handle : orphans) {
         mQueue.addErrand([this, handle] {
             const sp<IBinder> proxy = ProcessState::self()->getStrongProxyForHandle(handle);
             mObjects.letGo(handle);
@@ -465,21 +485,20 @@ void DBusCarrier::unwatchDeath(int32_t /*handle*/) {}
 
 // Names.
 
-// Calls the bus itself; `then` is told on the link's thread whether it answered with a reply that
-// `onReply` could read. False if the call cannot be sent.
+// Calls the bus itself; `then` is told on the link's thread of the error, if there was one. False
+// if the call cannot be sent.
 bool DBusCarrier::callBus(const sdbus::MethodCall& call, std::chrono::microseconds timeout,
                           std::function<void(sdbus::MethodReply&)> onReply,
-                          std::function<void(bool)> then) {
+                          std::function<void(const sdbus::Error*)> then) {
     return mLink.call(mBus, call, timeout,
                       [onReply = std::move(onReply), then = std::move(then)](
                               sdbus::MethodReply& reply, const sdbus::Error* error) {
-                          bool answered = error == nullptr;
                           try {
-                              if (answered) onReply(reply);
-                          } catch (const sdbus::Error&) {
-                              answered = false;
+                              if (error == nullptr) onReply(reply);
+                              if (then) then(error);
+                          } catch (const sdbus::Error& malformed) {
+                              if (then) then(&malformed);
                           }
-                          if (then) then(answered);
                       });
 }
 
@@ -488,7 +507,9 @@ bool DBusCarrier::callBusAndWait(const sdbus::MethodCall& call,
     auto promise = std::make_shared<std::promise<bool>>();
     std::future<bool> answered = promise->get_future();
     return callBus(call, kPromptly, std::move(onReply),
-                   [promise](bool done) { promise->set_value(done); }) &&
+                   [promise](const sdbus::Error* error) {
+                       promise->set_value(error == nullptr);
+                   }) &&
            answered.get();
 }
 
@@ -511,6 +532,9 @@ status_t DBusCarrier::publish(const String16& name, const sp<IBinder>& service) 
         if (answered && outcome != kNowOwner && outcome != kAlreadyOwner) {
             ALOGE("Service '%s' belongs to another process", name8.c_str());
             return PERMISSION_DENIED;
+        }
+        if (!answered && !mLink.isBroken()) {
+            ALOGW("Service '%s' is not published: the bus does not grant it", name8.c_str());
         }
     } catch (const sdbus::Error& error) {
         ALOGE("Service '%s' cannot be published: %s", name8.c_str(), error.what());
@@ -552,7 +576,8 @@ sp<IBinder> DBusCarrier::find(const String16& name) {
                            [this, promise](sdbus::MethodReply& reply, const sdbus::Error* error) {
                                promise->set_value(error == nullptr ? onFound(reply) : nullptr);
                            });
-        if (sent) return found.get();
+        // What comes later is let go again.
+        if (sent && found.wait_for(kPromptly) == std::future_status::ready) return found.get();
     } catch (const sdbus::Error& error) {
         ALOGE("Service '%s' cannot be looked for: %s", name8.c_str(), error.what());
     }

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -80,7 +81,7 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
     std::shared_ptr<Peer> peerNamed(const std::string& uniqueName);
     void ask(const char* question, const Peer& peer,
              std::function<void(sdbus::MethodReply&)> onReply,
-             std::function<void(bool)> then = nullptr);
+             std::function<void(const sdbus::Error*)> then = nullptr);
     void identified(Peer& peer);
     void bury(const std::shared_ptr<Peer>& peer);
 
@@ -96,7 +97,8 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
     void discard(ObjectTable::Objects objects);
 
     bool callBus(const sdbus::MethodCall& call, std::chrono::microseconds timeout,
-                 std::function<void(sdbus::MethodReply&)> onReply, std::function<void(bool)> then);
+                 std::function<void(sdbus::MethodReply&)> onReply,
+                 std::function<void(const sdbus::Error*)> then);
     bool callBusAndWait(const sdbus::MethodCall& call,
                         std::function<void(sdbus::MethodReply&)> onReply);
 
@@ -105,9 +107,10 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
     ObjectTable mObjects;
     CallQueue mQueue;
 
-    std::mutex mLock;  // guards mServices and mPeers
+    std::mutex mLock;  // guards what follows
     std::map<std::string, sp<IBinder>> mServices;
-    std::map<std::string, std::shared_ptr<Peer>> mPeers;  // only the link's thread changes it
+    std::map<std::string, std::shared_ptr<Peer>> mPeers;
+    std::set<sp<IBinder>> mDiscarded;
 };
 
 }  // namespace android::host::dbus
