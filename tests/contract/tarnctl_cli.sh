@@ -78,10 +78,8 @@ logLevel: WARN' status
 
 for signal in INT TERM; do
     rm -f stderr
-    # A shell starts what it puts into the background with SIGINT ignored; python3 mends that.
-    python3 -c 'import os, signal, sys
-signal.signal(signal.SIGINT, signal.SIG_DFL)
-os.execv(sys.argv[1], sys.argv[1:])' "$tarnctl" monitor >events 2>stderr &
+    # A shell starts what it puts into the background with SIGINT ignored; env mends that.
+    env --default-signal=INT "$tarnctl" monitor >events 2>stderr &
     monitor=$!
     for _ in $(seq 600); do
         grep -qs 'waiting for events' stderr && break
