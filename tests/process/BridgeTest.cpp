@@ -242,8 +242,10 @@ TEST_F(Bridge, SurvivesItsServicesRestartsUnderLoad) {
             threads = runningThreads();
         }
     }
-    EXPECT_LE(openDescriptors(), descriptors);
-    EXPECT_LE(runningThreads(), threads);
+    EXPECT_TRUE(eventually([&] { return openDescriptors() <= descriptors; }))
+            << openDescriptors() << " after " << descriptors;
+    EXPECT_TRUE(eventually([&] { return runningThreads() <= threads; }))
+            << runningThreads() << " after " << threads;
     EXPECT_LE(countsHere().proxies, 2);
     stop = true;
     for (std::thread& caller : callers) caller.join();

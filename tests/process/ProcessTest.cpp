@@ -17,7 +17,6 @@
 #include <memory>
 #include <stdexcept>
 #include <system_error>
-#include <thread>
 
 extern char** environ;
 
@@ -110,15 +109,6 @@ constexpr char kBusConfiguration[] = R"(<!DOCTYPE busconfig PUBLIC
 )";
 
 }  // namespace
-
-bool eventually(const std::function<bool()>& condition) {
-    const auto deadline = std::chrono::steady_clock::now() + kPatience;
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > deadline) return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    }
-    return true;
-}
 
 PrivateBus::PrivateBus() {
     std::string pattern = (std::filesystem::temp_directory_path() / "tarn-bus-XXXXXX").string();

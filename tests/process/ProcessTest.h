@@ -7,13 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/Eventually.h"
+
 namespace tarn::test {
-
-/** How long a test waits for what must happen before it gives up. */
-inline constexpr std::chrono::seconds kPatience(20);
-
-/** Waits until a condition holds; false if it does not within kPatience. */
-bool eventually(const std::function<bool()>& condition);
 
 /**
  * A session bus of its own, to which DBUS_SESSION_BUS_ADDRESS leads from then on. Every test

@@ -127,7 +127,9 @@ TEST(TarnctlService, LeavesNothingBehindInTheDaemon) {
     for (int i = 0; i < 20; i++) watchOnce();
     // Each monitor had a thread of its own; the pool may grow to its sixteen.
     EXPECT_TRUE(eventually([&] { return board.threads() <= threads + 15; }));
-    EXPECT_EQ(descriptors, board.descriptors());
+    // The first monitor's may have been counted before the daemon heard of its death.
+    EXPECT_TRUE(eventually([&] { return board.descriptors() <= descriptors; }))
+            << board.descriptors() << " after " << descriptors;
 }
 
 TEST(TarnctlService, DrivesTheServedBoard) {

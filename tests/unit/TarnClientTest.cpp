@@ -6,12 +6,12 @@
 #include <unistd.h>
 
 #include <atomic>
-#include <chrono>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "host/binder/HostServiceManager.h"
+#include "tests/support/Eventually.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/RelayBinder.h"
 
@@ -25,7 +25,6 @@ using android::sp;
 using android::status_t;
 using android::String16;
 using android::TarnClient;
-using namespace std::chrono_literals;
 using namespace tarn::test;
 using testing::Contains;
 using testing::ElementsAre;
@@ -121,11 +120,12 @@ TEST_F(TarnClientTest, WaitsUntilTheServiceIsPublished) {
         client->connect();
         connected = true;
     });
-    std::this_thread::sleep_for(200ms);
+    EXPECT_TRUE(eventually([&] {
+        return testing::Value(log.messages(), Contains("TarnService not published..."));
+    }));
     EXPECT_FALSE(connected);
     Published published;
     thread.join();
-    EXPECT_THAT(log.messages(), Contains("TarnService not published..."));
     for (const LogLine& line : log.lines()) {
         if (line.message == "TarnService not published...") {
             EXPECT_EQ(line.function, "getTarnService");
