@@ -13,6 +13,7 @@
 
 #include "Carrier.h"
 #include "ParcelObjectTable.h"
+#include "ServingGate.h"
 
 namespace android {
 
@@ -301,14 +302,17 @@ status_t IPCThreadState::getAndExecuteCommand() {
     }
     pthread_mutex_unlock(&mProcess->mThreadCountLock);
 
-    if (call->errand) {
-        call->errand();
-    } else {
-        tIncoming = call.get();
-        executeCommand(static_cast<int32_t>(call->code));
-        tIncoming = nullptr;
+    {
+        const host::ServingGate gate;
+        if (call->errand) {
+            call->errand();
+        } else {
+            tIncoming = call.get();
+            executeCommand(static_cast<int32_t>(call->code));
+            tIncoming = nullptr;
+        }
+        call.reset();
     }
-    call.reset();
 
     pthread_mutex_lock(&mProcess->mThreadCountLock);
     mProcess->mExecutingThreadsCount--;

@@ -14,6 +14,7 @@
 #include <thread>
 
 #include "Carrier.h"
+#include "ServingGate.h"
 
 namespace android {
 
@@ -132,7 +133,9 @@ void ProcessState::expungeHandle(int32_t handle, IBinder* binder) {
 }
 
 void ProcessState::startThreadPool() {
-    if (!__atomic_exchange_n(&mThreadPoolStarted, true, __ATOMIC_ACQ_REL)) spawnPooledThread(true);
+    if (__atomic_exchange_n(&mThreadPoolStarted, true, __ATOMIC_ACQ_REL)) return;
+    host::ServingGate::closeAtExit();
+    spawnPooledThread(true);
 }
 
 void ProcessState::spawnPooledThread(bool isMain) {

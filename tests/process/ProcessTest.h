@@ -83,6 +83,9 @@ int serveUntilClosed();
 size_t openDescriptors();
 size_t runningThreads();
 
+/** By how many threads a process's pool may grow with its load. */
+inline constexpr size_t kPoolGrowth = 15;
+
 /** CHILD(role) { ... } defines what a child in that role runs; `arguments` is what it was given. */
 #define CHILD(role)                                                                         \
     static int child_##role(const std::vector<std::string>& arguments);                     \

@@ -129,14 +129,13 @@ TEST(Restart, LeavesNothingBehindAndEveryClientAtWork) {
                         << "a client does not work after restart " << round;
             }
             EXPECT_TRUE(commandWorks());
-            // The pool has grown to what the load needs by now.
-            if (round == kRestarts / 2) threads = runningThreads();
+            if (round == 0) threads = runningThreads();
             if (round == kRestarts) break;
             service->kill();
             service = std::make_unique<Child>("service");
             service->readLine();
         }
-        EXPECT_LE(runningThreads(), threads + 1);
+        EXPECT_LE(runningThreads(), threads + kPoolGrowth);
         for (const auto& client : clients) {
             EXPECT_TRUE(eventually([&] { return client->deaths() == kRestarts; }))
                     << client->deaths();

@@ -125,8 +125,8 @@ TEST(TarnctlService, LeavesNothingBehindInTheDaemon) {
     const size_t descriptors = board.descriptors();
     const size_t threads = board.threads();
     for (int i = 0; i < 20; i++) watchOnce();
-    // Each monitor had a thread of its own; the pool may grow to its sixteen.
-    EXPECT_TRUE(eventually([&] { return board.threads() <= threads + 15; }));
+    // Each monitor had a thread of its own.
+    EXPECT_TRUE(eventually([&] { return board.threads() <= threads + kPoolGrowth; }));
     // The first monitor's may have been counted before the daemon heard of its death.
     EXPECT_TRUE(eventually([&] { return board.descriptors() <= descriptors; }))
             << board.descriptors() << " after " << descriptors;
