@@ -567,6 +567,42 @@ TEST(Carrier, ServesOnTheJoinedThreadAlone) {
     EXPECT_TRUE(eventually([&] { return desk.notes().size() == 2; }));
 }
 
+// A process that ends while it serves a call.
+class Dawdler : public BBinder {
+    android::status_t onTransact(uint32_t, const Parcel&, Parcel*, uint32_t) override {
+        tell("serving");
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        tell("served");
+        return NO_ERROR;
+    }
+};
+
+struct Epilogue {
+    ~Epilogue() { tell("destroyed"); }
+};
+
+CHILD(leaving) {
+    static const Epilogue epilogue;
+    if (publish(arguments[0], new Dawdler) != NO_ERROR) return 1;
+    return serveUntilClosed();
+}
+
+TEST(Carrier, ServesNoCallWhileStaticObjectsAreDestroyed) {
+    Child leaving("leaving", {"tarn.test.dawdler"});
+    EXPECT_EQ("ready", leaving.readLine());
+    const sp<IBinder> dawdler = find("tarn.test.dawdler");
+    ASSERT_NE(nullptr, dawdler);
+    Parcel data;
+    for (int i = 0; i < 2; i++) {
+        EXPECT_EQ(NO_ERROR, dawdler->transact(IBinder::FIRST_CALL_TRANSACTION, data, nullptr,
+                                              IBinder::FLAG_ONEWAY));
+    }
+    EXPECT_EQ("serving", leaving.readLine());
+    leaving.writeLine("end");
+    EXPECT_EQ("served", leaving.readLine());
+    EXPECT_EQ("destroyed", leaving.readLine());
+}
+
 // What is left when the bus goes away.
 CHILD(orphan) {
     PrivateBus bus;
