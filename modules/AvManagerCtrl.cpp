@@ -293,8 +293,8 @@ bool AvManagerCtrl::getMoveCam() {
     return mTarnMgr->exeCmdSet_Bool(CMD_AV_GET_MOVE_CAM);
 }
 
-int AvManagerCtrl::transferDoaData(int direction) {
-    return mTarnMgr->exeCmdSet_Int(CMD_AV_TRANSFER_DOA_DATA, direction);
+int AvManagerCtrl::transferDoaData(int data) {
+    return mTarnMgr->exeCmdSet_Int(CMD_AV_TRANSFER_DOA_DATA, data);
 }
 
 int AvManagerCtrl::setCameraPtzMode(int mode) {

@@ -69,7 +69,7 @@ class AvManagerCtrl : public IAvManagerCtrl {
     bool setCameraSpeakerTrackingMode(bool on) override;
     int setMoveCam(bool on) override;
     bool getMoveCam() override;
-    int transferDoaData(int direction) override;
+    int transferDoaData(int data) override;
     int setCameraPtzMode(int mode) override;
     int getCameraPtzMode() override;
     unsigned char* getDspTestResult() override;

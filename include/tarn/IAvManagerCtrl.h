@@ -56,7 +56,8 @@ class IAvManagerCtrl : public virtual RefBase {
     virtual int release() = 0;
 
     /**
-     * Sends metadata for the HDMI output.
+     * Sends metadata for the HDMI output: the header and an array of bytes. A negative length sends
+     * no array at all; otherwise null data sends the array's length as -1, or as 0 when it is 0.
      *
      * @param header must not be null.
      * @param data   length bytes; not written to. May be null when length is 0.
@@ -233,7 +234,7 @@ class IAvManagerCtrl : public virtual RefBase {
     virtual bool getMoveCam() = 0;
 
     /** Passes DOA data on, a service-defined number. */
-    virtual int transferDoaData(int direction) = 0;
+    virtual int transferDoaData(int data) = 0;
 
     /** Sets the camera's pan-tilt-zoom mode. */
     virtual int setCameraPtzMode(int mode) = 0;

@@ -19,7 +19,10 @@ struct SoundScreenAngle {
  */
 class ISoundScreenAngleCtrl : public virtual RefBase {
   public:
-    /** Sets both angles. Mind the sense: true when the service's status word is not 0. */
+    /**
+     * Sets both angles. Mind the sense: true when the status is not 0, so also when the command
+     * failed.
+     */
     virtual bool setSoundScreenAngle(int first, int second) = 0;
 
     /** Returns both angles, zeros when the command failed. */

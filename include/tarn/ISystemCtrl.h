@@ -75,16 +75,25 @@ class ISystemCtrl : public virtual RefBase {
     /** Returns the system setting word. */
     virtual int getSystemSetting() = 0;
 
-    /** Replaces the boot logo by the file at path (UTF-8, on the device, not null). */
+    /**
+     * Replaces the boot logo by the file at path (UTF-8, on the device, not null); true when the
+     * service says so.
+     */
     virtual bool replaceBootLogo(char* path) = 0;
 
-    /** Brings the original boot logo back. */
+    /** Brings the original boot logo back; true when the service says so. */
     virtual bool resetBootLogo() = 0;
 
-    /** Replaces the boot animation by the file at path (UTF-8, on the device, not null). */
+    /**
+     * Replaces the boot animation by the file at path (UTF-8, on the device, not null); true when
+     * the service says so.
+     */
     virtual bool replaceBootAnimation(char* path) = 0;
 
-    /** Replaces the boot video by the file at path (UTF-8, on the device, not null). */
+    /**
+     * Replaces the boot video by the file at path (UTF-8, on the device, not null); true when the
+     * service says so.
+     */
     virtual bool replaceBootVideo(char* path) = 0;
 
     /** Returns the CPU temperature as text; empty when the command failed. */
@@ -96,16 +105,16 @@ class ISystemCtrl : public virtual RefBase {
     /** Marks the compatibility test suite as running or not. */
     virtual int setCtsRunning(bool running) = 0;
 
-    /** Switches the debug UART; the number is passed on unchanged. */
+    /** Switches the debug UART, a number passed on unchanged; true when the service says so. */
     virtual bool setDebugUartSwitch(int state) = 0;
 
     /** Returns the switch state of the debug UART. */
     virtual int getDebugUartSwitch() = 0;
 
-    /** Sets the power-on alarm time, in the service's unit. */
+    /** Sets the power-on alarm time, in the service's unit; true when the service says so. */
     virtual bool setAlarmTime(int time) = 0;
 
-    /** Selects the IR input port. */
+    /** Selects the IR input port; true when the service says so. */
     virtual bool setIrInPort(int port) = 0;
 
     /** Returns the IR input port. */
@@ -132,7 +141,10 @@ class ISystemCtrl : public virtual RefBase {
     /** Returns the delay of the presence sensor's wake-up, in the service's unit. */
     virtual int getPirWakeupDelay() = 0;
 
-    /** Sets the delay of the presence sensor's wake-up, in the service's unit. */
+    /**
+     * Sets the delay of the presence sensor's wake-up, in the service's unit; true when the service
+     * says so.
+     */
     virtual bool setPirWakeupDelay(int delay) = 0;
 
     /** Tells whether the remote control wakes the board. */
@@ -159,13 +171,13 @@ class ISystemCtrl : public virtual RefBase {
     /** Tells whether the USB power is on. */
     virtual bool getUsbPowerEnableSta() = 0;
 
-    /** Suspends USB. */
+    /** Suspends USB; true when the service says so. */
     virtual bool setUsbSuspend() = 0;
 
-    /** Resumes USB. */
+    /** Resumes USB; true when the service says so. */
     virtual bool setUsbResume() = 0;
 
-    /** Brings the original boot animation back. */
+    /** Brings the original boot animation back; true when the service says so. */
     virtual bool resetBootAnimation() = 0;
 
     /** Shows or hides the logo; true unless the service answers 0. */
@@ -213,7 +225,7 @@ class ISystemCtrl : public virtual RefBase {
     /** Tells whether the boot logo is on. */
     virtual bool getBootLogoEnable() = 0;
 
-    /** Brings the original boot video back. */
+    /** Brings the original boot video back; true when the service says so. */
     virtual bool resetBootVideo() = 0;
 
     /** Sets the transmitter of the HDMI switch. */
@@ -237,16 +249,22 @@ class ISystemCtrl : public virtual RefBase {
     /** Selects the custom boot medium that is used; true when the service says so. */
     virtual bool setCustomBootMediaType(EnumCustomerBootMediaType type) = 0;
 
-    /** Keeps the CPU in performance mode; hold is in the service's unit. */
+    /**
+     * Keeps the CPU in performance mode; true when the service says so. The unit of hold is the
+     * service's.
+     */
     virtual bool keepCpuInPerformance(int hold) = 0;
 
-    /** Ends the CPU's performance mode. */
+    /** Ends the CPU's performance mode; true when the service says so. */
     virtual bool cancelCpuInPerformance() = 0;
 
-    /** Keeps the GPU in performance mode; hold is in the service's unit. */
+    /**
+     * Keeps the GPU in performance mode; true when the service says so. The unit of hold is the
+     * service's.
+     */
     virtual bool keepGpuInPerformance(int hold) = 0;
 
-    /** Ends the GPU's performance mode. */
+    /** Ends the GPU's performance mode; true when the service says so. */
     virtual bool cancelGpuInPerformance() = 0;
 
     /** Returns the refresh-rate choice, 0 to 2; 0 when the command failed or gave another. */

@@ -2,9 +2,8 @@
 #include <tarn/TarnLog.h>
 
 #include "modules/AiNoiseCtrl.h"
-#include "tests/support/LogCapture.h"
 #include "tests/support/LogMatchers.h"
-#include "tests/support/RecordingManager.h"
+#include "tests/support/LogWatchingManager.h"
 
 using android::sp;
 using testing::ElementsAre;
@@ -16,9 +15,9 @@ constexpr const char* kTag = "Zunt@AiNoiseCtrl";
 
 class AiNoiseCtrl : public testing::Test {
   protected:
-    sp<RecordingManager> manager = new RecordingManager;
+    sp<LogWatchingManager> manager = new LogWatchingManager;
     sp<android::AiNoiseCtrl> noise = new android::AiNoiseCtrl(manager);
-    LogCapture log;
+    const LogCapture& log = manager->log;
 };
 
 TEST_F(AiNoiseCtrl, SetsAFloatAndReturnsFalseWhenTheServiceAnswers) {
@@ -74,6 +73,15 @@ TEST_F(AiNoiseCtrl, LogsAnExchangeThatFailed) {
                     Logged(TARN_LOG_ERROR, kTag, "getAiNoise", "[getAiNoise]  error, ret = -1\n"),
                     Logged(TARN_LOG_DEBUG, kTag, "setAiNoise", "[setAiNoise] ++ \n"),
                     Logged(TARN_LOG_ERROR, kTag, "setAiNoise", "[setAiNoise]  error, ret = -1\n")));
+}
+
+TEST_F(AiNoiseCtrl, LogsItsEntriesBeforeTheCommands) {
+    manager->answer(Reply(0).f32(0.25f));
+    noise->getAiNoise();
+    EXPECT_EQ(manager->linesBefore, 1u);
+    manager->log.clear();
+    noise->setAiNoise(0.5f);
+    EXPECT_EQ(manager->linesBefore, 1u);
 }
 
 }  // namespace

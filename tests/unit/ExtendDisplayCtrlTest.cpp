@@ -98,6 +98,14 @@ TEST_F(ExtendDisplayCtrl, ReadsANegativeCountAsEmpty) {
 TEST_F(ExtendDisplayCtrl, LogsOnlyReadersThatFail) {
     manager->answer(words({-1}));
     display->getTypecOutHDCPStatus();
+    display->setTypecOutHDCPStatus(1);
+    display->getExtendDisplayHDCPStatus();
+    display->setExtendDisplayHDCPStatus(1);
+    display->setExtendDisplayEnabled(1);
+    display->setExtendDisplayEnabled_p2(1, 1);
+    display->getExtendDisplayEnabled();
+    display->setHdmiInOutEnabled(true);
+    display->getHdmiInOutEnabled();
     display->setExtendDisplayResolution(String16("1920x1080"));
     display->setExtendDisplayColorFormat(String16("RGB"));
 
@@ -108,5 +116,6 @@ TEST_F(ExtendDisplayCtrl, LogsOnlyReadersThatFail) {
     display->getExtendDisplayUserResolutionList();
     display->getExtendDisplaySuportColorFormatList();
 
+    EXPECT_EQ(manager->requests().size(), 15u);
     EXPECT_TRUE(log.lines().empty());
 }

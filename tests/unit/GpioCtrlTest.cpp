@@ -66,8 +66,12 @@ TEST_F(GpioCtrl, LogsNothingWhileItHasAManager) {
     manager->answer(words({-1}));
     TARN_BOOL bit = 0;
     pins->setGpioDirInput(1);
+    pins->setGpioDirOutput(1);
+    pins->getGpioDirBit(1, &bit);
     pins->writeGpioBit(1, 1);
     pins->readGpioBit(1, &bit);
+    pins->readGpioOutBit(1, &bit);
+    EXPECT_EQ(manager->requests().size(), 6u);
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 

@@ -2,9 +2,8 @@
 #include <tarn/TarnLog.h>
 
 #include "modules/LightEffectCtrl.h"
-#include "tests/support/LogCapture.h"
 #include "tests/support/LogMatchers.h"
-#include "tests/support/RecordingManager.h"
+#include "tests/support/LogWatchingManager.h"
 
 using android::_EnumLightDeviceType;
 using android::_EnumLightEffectMode;
@@ -21,7 +20,7 @@ class LightEffectCtrl : public testing::Test {
                                           static_cast<_EnumLightEffectMode>(mode));
     }
 
-    sp<RecordingManager> manager = new RecordingManager;
+    sp<LogWatchingManager> manager = new LogWatchingManager;
     sp<android::LightEffectCtrl> lights = new android::LightEffectCtrl(manager);
 };
 
@@ -38,11 +37,11 @@ TEST_F(LightEffectCtrl, ReturnsFalseWhenTheServiceIsDeadOrSaysNo) {
     EXPECT_FALSE(setMode(1, 2));
 }
 
-TEST_F(LightEffectCtrl, LogsItsEntryOnly) {
-    LogCapture log;
+TEST_F(LightEffectCtrl, LogsItsEntryBeforeTheCommandAndNothingElse) {
     manager->answer(words({-1}));
     setMode(1, 2);
-    EXPECT_THAT(log.lines(),
+    EXPECT_EQ(manager->linesBefore, 1u);
+    EXPECT_THAT(manager->log.lines(),
                 ElementsAre(Logged(TARN_LOG_DEBUG, "Zunt@LightEffectCtrl", "setLightEffectMode",
                                    "[setLightEffectMode] ++ \n")));
 }

@@ -1,11 +1,16 @@
 #include <gtest/gtest.h>
 #include <tarn/TarnLog.h>
 
+#include <string>
+#include <vector>
+
+#include "modules/FirmwareRecords.h"
 #include "modules/MicrophoneCtrl.h"
 #include "tests/support/LogMatchers.h"
 #include "tests/support/LogWatchingManager.h"
 
 using android::EntityMicrophone;
+using android::Parcel;
 using android::sp;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -97,6 +102,31 @@ TEST_F(MicrophoneCtrl, DescribesAMicrophoneWithElevenFieldsInTheirOrder) {
     EXPECT_EQ(microphone.text3, "d");
     EXPECT_EQ(microphone.text4, "e");
     EXPECT_TRUE(microphone.flag2);
+}
+
+TEST_F(MicrophoneCtrl, ReadsAMicrophonesElevenFieldsInTheirOrder) {
+    for (const int raised : {0, 1, 2}) {
+        const auto flag = [raised](int index) { return index == raised ? "01000000" : "00000000"; };
+        const Bytes bytes =
+                hex(std::string("01000000 feffffff 03000000") + "01000000 61000000" + flag(0) +
+                    "02000000 e9007a00 00000000" + flag(1) + "00000000 00000000" +
+                    "03000000 63006300 63000000" + "04000000 64006400 64006400 00000000" + flag(2));
+        Parcel parcel;
+        parcel.setData(bytes.data(), bytes.size());
+        const auto microphone = android::readDevice<EntityMicrophone>(parcel);
+        EXPECT_EQ(microphone.value0, 1);
+        EXPECT_EQ(microphone.value1, -2);
+        EXPECT_EQ(microphone.value2, 3);
+        EXPECT_EQ(microphone.text0, "a");
+        EXPECT_EQ(microphone.flag0, raised == 0);
+        EXPECT_EQ(microphone.text1, "\xc3\xa9z");
+        EXPECT_EQ(microphone.flag1, raised == 1);
+        EXPECT_EQ(microphone.text2, "");
+        EXPECT_EQ(microphone.text3, "ccc");
+        EXPECT_EQ(microphone.text4, "dddd");
+        EXPECT_EQ(microphone.flag2, raised == 2);
+        EXPECT_EQ(parcel.dataAvail(), 0u);
+    }
 }
 
 }  // namespace

@@ -141,11 +141,59 @@ TEST_F(PQCtrl, ReadsEveryStatusButZeroAsAnAspectModeThatWasSet) {
 }
 
 TEST_F(PQCtrl, LogsNothingElse) {
+    manager->answer(words({-1}));
+    const auto source = static_cast<_TarnEnumInputSourceId_>(1);
     pq->getDCREnable();
-    pq->setBrightness(5);
+    pq->getDcrMaxBacklight();
+    pq->getDcrMinBacklight();
+    pq->getDcrStepTime();
+    pq->getDcrStepValue();
+    pq->setDCREnable(true);
+    pq->setDcrMaxBacklight(1);
+    pq->setDcrMinBacklight(1);
+    pq->setDcrStepTime(1);
+    pq->setDcrStepValue(1);
+    pq->getDBCEnable();
+    pq->setDBCEnable(true);
+    pq->getPQRGain();
+    pq->setPQRGain(1);
+    pq->getPQGGain();
+    pq->setPQGGain(1);
+    pq->getPQBGain();
+    pq->setPQBGain(1);
+    pq->getColorTemp();
+    pq->setColorTemp(1);
+    pq->getSaturation();
+    pq->setSaturation(1);
+    pq->getSharpness();
+    pq->setSharpness(1);
+    pq->getContrast();
+    pq->setContrast(1);
+    pq->getHue();
+    pq->setHue(1);
+    pq->getPictureMode();
+    pq->setPictureMode(1);
+    pq->getGammaMode();
+    pq->setGammaMode(1);
+    pq->getBrightness();
+    pq->setBrightness(1);
+    pq->getPQRGainWithoutSave();
+    pq->setPQRGainWithoutSave(1);
+    pq->getPQGGainWithoutSave();
+    pq->setPQGGainWithoutSave(1);
+    pq->getPQBGainWithoutSave();
+    pq->setPQBGainWithoutSave(1);
     pq->setPresetColorTempMode(1, 2, 3, 4, 5);
-    pq->getHDCPVersion(static_cast<_TarnEnumInputSourceId_>(1));
+    pq->resetWhiteBalance();
+    pq->getVideoDisplayZoneTilingEnable();
+    pq->setVideoDisplayZoneTilingEnable(1);
+    pq->getVideoDisplayZoneCompEnable();
+    pq->setVideoDisplayZoneCompEnable(1);
+    pq->getHDCPVersion(source);
+    pq->setHDCPVersion(source, static_cast<_EnumHdcpVersion>(1));
+    pq->getAspectMode();
     pq->setAspectMode(static_cast<_EnumAspect_>(1));
+    EXPECT_EQ(manager->requests().size(), 50u);
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 

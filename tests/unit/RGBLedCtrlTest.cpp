@@ -53,9 +53,18 @@ TEST_F(RGBLedCtrl, LogsTheInfraredInputBeforeItIsShown) {
 }
 
 TEST_F(RGBLedCtrl, LogsNothingElse) {
+    manager->answer(words({-1}));
     leds->setPowerState(1);
+    leds->setBluetoothState(1);
+    leds->setMicrophoneState(1);
+    leds->setPowerLedEnableState(1);
+    leds->setLedOtaState(1);
+    leds->setDiagnosisState(1);
+    leds->setPowerStandbyState(1);
     leds->setLedOn(1);
+    leds->setLedOff(1);
     leds->setVaLedState(static_cast<android::_EnumVaLedState_>(1));
+    EXPECT_EQ(manager->requests().size(), 10u);
     EXPECT_THAT(manager->log.lines(), IsEmpty());
 }
 

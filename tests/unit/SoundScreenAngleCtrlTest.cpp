@@ -2,9 +2,8 @@
 #include <tarn/TarnLog.h>
 
 #include "modules/SoundScreenAngleCtrl.h"
-#include "tests/support/LogCapture.h"
 #include "tests/support/LogMatchers.h"
-#include "tests/support/RecordingManager.h"
+#include "tests/support/LogWatchingManager.h"
 
 using android::SoundScreenAngle;
 using android::sp;
@@ -24,9 +23,9 @@ class SoundScreenAngleCtrl : public testing::Test {
         EXPECT_EQ(angle.second, second);
     }
 
-    sp<RecordingManager> manager = new RecordingManager;
+    sp<LogWatchingManager> manager = new LogWatchingManager;
     sp<android::SoundScreenAngleCtrl> screen = new android::SoundScreenAngleCtrl(manager);
-    LogCapture log;
+    const LogCapture& log = manager->log;
 };
 
 TEST_F(SoundScreenAngleCtrl, ReturnsTrueExactlyWhenTheStatusIsNotZero) {
@@ -79,6 +78,14 @@ TEST_F(SoundScreenAngleCtrl, LogsWhatBecameOfTheQuestion) {
                                                 "[getSoundScreenAngle] ++ \n"),
                                          Logged(TARN_LOG_ERROR, kTag, "getSoundScreenAngle",
                                                 "[getSoundScreenAngle]  error, ret = -1\n")));
+}
+
+TEST_F(SoundScreenAngleCtrl, LogsItsEntriesBeforeTheCommands) {
+    screen->setSoundScreenAngle(1, 2);
+    EXPECT_EQ(manager->linesBefore, 1u);
+    manager->log.clear();
+    screen->getSoundScreenAngle();
+    EXPECT_EQ(manager->linesBefore, 1u);
 }
 
 }  // namespace

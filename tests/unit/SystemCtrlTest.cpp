@@ -140,8 +140,13 @@ TEST(SystemCtrl, DoesNotTakeTheTestSuiteAsRunningWhenTheCommandFailed) {
     Fixture f;
     f.manager->answer(words({-1, 1}));
     EXPECT_FALSE(f.system->isCtsRunning());
-    f.manager->answer(words({0, 1}));
-    EXPECT_TRUE(f.system->isCtsRunning());
+    // Any other status is a success, and the answer decides.
+    for (const int status : {0, 1, -5}) {
+        f.manager->answer(words({status, 1}));
+        EXPECT_TRUE(f.system->isCtsRunning()) << status;
+        f.manager->answer(words({status, 0}));
+        EXPECT_FALSE(f.system->isCtsRunning()) << status;
+    }
 }
 
 TEST(SystemCtrl, GivesAnEmptyTextForFailedShortAndHostileReplies) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <tarn/TarnLog.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "tests/support/RecordingManager.h"
 
 using android::ITeaDspCtrl;
+using android::Parcel;
 using android::sp;
 using tarn::test::hex;
 using tarn::test::LogCall;
@@ -41,11 +43,22 @@ LogCall error(const std::string& method, int ret) {
             "[" + method + "]  tarn_error, ret = " + std::to_string(ret) + "\n"};
 }
 
+/** Keeps the calls that came before the last command. */
+class LogCallsManager : public RecordingManager {
+  public:
+    int invoke(const Parcel& request, Parcel* reply) override {
+        callsBefore = calls();
+        return RecordingManager::invoke(request, reply);
+    }
+
+    LogCalls callsBefore;
+};
+
 class TeaDspCtrl : public ::testing::Test {
   protected:
     TeaDspCtrl() { logCalls().clear(); }
 
-    sp<RecordingManager> manager = new RecordingManager;
+    sp<LogCallsManager> manager = new LogCallsManager;
     const sp<ITeaDspCtrl> tea = new android::TeaDspCtrl(manager);
 };
 
@@ -118,6 +131,27 @@ TEST_F(TeaDspCtrl, LogsAnAttachStateThatCannotBeSent) {
     EXPECT_EQ(tea->DevicePortAttachStateUpdate("a", 7, "b", false, "c"), -1);
     EXPECT_EQ(calls(), (LogCalls{entry("DevicePortAttachStateUpdate"),
                                  error("DevicePortAttachStateUpdate", -1)}));
+}
+
+TEST_F(TeaDspCtrl, LogsTheEntryBeforeTheCommand) {
+    const struct {
+        const char* name;
+        std::function<void(ITeaDspCtrl&)> call;
+    } methods[] = {
+            {"GetDeviceInformation", [](auto& t) { t.GetDeviceInformation(); }},
+            {"GetDeviceMute", [](auto& t) { t.GetDeviceMute(3); }},
+            {"SetDevicePoeSinkRouteMode", [](auto& t) { t.SetDevicePoeSinkRouteMode(2); }},
+            {"GetDevicePoeSinkRouteMode", [](auto& t) { t.GetDevicePoeSinkRouteMode(); }},
+            {"DevicePortAttachStateUpdate",
+             [](auto& t) { t.DevicePortAttachStateUpdate("a", 7, "b", false, "c"); }},
+    };
+    manager->answer(Reply(0).s16(""));
+    for (const auto& method : methods) {
+        logCalls().clear();
+        manager->callsBefore.clear();
+        method.call(*tea);
+        EXPECT_EQ(manager->callsBefore, LogCalls{entry(method.name)});
+    }
 }
 
 TEST_F(TeaDspCtrl, LogsNothingInItsOtherMethods) {

@@ -48,9 +48,14 @@ TEST_F(XbugCtrl, LogsEachQuestionForANodeBeforeItAsks) {
 }
 
 TEST_F(XbugCtrl, LogsNothingElse) {
+    manager->answer(words({-1}));
     xbug->setTarnServiceLogLevel(TARN_LOG_INFO);
+    xbug->getTarnServiceLogLevel(1);
     xbug->sendMcuCmdDumpZUNTLog();
+    xbug->setTarnFuntionChkBaseTime(1);
+    xbug->getTarnFuntionChkBaseTime();
     xbug->getTarnFuntionTimeOutList();
+    EXPECT_EQ(manager->requests().size(), 6u);
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 

@@ -144,7 +144,7 @@ void registerAvManagerCtrl(std::vector<Controller>* registry) {
             .method("setMoveCam", CMD_AV_SET_MOVE_CAM, &IAvManagerCtrl::setMoveCam, "on")
             .method("getMoveCam", CMD_AV_GET_MOVE_CAM, &IAvManagerCtrl::getMoveCam)
             .method("transferDoaData", CMD_AV_TRANSFER_DOA_DATA, &IAvManagerCtrl::transferDoaData,
-                    "direction")
+                    "data")
             .method("setCameraPtzMode", CMD_AV_SET_CAMERA_PTZ_MODE,
                     &IAvManagerCtrl::setCameraPtzMode, "mode")
             .method("getCameraPtzMode", CMD_AV_GET_CAMERA_PTZ_MODE,
