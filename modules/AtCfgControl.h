@@ -31,7 +31,7 @@ class AtCfgControl : public IAtCfgControl {
     sp<TarnManager> mTarnMgr;
     Mutex mTextsLock;
     // What getString() handed out last, to each thread its own: no thread's call takes away the
-    // text that another one still reads.
+    // text that another one still reads. A text ends with its thread, whose id a later one may get.
     std::map<std::thread::id, std::string> mTexts;
 };
 

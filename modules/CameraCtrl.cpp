@@ -58,7 +58,7 @@ bool CameraCtrl::getFwCameraList(std::vector<EntityFwCamera>* out) {
     out->clear();
     const bool ok = mTarnMgr->exeCmdSet_Bool(CMD_CAMERA_GET_FW_LIST);
     if (ok) {
-        // The exchange hands over no reply, so the list stays empty; callers rely on that.
+        // The exchange hands over no reply, so the list stays empty and gives callers no data.
         const Parcel reply;
         readList(reply, readFirmware<EntityFwCamera>, out);
     } else {

@@ -16,7 +16,7 @@ int setUsbSwitch(const sp<TarnManager>& manager, int cmd, int host) {
     return sendForIntUnlessFailed(manager, cmd, request);
 }
 
-/** The host stands behind a first integer here, and is that integer in a setter's reply. */
+/** Here the second integer of the reply counts, in a setter's reply the first. */
 int getUsbSwitch(const sp<TarnManager>& manager, int cmd) {
     Parcel reply;
     if (manager->exeCmdSet_Parcel(cmd, &reply) == -1) return -1;

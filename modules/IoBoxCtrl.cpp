@@ -32,7 +32,7 @@ bool IoBoxCtrl::getFwIoBoxList(std::vector<EntityFwIoBox>* out) {
     out->clear();
     const bool ok = mTarnMgr->exeCmdSet_Bool(CMD_IOBOX_GET_FW_LIST);
     if (ok) {
-        // The exchange hands over no reply, so the list stays empty; callers rely on that.
+        // The exchange hands over no reply, so the list stays empty and gives callers no data.
         const Parcel reply;
         readList(reply, readFirmware<EntityFwIoBox>, out);
     } else {

@@ -1,6 +1,5 @@
 #include "modules/SensorBoxCtrl.h"
 
-#include "modules/FirmwareRecords.h"
 #include "modules/Replies.h"
 #include "protocol/Commands.h"
 
@@ -10,17 +9,6 @@
 
 namespace android {
 
-namespace {
-
-EntitySensorBox readSensorBox(const Parcel& reply) {
-    EntitySensorBox box;
-    box.value0 = reply.readInt32();
-    readFirmwareTexts(reply, &box);
-    return box;
-}
-
-}  // namespace
-
 SensorBoxCtrl::SensorBoxCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {}
 
 bool SensorBoxCtrl::getFwSensorBoxList(std::vector<EntitySensorBox>* out) {
@@ -28,7 +16,7 @@ bool SensorBoxCtrl::getFwSensorBoxList(std::vector<EntitySensorBox>* out) {
     out->clear();
     const bool ok = mTarnMgr->exeCmdSet_Bool(CMD_SENSOR_BOX_GET_FW_LIST);
     if (ok) {
-        // The exchange hands over no reply, so the list stays empty; callers rely on that.
+        // The exchange hands over no reply, so the list stays empty and gives callers no data.
         const Parcel reply;
         readList(reply, readSensorBox, out);
     } else {

@@ -3,7 +3,17 @@
 #include <tarn/ISensorBoxCtrl.h>
 #include <tarn/TarnManager.h>
 
+#include "modules/FirmwareRecords.h"
+
 namespace android {
+
+/** Reads the record of a sensor box. */
+inline EntitySensorBox readSensorBox(const Parcel& reply) {
+    EntitySensorBox box;
+    box.value0 = reply.readInt32();
+    readFirmwareTexts(reply, &box);
+    return box;
+}
 
 class SensorBoxCtrl : public virtual ISensorBoxCtrl {
   public:

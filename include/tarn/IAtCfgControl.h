@@ -39,8 +39,8 @@ class IAtCfgControl : public virtual RefBase {
 
     /**
      * Returns a stored text; empty, never null, on failure. The controller owns the text: it
-     * stays valid until the calling thread's next getString() on this controller, whatever other
-     * threads ask for meanwhile.
+     * stays valid until the calling thread's next getString() on this controller or that thread's
+     * end, whatever other threads ask for meanwhile.
      */
     virtual char* getString(char* key) = 0;
 

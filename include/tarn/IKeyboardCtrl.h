@@ -6,8 +6,10 @@
 namespace android {
 
 /**
- * Asks the service which keyboards are there. Every call blocks for one exchange with the
- * service; any thread may call.
+ * Asks the service which keyboards are there.
+ *
+ * Every call blocks for one exchange with the service; any thread may call. A command fails when
+ * the service is missing, dead or answers -1; any other transport error reads as an answer of 0.
  */
 class IKeyboardCtrl : public virtual RefBase {
   public:

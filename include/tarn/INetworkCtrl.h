@@ -57,7 +57,7 @@ class INetworkCtrl : public virtual RefBase {
     /** Tells whether wake-on-wireless is on. */
     virtual bool GetWOWEnable() = 0;
 
-    /** Tells whether the Wi-Fi dongle is present. */
+    /** Returns the Wi-Fi dongle's service-defined status. */
     virtual bool getWifiDongleStatus() = 0;
 
     /** Lets the microcontroller control the monitor network; true when the service says so. */

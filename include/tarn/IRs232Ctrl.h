@@ -34,10 +34,10 @@ class IRs232Ctrl : public virtual RefBase {
     /** Returns the state of the SD card. */
     virtual String16 getSmartRs232Sdcard() = 0;
 
-    /** Tells whether a PC module is detected. */
+    /** Returns the service-defined outcome of the PC detection. */
     virtual bool getSmartRs232PcDet() = 0;
 
-    /** Tells whether the PC module is on. */
+    /** Returns the service-defined state of the PC. */
     virtual bool getSmartRs232PcStatus() = 0;
 
     virtual ~IRs232Ctrl() = default;

@@ -13,8 +13,9 @@ enum _EnumSerialDevice_ : int32_t {};
 /**
  * The board's serial ports.
  *
- * Every call blocks for one exchange with the service; any thread may call. The setters differ in
- * the sense of their results: mind each one's.
+ * Every call blocks for one exchange with the service; any thread may call. A command fails when
+ * the service is missing, dead or answers -1; any other transport error reads as an answer of 0,
+ * a success. The setters differ in the sense of their results: mind each one's.
  */
 class ISerialCtrl : public virtual RefBase {
   public:

@@ -106,7 +106,7 @@ class ITouchCtrl : public virtual RefBase {
     /** Returns how many areas without touch there can be. */
     virtual int getMaxSupportedNoTouchAreas() = 0;
 
-    /** Returns an id for a new area without touch. */
+    /** Returns the service-defined id of an area without touch. */
     virtual int getNoTouchAreaId() = 0;
 
     /** Has touches in a rectangle ignored; true when the service says so. */
@@ -133,7 +133,7 @@ class ITouchCtrl : public virtual RefBase {
     /** Moves a source's rectangle; its id is not sent. True when the service says so. */
     virtual bool setSourceRectOffset(TouchRect rect, int value) = 0;
 
-    /** Takes back a source's rectangle; true when the service says so. */
+    /** Takes back the rectangle of a service-defined source; true when the service says so. */
     virtual bool clearSourceTouchRect(int source) = 0;
 
     /**

@@ -15,9 +15,10 @@ enum _EnumTxbMaterialType_ : int32_t {};
 /**
  * The TXB pen and sensor board.
  *
- * Every call blocks for one exchange with the service; any thread may call. The send methods are
- * false only when the service answers 0: a failed command, -1, reads as true. An array with count
- * below 1 or without values is not sent and counts as answered with 0.
+ * Every call blocks for one exchange with the service; any thread may call. A command fails when
+ * the service is missing, dead or answers -1; any other transport error reads as an answer of 0.
+ * The send methods are false only when the service answers 0: a failed command, -1, reads as true.
+ * An array with count below 1 or without values is not sent and counts as answered with 0.
  */
 class ITxbCtrl : public virtual RefBase {
   public:

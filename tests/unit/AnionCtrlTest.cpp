@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "modules/AnionCtrl.h"
-#include "tests/support/RecordingManager.h"
+#include "tests/support/LogWatchingManager.h"
 
 using android::sp;
 using testing::IsEmpty;
@@ -12,12 +12,20 @@ namespace {
 
 class AnionCtrl : public testing::Test {
   protected:
-    sp<RecordingManager> manager = new RecordingManager;
+    sp<LogWatchingManager> manager = new LogWatchingManager;
     sp<android::AnionCtrl> anion = new android::AnionCtrl(manager);
 };
 
 TEST_F(AnionCtrl, SendsNothingWhenItIsCreated) {
     EXPECT_THAT(manager->requests(), IsEmpty());
+}
+
+TEST_F(AnionCtrl, LogsNothing) {
+    for (const Bytes& reply : {words({0}), words({-1}), Bytes()}) {
+        manager->answer(reply);
+        anion->setAnionStatus(1);
+    }
+    EXPECT_THAT(manager->log.lines(), IsEmpty());
 }
 
 TEST_F(AnionCtrl, PassesAnyStatusOnUnchanged) {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "modules/BluetoothCtrl.h"
-#include "tests/support/RecordingManager.h"
+#include "tests/support/LogWatchingManager.h"
 
 using android::sp;
 using testing::IsEmpty;
@@ -12,12 +12,21 @@ namespace {
 
 class BluetoothCtrl : public testing::Test {
   protected:
-    sp<RecordingManager> manager = new RecordingManager;
+    sp<LogWatchingManager> manager = new LogWatchingManager;
     sp<android::BluetoothCtrl> bluetooth = new android::BluetoothCtrl(manager);
 };
 
 TEST_F(BluetoothCtrl, SendsNothingWhenItIsCreated) {
     EXPECT_THAT(manager->requests(), IsEmpty());
+}
+
+TEST_F(BluetoothCtrl, LogsNothing) {
+    for (const Bytes& reply : {words({0, 1}), words({-1}), Bytes()}) {
+        manager->answer(reply);
+        bluetooth->isBleWakeup();
+        bluetooth->setBleWakeup(true);
+    }
+    EXPECT_THAT(manager->log.lines(), IsEmpty());
 }
 
 TEST_F(BluetoothCtrl, ReadsTheBooleanAndNotTheStatus) {

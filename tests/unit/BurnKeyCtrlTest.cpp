@@ -54,13 +54,13 @@ TEST_F(BurnKeyCtrl, ReadsAKindOfKeyFieldByField) {
 }
 
 TEST_F(BurnKeyCtrl, DescribesAKindOfKeyWithSixFieldsInTheirOrder) {
-    const EntitySwKey key{1, "a", "b", true, "c", true};
+    const EntitySwKey key{1, "a", "b", true, "c", false};
     EXPECT_EQ(key.keyId, 1);
     EXPECT_EQ(key.keyText1, "a");
     EXPECT_EQ(key.keyText2, "b");
     EXPECT_TRUE(key.keyFlag1);
     EXPECT_EQ(key.keyText3, "c");
-    EXPECT_TRUE(key.keyFlag2);
+    EXPECT_FALSE(key.keyFlag2);
     EXPECT_EQ(EntitySwKey().keyText1, "");
 }
 

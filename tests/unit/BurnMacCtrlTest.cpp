@@ -53,12 +53,12 @@ TEST_F(BurnMacCtrl, ReadsASlotFieldByField) {
 }
 
 TEST_F(BurnMacCtrl, DescribesASlotWithFiveFieldsInTheirOrder) {
-    const EntitySwMac mac{1, "a", true, "b", true};
+    const EntitySwMac mac{1, "a", true, "b", false};
     EXPECT_EQ(mac.macId, 1);
     EXPECT_EQ(mac.macText1, "a");
     EXPECT_TRUE(mac.macFlag1);
     EXPECT_EQ(mac.macText2, "b");
-    EXPECT_TRUE(mac.macFlag2);
+    EXPECT_FALSE(mac.macFlag2);
     EXPECT_EQ(EntitySwMac().macText1, "");
 }
 

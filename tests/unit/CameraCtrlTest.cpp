@@ -151,18 +151,8 @@ TEST_F(CameraCtrl, ReportsAMappingAsDoneWhenTheServiceAnswersFalse) {
     EXPECT_FALSE(cameras->setCameraIdDeviceMap("id", "d"));
 }
 
-TEST(CameraRecords, ReadACamerasFirmwareFieldByField) {
-    Parcel reply;
-    for (const int32_t value : {1, -2, 3, -4}) reply.writeInt32(value);
-    reply.writeString16(String16("a"));
-    reply.writeBool(true);
-    reply.writeString16(String16("b\xC3\xBC"));
-    reply.writeBool(false);
-    for (const char* text : {"c", "dd", "eee"}) reply.writeString16(String16(text));
-    reply.writeBool(true);
-    reply.setDataPosition(0);
-    const auto camera = android::readFirmware<EntityFwCamera>(reply);
-    EXPECT_EQ(reply.dataAvail(), 0u);
+// The last flag varies, so that each of the three has values of its own.
+void expectCamera(const EntityFwCamera& camera, bool lastFlag) {
     EXPECT_EQ(camera.value0, 1);
     EXPECT_EQ(camera.value1, -2);
     EXPECT_EQ(camera.value2, 3);
@@ -174,20 +164,33 @@ TEST(CameraRecords, ReadACamerasFirmwareFieldByField) {
     EXPECT_EQ(camera.text2, "c");
     EXPECT_EQ(camera.text3, "dd");
     EXPECT_EQ(camera.text4, "eee");
-    EXPECT_TRUE(camera.flag2);
+    EXPECT_EQ(camera.flag2, lastFlag);
 }
 
-TEST(CameraRecords, HoldTheirFieldsInTheirOrder) {
-    const EntityFwCamera camera{1, 2, 3, 4, "a", true, "b", false, "c", "d", "e", true};
-    EXPECT_EQ(camera.value3, 4);
-    EXPECT_EQ(camera.text0, "a");
-    EXPECT_TRUE(camera.flag0);
-    EXPECT_EQ(camera.text1, "b");
-    EXPECT_FALSE(camera.flag1);
-    EXPECT_EQ(camera.text2, "c");
-    EXPECT_EQ(camera.text3, "d");
-    EXPECT_EQ(camera.text4, "e");
-    EXPECT_TRUE(camera.flag2);
+TEST(CameraRecords, ReadACamerasFirmwareFieldByField) {
+    for (const bool lastFlag : {false, true}) {
+        Parcel reply;
+        for (const int32_t value : {1, -2, 3, -4}) reply.writeInt32(value);
+        reply.writeString16(String16("a"));
+        reply.writeBool(true);
+        reply.writeString16(String16("b\xC3\xBC"));
+        reply.writeBool(false);
+        for (const char* text : {"c", "dd", "eee"}) reply.writeString16(String16(text));
+        reply.writeBool(lastFlag);
+        reply.setDataPosition(0);
+        expectCamera(android::readFirmware<EntityFwCamera>(reply), lastFlag);
+        EXPECT_EQ(reply.dataAvail(), 0u);
+    }
+}
+
+TEST(CameraRecords, HoldTheFieldsOfACamerasFirmwareInTheirOrder) {
+    for (const bool lastFlag : {false, true}) {
+        expectCamera({1, -2, 3, -4, "a", true, "b\xC3\xBC", false, "c", "dd", "eee", lastFlag},
+                     lastFlag);
+    }
+}
+
+TEST(CameraRecords, HoldTheFieldsOfACamerasInformationInTheirOrder) {
     const TarnCameraInfo info{"a", 1, 2};
     EXPECT_EQ(info.text0, "a");
     EXPECT_EQ(info.value0, 1);

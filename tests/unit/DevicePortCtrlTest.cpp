@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "modules/DevicePortCtrl.h"
-#include "tests/support/RecordingManager.h"
+#include "tests/support/LogWatchingManager.h"
 
 using android::sp;
 using android::String16;
@@ -22,12 +22,22 @@ class DevicePortCtrl : public testing::Test {
     }
 
     char port[5] = "usb1";
-    sp<RecordingManager> manager = new RecordingManager;
+    sp<LogWatchingManager> manager = new LogWatchingManager;
     sp<android::DevicePortCtrl> ports = new android::DevicePortCtrl(manager);
 };
 
 TEST_F(DevicePortCtrl, SendsNothingWhenItIsCreated) {
     EXPECT_THAT(manager->requests(), IsEmpty());
+}
+
+TEST_F(DevicePortCtrl, LogsNothing) {
+    for (const Bytes& reply : {words({0, 1}), words({-1}), Bytes()}) {
+        manager->answer(reply);
+        ports->setDevicePortEnabled(port, true);
+        ports->getDevicePortEnabled(port);
+        listOver({});
+    }
+    EXPECT_THAT(manager->log.lines(), IsEmpty());
 }
 
 TEST_F(DevicePortCtrl, SendsThePortBeforeTheFlag) {

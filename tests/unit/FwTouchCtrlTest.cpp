@@ -1,18 +1,18 @@
 #include <gtest/gtest.h>
+#include <tarn/IMicrophoneCtrl.h>
 #include <tarn/TarnLog.h>
 
 #include <cstddef>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "modules/FwTouchCtrl.h"
-#include "tests/support/LogCapture.h"
-#include "tests/support/RecordingManager.h"
+#include "tests/support/LogWatchingManager.h"
 
 using namespace android;
-using tarn::test::LogCapture;
 using tarn::test::LogLine;
-using tarn::test::RecordingManager;
+using tarn::test::LogWatchingManager;
 using tarn::test::Reply;
 using tarn::test::words;
 
@@ -27,14 +27,28 @@ static_assert(offsetof(TouchFwDataList, reserved0) < offsetof(TouchFwDataList, s
 static_assert(offsetof(TouchFwDataList, text1) < offsetof(TouchFwDataList, short5));
 static_assert(sizeof(TouchFwDataList::reserved0) == 4);
 
+static_assert(!std::is_same_v<EntityFwTouch, EntityMicrophone>);
+static_assert(sizeof(EntityFwTouch) == sizeof(EntityMicrophone));
+static_assert(offsetof(EntityFwTouch, value0) == offsetof(EntityMicrophone, value0));
+static_assert(offsetof(EntityFwTouch, value1) == offsetof(EntityMicrophone, value1));
+static_assert(offsetof(EntityFwTouch, value2) == offsetof(EntityMicrophone, value2));
+static_assert(offsetof(EntityFwTouch, text0) == offsetof(EntityMicrophone, text0));
+static_assert(offsetof(EntityFwTouch, flag0) == offsetof(EntityMicrophone, flag0));
+static_assert(offsetof(EntityFwTouch, text1) == offsetof(EntityMicrophone, text1));
+static_assert(offsetof(EntityFwTouch, flag1) == offsetof(EntityMicrophone, flag1));
+static_assert(offsetof(EntityFwTouch, text2) == offsetof(EntityMicrophone, text2));
+static_assert(offsetof(EntityFwTouch, text3) == offsetof(EntityMicrophone, text3));
+static_assert(offsetof(EntityFwTouch, text4) == offsetof(EntityMicrophone, text4));
+static_assert(offsetof(EntityFwTouch, flag2) == offsetof(EntityMicrophone, flag2));
+
 namespace {
 
 class FwTouchCtrl : public testing::Test {
   protected:
-    FwTouchCtrl() : mManager(new RecordingManager), mFwTouch(new android::FwTouchCtrl(mManager)) {}
+    FwTouchCtrl() { mManager->log.clear(); }
 
-    const sp<RecordingManager> mManager;
-    const sp<IFwTouchCtrl> mFwTouch;
+    const sp<LogWatchingManager> mManager = new LogWatchingManager;
+    const sp<IFwTouchCtrl> mFwTouch = new android::FwTouchCtrl(mManager);
 };
 
 void expectDebugLine(const LogLine& line, const std::string& function, int number,
@@ -46,12 +60,13 @@ void expectDebugLine(const LogLine& line, const std::string& function, int numbe
     EXPECT_EQ(line.message, message);
 }
 
-void addTouch(Reply* reply) {
+// The last flag varies, so that each of the three has values of its own.
+void addTouch(Reply* reply, bool lastFlag) {
     reply->i32(1).i32(-2).i32(3).s16("t0").boolean(true).s16("t1").boolean(false);
-    reply->s16("t2").s16("t3").s16("t4").boolean(true);
+    reply->s16("t2").s16("t3").s16("t4").boolean(lastFlag);
 }
 
-void expectTouch(const EntityFwTouch& touch) {
+void expectTouch(const EntityFwTouch& touch, bool lastFlag) {
     EXPECT_EQ(touch.value0, 1);
     EXPECT_EQ(touch.value1, -2);
     EXPECT_EQ(touch.value2, 3);
@@ -62,7 +77,7 @@ void expectTouch(const EntityFwTouch& touch) {
     EXPECT_EQ(touch.text2, "t2");
     EXPECT_EQ(touch.text3, "t3");
     EXPECT_EQ(touch.text4, "t4");
-    EXPECT_TRUE(touch.flag2);
+    EXPECT_EQ(touch.flag2, lastFlag);
 }
 
 void addDriver(Reply* reply) {
@@ -89,25 +104,55 @@ TEST(FwTouchRecords, StartWithZerosAndEmptyTexts) {
     EXPECT_FALSE(data.driver.flag0);
 }
 
-TEST_F(FwTouchCtrl, LogsItsConstruction) {
-    LogCapture log;
-    const sp<IFwTouchCtrl> another = new android::FwTouchCtrl(mManager);
-    ASSERT_EQ(log.lines().size(), 1u);
-    expectDebugLine(log.lines()[0], "FwTouchCtrl", 25, "FwTouchCtrl::FwTouchCtrl");
+TEST(FwTouchRecords, HoldTheFieldsOfATouchDeviceInTheirOrder) {
+    for (const bool lastFlag : {false, true}) {
+        expectTouch({1, -2, 3, "t0", true, "t1", false, "t2", "t3", "t4", lastFlag}, lastFlag);
+    }
 }
 
-TEST_F(FwTouchCtrl, LogsEachCallUnderItsOwnName) {
+TEST(FwTouchRecords, HoldTheFieldsOfADriverInTheirOrder) {
+    expectDriver({4, 5, -6, "d0", true, "d1"});
+}
+
+TEST(FwTouchRecords, HoldTheFieldsOfADeviceWithItsDriverInTheirOrder) {
+    const EntityFwTouch touch{1, -2, 3, "t0", true, "t1", false, "t2", "t3", "t4", true};
+    const EntityFwTouchDriver driver{4, 5, -6, "d0", true, "d1"};
+    const TouchFwDataList data{11, 12, touch, "x0", 13, 70000, 14, 15, driver, "x1", 16};
+    EXPECT_EQ(data.short0, 11);
+    EXPECT_EQ(data.short1, 12);
+    expectTouch(data.touch, true);
+    EXPECT_EQ(data.text0, "x0");
+    EXPECT_EQ(data.short2, 13);
+    EXPECT_EQ(data.reserved0, 70000);
+    EXPECT_EQ(data.short3, 14);
+    EXPECT_EQ(data.short4, 15);
+    expectDriver(data.driver);
+    EXPECT_EQ(data.text1, "x1");
+    EXPECT_EQ(data.short5, 16);
+}
+
+TEST_F(FwTouchCtrl, LogsItsConstruction) {
+    const sp<IFwTouchCtrl> another = new android::FwTouchCtrl(mManager);
+    const std::vector<LogLine> lines = mManager->log.lines();
+    ASSERT_EQ(lines.size(), 1u);
+    expectDebugLine(lines[0], "FwTouchCtrl", 25, "FwTouchCtrl::FwTouchCtrl");
+}
+
+TEST_F(FwTouchCtrl, LogsEachCallUnderItsOwnNameBeforeTheCommand) {
     std::vector<EntityFwTouch> touches;
     std::vector<EntityFwTouchDriver> drivers;
     std::vector<TouchFwDataList> data;
-    LogCapture log;
     mFwTouch->getFwTouchList(&touches);
+    EXPECT_EQ(mManager->linesBefore, 1u);
     mFwTouch->getFwTouchDriverInfoList(&drivers);
+    EXPECT_EQ(mManager->linesBefore, 2u);
     mFwTouch->getTouchFwDataList(&data);
-    ASSERT_EQ(log.lines().size(), 3u);
-    expectDebugLine(log.lines()[0], "getFwTouchList", 30, "[getFwTouchList]\n");
-    expectDebugLine(log.lines()[1], "getFwTouchDriverInfoList", 65, "[getFwTouchDriverInfoList]\n");
-    expectDebugLine(log.lines()[2], "getTouchFwDataList", 96, "[getTouchFwDataList]\n");
+    EXPECT_EQ(mManager->linesBefore, 3u);
+    const std::vector<LogLine> lines = mManager->log.lines();
+    ASSERT_EQ(lines.size(), 3u);
+    expectDebugLine(lines[0], "getFwTouchList", 30, "[getFwTouchList]\n");
+    expectDebugLine(lines[1], "getFwTouchDriverInfoList", 65, "[getFwTouchDriverInfoList]\n");
+    expectDebugLine(lines[2], "getTouchFwDataList", 96, "[getTouchFwDataList]\n");
 }
 
 TEST_F(FwTouchCtrl, EmptiesTheListAndReturnsFalseWhenTheServiceIsDead) {
@@ -132,12 +177,14 @@ TEST_F(FwTouchCtrl, ReplacesWhatTheListHeld) {
 
 TEST_F(FwTouchCtrl, ReadsATouchDeviceFieldByField) {
     Reply reply(0);
-    addTouch(&reply.i32(1));
+    addTouch(&reply.i32(2), false);
+    addTouch(&reply, true);
     mManager->answer(reply);
     std::vector<EntityFwTouch> touches;
     ASSERT_TRUE(mFwTouch->getFwTouchList(&touches));
-    ASSERT_EQ(touches.size(), 1u);
-    expectTouch(touches[0]);
+    ASSERT_EQ(touches.size(), 2u);
+    expectTouch(touches[0], false);
+    expectTouch(touches[1], true);
 }
 
 TEST_F(FwTouchCtrl, ReadsADriverFieldByField) {
@@ -152,7 +199,7 @@ TEST_F(FwTouchCtrl, ReadsADriverFieldByField) {
 
 TEST_F(FwTouchCtrl, ReadsADeviceWithItsDriverFieldByField) {
     Reply reply(0);
-    addTouch(&reply.i32(1).i32(11).i32(12));
+    addTouch(&reply.i32(1).i32(11).i32(12), true);
     reply.s16("x0").i32(13).i32(14).i32(15);
     addDriver(&reply);
     reply.s16("x1").i32(16);
@@ -162,7 +209,7 @@ TEST_F(FwTouchCtrl, ReadsADeviceWithItsDriverFieldByField) {
     ASSERT_EQ(data.size(), 1u);
     EXPECT_EQ(data[0].short0, 11);
     EXPECT_EQ(data[0].short1, 12);
-    expectTouch(data[0].touch);
+    expectTouch(data[0].touch, true);
     EXPECT_EQ(data[0].text0, "x0");
     EXPECT_EQ(data[0].short2, 13);
     EXPECT_EQ(data[0].reserved0, 0);

@@ -6,14 +6,12 @@
 #include <vector>
 
 #include "modules/LandscapeCtrl.h"
-#include "tests/support/LogCapture.h"
-#include "tests/support/RecordingManager.h"
+#include "tests/support/LogWatchingManager.h"
 
 using namespace android;
 using tarn::test::hex;
-using tarn::test::LogCapture;
 using tarn::test::LogLine;
-using tarn::test::RecordingManager;
+using tarn::test::LogWatchingManager;
 using tarn::test::Reply;
 using tarn::test::words;
 using testing::ElementsAre;
@@ -23,11 +21,10 @@ namespace {
 
 class LandscapeCtrl : public testing::Test {
   protected:
-    LandscapeCtrl()
-        : mManager(new RecordingManager), mLandscape(new android::LandscapeCtrl(mManager)) {}
+    LandscapeCtrl() { mManager->log.clear(); }
 
-    const sp<RecordingManager> mManager;
-    const sp<ILandscapeCtrl> mLandscape;
+    const sp<LogWatchingManager> mManager = new LogWatchingManager;
+    const sp<ILandscapeCtrl> mLandscape = new android::LandscapeCtrl(mManager);
 };
 
 void expectLine(const LogLine& line, int priority, const std::string& function, int number,
@@ -40,40 +37,41 @@ void expectLine(const LogLine& line, int priority, const std::string& function, 
 }
 
 TEST_F(LandscapeCtrl, LogsItsConstruction) {
-    LogCapture log;
     const sp<ILandscapeCtrl> another = new android::LandscapeCtrl(mManager);
-    ASSERT_EQ(log.lines().size(), 1u);
-    expectLine(log.lines()[0], TARN_LOG_DEBUG, "LandscapeCtrl", 29, "LandscapeCtrl::LandscapeCtrl");
+    const std::vector<LogLine> lines = mManager->log.lines();
+    ASSERT_EQ(lines.size(), 1u);
+    expectLine(lines[0], TARN_LOG_DEBUG, "LandscapeCtrl", 29, "LandscapeCtrl::LandscapeCtrl");
 }
 
 TEST_F(LandscapeCtrl, LogsTheFailureToReadTheList) {
-    LogCapture log;
     mManager->answer(words({-1}));
     EXPECT_THAT(mLandscape->getLandscapeAppList(), IsEmpty());
-    ASSERT_EQ(log.lines().size(), 2u);
-    expectLine(log.lines()[0], TARN_LOG_DEBUG, "getLandscapeAppList", 35,
-               "[getLandscapeAppList] ++ \n");
-    expectLine(log.lines()[1], TARN_LOG_ERROR, "getLandscapeAppList", 46,
+    EXPECT_EQ(mManager->linesBefore, 1u);
+    const std::vector<LogLine> lines = mManager->log.lines();
+    ASSERT_EQ(lines.size(), 2u);
+    expectLine(lines[0], TARN_LOG_DEBUG, "getLandscapeAppList", 35, "[getLandscapeAppList] ++ \n");
+    expectLine(lines[1], TARN_LOG_ERROR, "getLandscapeAppList", 46,
                "[getLandscapeAppList]  error, ret = -1\n");
 }
 
 TEST_F(LandscapeCtrl, LogsTheFailureToReplaceTheList) {
-    LogCapture log;
     mManager->answer(words({-1}));
     EXPECT_FALSE(mLandscape->setLandscapeAppList({"a"}));
-    ASSERT_EQ(log.lines().size(), 2u);
-    expectLine(log.lines()[0], TARN_LOG_DEBUG, "setLandscapeAppList", 53,
-               "[setLandscapeAppList] ++ \n");
-    expectLine(log.lines()[1], TARN_LOG_ERROR, "setLandscapeAppList", 70,
+    EXPECT_EQ(mManager->linesBefore, 1u);
+    const std::vector<LogLine> lines = mManager->log.lines();
+    ASSERT_EQ(lines.size(), 2u);
+    expectLine(lines[0], TARN_LOG_DEBUG, "setLandscapeAppList", 53, "[setLandscapeAppList] ++ \n");
+    expectLine(lines[1], TARN_LOG_ERROR, "setLandscapeAppList", 70,
                "[setLandscapeAppList]  error, ret = -1\n");
 }
 
-TEST_F(LandscapeCtrl, LogsOnlyTheEntryOnSuccess) {
-    LogCapture log;
+TEST_F(LandscapeCtrl, LogsOnlyTheEntryBeforeTheCommandOnSuccess) {
     mManager->answer(words({0, 0, 1}));
     mLandscape->getLandscapeAppList();
+    EXPECT_EQ(mManager->linesBefore, 1u);
     EXPECT_TRUE(mLandscape->setLandscapeAppList({"a"}));
-    EXPECT_THAT(log.messages(),
+    EXPECT_EQ(mManager->linesBefore, 2u);
+    EXPECT_THAT(mManager->log.messages(),
                 ElementsAre("[getLandscapeAppList] ++ \n", "[setLandscapeAppList] ++ \n"));
 }
 

@@ -8,7 +8,9 @@
 #include "tests/support/LogWatchingManager.h"
 
 using android::EntitySensorBox;
+using android::Parcel;
 using android::sp;
+using android::String16;
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::Field;
@@ -65,17 +67,39 @@ TEST_F(SensorBoxCtrl, LogsAnErrorWhenTheServiceSaysNoOrIsDead) {
     }
 }
 
-TEST_F(SensorBoxCtrl, DescribesABoxWithNineFieldsInTheirOrder) {
-    const EntitySensorBox box{1, "a", true, "b", false, "c", "d", "e", true};
-    EXPECT_EQ(box.value0, 1);
+// The last flag varies, so that each of the three has values of its own.
+void expectBox(const EntitySensorBox& box, bool lastFlag) {
+    EXPECT_EQ(box.value0, -1);
     EXPECT_EQ(box.text0, "a");
     EXPECT_TRUE(box.flag0);
-    EXPECT_EQ(box.text1, "b");
+    EXPECT_EQ(box.text1, "b\xC3\xBC");
     EXPECT_FALSE(box.flag1);
     EXPECT_EQ(box.text2, "c");
-    EXPECT_EQ(box.text3, "d");
-    EXPECT_EQ(box.text4, "e");
-    EXPECT_TRUE(box.flag2);
+    EXPECT_EQ(box.text3, "dd");
+    EXPECT_EQ(box.text4, "eee");
+    EXPECT_EQ(box.flag2, lastFlag);
+}
+
+TEST(SensorBoxRecords, ReadABoxFieldByField) {
+    for (const bool lastFlag : {false, true}) {
+        Parcel reply;
+        reply.writeInt32(-1);
+        reply.writeString16(String16("a"));
+        reply.writeBool(true);
+        reply.writeString16(String16("b\xC3\xBC"));
+        reply.writeBool(false);
+        for (const char* text : {"c", "dd", "eee"}) reply.writeString16(String16(text));
+        reply.writeBool(lastFlag);
+        reply.setDataPosition(0);
+        expectBox(android::readSensorBox(reply), lastFlag);
+        EXPECT_EQ(reply.dataAvail(), 0u);
+    }
+}
+
+TEST(SensorBoxRecords, HoldTheFieldsOfABoxInTheirOrder) {
+    for (const bool lastFlag : {false, true}) {
+        expectBox({-1, "a", true, "b\xC3\xBC", false, "c", "dd", "eee", lastFlag}, lastFlag);
+    }
 }
 
 }  // namespace

@@ -194,6 +194,17 @@ TEST_F(TouchCtrl, KeepsAFailedIndexInTheRequestOfTheNextOne) {
                             words({0x201F, 1, 2}), words({0x201F, 1, 2, 3}), words({0x201F, 4})));
 }
 
+TEST_F(TouchCtrl, ForgetsAFailedIndexTooWhenTheNextOneIsNotEchoed) {
+    mManager->answerWith({words({0, 4}), words({-1}), words({0, 0, 1, 1, 2, 3, 4}),
+                          words({0, 2, 1, 5, 6, 7, 8}), words({-1})});
+    const std::vector<TouchRect> areas = mTouch->getAllNoTouchAreas();
+    ASSERT_EQ(areas.size(), 1u);
+    EXPECT_EQ(areas[0].id, 2);
+    EXPECT_THAT(mManager->requests(),
+                ElementsAre(words({0x2015}), words({0x201F, 0}), words({0x201F, 0, 1}),
+                            words({0x201F, 2}), words({0x201F, 3})));
+}
+
 TEST_F(TouchCtrl, AsksForNoAreaWhenTheirNumberIsUnknown) {
     mManager->answer(words({-1}));
     EXPECT_THAT(mTouch->getAllNoTouchAreas(), IsEmpty());
