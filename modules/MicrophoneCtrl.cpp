@@ -18,7 +18,7 @@ int MicrophoneCtrl::getFwMicrophoneList(std::vector<EntityMicrophone>* list) {
     list->clear();
     const bool ret = mTarnMgr->exeCmdSet_Bool(CMD_MICROPHONE_GET_FW_MICROPHONE_LIST);
     if (ret) {
-        // The exchange hands over no reply, so the list stays empty; callers count on no more.
+        // The exchange hands over no reply, so the list stays empty and gives callers no data.
         const Parcel reply;
         readList(reply, readDevice<EntityMicrophone>, list);
     } else {
