@@ -6,6 +6,7 @@
 #include <binder/IInterface.h>
 #include <binder/Parcel.h>
 #include <log/log.h>
+
 namespace android {
 
 IBinder::IBinder() = default;

@@ -268,6 +268,7 @@ void IPCThreadState::joinThreadPool(bool /*isMain*/) {
         IdlePool::get().wait();
         return;
     }
+    host::ServingGate::closeAtExit();
     while (getAndExecuteCommand() == NO_ERROR) {
     }
 }

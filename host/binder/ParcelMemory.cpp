@@ -139,11 +139,26 @@ status_t Parcel::setDataCapacity(size_t size) {
     return size > mDataCapacity ? continueWrite(size) : NO_ERROR;
 }
 
+// The bytes may be the parcel's own, so the old block goes when they are copied. An emptied parcel
+// gives its memory back, a new one gets a block even for nothing.
 status_t Parcel::setData(const uint8_t* buffer, size_t len) {
-    const status_t status = restartWrite(len);
-    if (status != NO_ERROR) return status;
-    if (len > 0) memcpy(mData, buffer, len);
-    mDataSize = len;
+    if (len > kMaxSize) return BAD_VALUE;
+    uint8_t* block = mData;
+    if (mData == nullptr || len == 0 || len != mDataCapacity) {
+        block = len > 0 || mData == nullptr ? allocate(len, len) : nullptr;
+        if (block == nullptr && len > 0) return mError = NO_MEMORY;
+        if (block != nullptr) countAllocation(len);
+    }
+    if (len > 0) memmove(block, buffer, len);
+    if (mData != nullptr && mData != block) {
+        countRelease(mDataCapacity);
+        free(mData);
+    }
+    mData = block;
+    mDataCapacity = mDataSize = len;
+    mDataPos = 0;
+    releaseObjects();
+    mAllowFds = true;
     return NO_ERROR;
 }
 
@@ -162,8 +177,12 @@ status_t Parcel::appendFrom(const Parcel* parcel, size_t offset, size_t len) {
     mDataPos += len;
     mDataSize += len;
     if (parcel->mObjectsSize == 0) return NO_ERROR;
-    return ObjectTable(mObjects, mObjectsSize, mObjectsCapacity)
-            .putRange(parcel->mObjects, parcel->mObjectsSize, offset, len, target);
+    ObjectTable objects(mObjects, mObjectsSize, mObjectsCapacity);
+    const status_t status =
+            objects.putRange(parcel->mObjects, parcel->mObjectsSize, offset, len, target);
+    // From a position beyond the size, what was written may lie beyond the new size too.
+    objects.truncate(mDataSize);
+    return status;
 }
 
 int Parcel::compareData(const Parcel& other) {
@@ -184,13 +203,15 @@ status_t Parcel::finishWrite(size_t len) {
 
 // Makes room for len bytes at the position.
 status_t Parcel::growData(size_t len) {
-    if (len > kMaxSize || (mData != nullptr && len > kMaxSize - mDataPos)) return BAD_VALUE;
+    if (len > kMaxSize) return BAD_VALUE;
     const uint64_t wanted = (uint64_t{mDataSize} + len) * 3 / 2;
     if (wanted > kMaxSize) return BAD_VALUE;
     if (wanted <= mDataSize) return NO_MEMORY;
-    const status_t status = continueWrite(std::max<size_t>(wanted, kSmallestAllocation));
+    size_t capacity = std::max<size_t>(wanted, kSmallestAllocation);
+    // A position that continueWrite() keeps may lie beyond what the size asks for.
+    if (mData != nullptr && capacity > mDataCapacity) capacity = std::max(capacity, mDataPos + len);
+    const status_t status = continueWrite(capacity);
     if (status != NO_ERROR) return status;
-    // The position may still lie beyond what the size asked for.
     return mDataPos + len > mDataCapacity ? continueWrite(mDataPos + len) : NO_ERROR;
 }
 
@@ -218,30 +239,6 @@ status_t Parcel::continueWrite(size_t desired) {
     countAllocation(desired);
     mData = block;
     mDataCapacity = desired;
-    return NO_ERROR;
-}
-
-// Empties the parcel and sets the capacity to desired; the caller fills all of it.
-status_t Parcel::restartWrite(size_t desired) {
-    if (desired > kMaxSize) return BAD_VALUE;
-    if (mData == nullptr || desired != mDataCapacity) {
-        uint8_t* block = nullptr;
-        // An emptied parcel gives its memory back, a new one gets a block even for nothing.
-        if (desired > 0 || mData == nullptr) {
-            block = allocate(desired, desired);
-            if (block == nullptr) return mError = NO_MEMORY;
-            countAllocation(desired);
-        }
-        if (mData != nullptr) {
-            countRelease(mDataCapacity);
-            free(mData);
-        }
-        mData = block;
-        mDataCapacity = desired;
-    }
-    mDataSize = mDataPos = 0;
-    releaseObjects();
-    mAllowFds = true;
     return NO_ERROR;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace android::parcel {
@@ -55,15 +56,15 @@ status_t ObjectTable::put(size_t offset, IBinder* binder) {
 
 status_t ObjectTable::putRange(const binder_size_t* objects, size_t count, size_t start,
                                size_t length, size_t target) {
-    // Copied first: a parcel may append a part of itself.
-    std::vector<ObjectEntry> within;
+    // Copied and held first: a parcel may append a part of itself, over objects of that part.
+    std::vector<std::pair<size_t, sp<IBinder>>> within;
     forEachObject(objects, count, [&](size_t offset, IBinder* binder) {
         if (offset >= start && offset + kObjectSize <= start + length) {
-            within.push_back({offset - start + target, binder});
+            within.emplace_back(offset - start + target, binder);
         }
     });
-    for (const ObjectEntry& entry : within) {
-        const status_t status = put(entry.offset, entry.binder);
+    for (const auto& [offset, binder] : within) {
+        const status_t status = put(offset, binder.get());
         if (status != NO_ERROR) return status;
     }
     return NO_ERROR;

@@ -11,6 +11,7 @@
 #include <atomic>
 #include <mutex>
 #include <string>
+#include <system_error>
 #include <thread>
 
 #include "Carrier.h"
@@ -143,10 +144,17 @@ void ProcessState::spawnPooledThread(bool isMain) {
     const bool started = __atomic_load_n(&mThreadPoolStarted, __ATOMIC_ACQUIRE);
     if (!started || host::carrier() == nullptr) return;
     const std::string name = makeBinderThreadName().string();
-    std::thread([name, isMain] {
-        nameThisThread(name);
-        IPCThreadState::self()->joinThreadPool(isMain);
-    }).detach();
+    try {
+        std::thread([name, isMain] {
+            nameThisThread(name);
+            IPCThreadState::self()->joinThreadPool(isMain);
+        }).detach();
+    } catch (const std::system_error& error) {
+        ALOGE("The pool cannot have another thread: %s", error.what());
+        // It is not there, and is tried for again when it is needed next.
+        __atomic_fetch_sub(&mThreadPoolSeq, 1, __ATOMIC_ACQ_REL);
+        if (isMain) __atomic_store_n(&mThreadPoolStarted, false, __ATOMIC_RELEASE);
+    }
 }
 
 String8 ProcessState::makeBinderThreadName() {

@@ -1,5 +1,7 @@
 #include "ServingGate.h"
 
+#include <unistd.h>
+
 #include <chrono>
 #include <condition_variable>
 #include <cstdlib>
@@ -27,7 +29,11 @@ State& state() {
 // How often this thread is inside: once, but twice if a call that it serves joins the pool.
 thread_local int tInside = 0;
 
+// The process that serves: a child that it forks has its exit handlers but none of its threads.
+pid_t gServingProcess = 0;
+
 void close() {
+    if (getpid() != gServingProcess) return;
     State& gate = state();
     std::unique_lock<std::mutex> guard(gate.lock);
     gate.closed = true;
@@ -53,7 +59,11 @@ ServingGate::~ServingGate() {
 }
 
 void ServingGate::closeAtExit() {
-    atexit(close);
+    static std::once_flag once;
+    std::call_once(once, [] {
+        gServingProcess = getpid();
+        atexit(close);
+    });
 }
 
 }  // namespace android::host

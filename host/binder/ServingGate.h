@@ -14,7 +14,10 @@ class ServingGate {
     ServingGate(const ServingGate&) = delete;
     ServingGate& operator=(const ServingGate&) = delete;
 
-    /** Has exit() close the gate, before it destroys any object that is static at this time. */
+    /**
+     * Has exit() close the gate, before it destroys any object that is static when this is called
+     * for the first time.
+     */
     static void closeAtExit();
 };
 

@@ -173,7 +173,8 @@ bool replaceFile(const std::string& path, const std::string& content) {
     {
         const FileDescriptor file(next, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
         if (!file.valid()) return false;
-        written = writeAll(file.get(), content);
+        // On the disk before it takes the old file's place: else a loss of power may leave neither.
+        written = writeAll(file.get(), content) && fsync(file.get()) == 0;
     }
     if (written && rename(next.c_str(), path.c_str()) == 0) return true;
     unlink(next.c_str());

@@ -11,8 +11,7 @@ using PropertyMap = std::map<std::string, std::string>;
 /** The file that holds the properties, as the environment names it now. */
 std::string propertyFilePath();
 
-/** What the file holds, damaged lines left out. Empty if there is no file, nullopt if unreadable.
- */
+/** What the file holds without damaged lines. Empty if there is no file, nullopt if unreadable. */
 std::optional<PropertyMap> readProperties(const std::string& path);
 
 /**

@@ -28,7 +28,7 @@
 // RESULT a '?' matches any one character: that digit comes from memory that the original never
 // wrote. A step whose RESULT is ABORT ends the process with SIGABRT. Numbers in ARGS and values in
 // RESULT are hexadecimal, memory order for byte strings, four digits a unit for UTF-16, '-' for an
-// empty string; status codes are decimal. What each OP calls is in exec().
+// empty string; status codes are decimal. What each OP calls is in writes(), sizes() and reads().
 
 #include <binder/Binder.h>
 #include <binder/Parcel.h>
@@ -203,299 +203,422 @@ const uint8_t* scratch() {
     return v.data();
 }
 
-// Runs one operation on p (o is the other parcel); returns its result text.
-Str exec(Parcel& p, Parcel& o, const Words& w) {
-    const Str& op = w[0];
-    const Str a = w.size() > 1 ? w[1] : "";
-    const Str b = w.size() > 2 ? w[2] : "";
+// One operation on parcel p; o is the other one, a and b are the operation's arguments.
+struct Call {
+    Parcel& p;
+    Parcel& o;
+    Str a;
+    Str b;
+};
 
-    // -- writes
-    if (op == "w32") return dec(p.writeInt32(int32_t(num(a))));
-    if (op == "wu32") return dec(p.writeUint32(uint32_t(num(a))));
-    if (op == "wf") return dec(p.writeFloat(asFloat(uint32_t(num(a)))));
-    if (op == "wb") return dec(p.writeBool(a == "1"));
-    if (op == "ws16") {  // writeString16(const String16&)
-        std::u16string u = units(a);
-        return dec(p.writeString16(String16(u.data(), u.size())));
-    }
-    if (op == "wp16") {  // writeString16(const char16_t*, size_t), "null": (nullptr, length)
-        if (a == "null")
-            return dec(p.writeString16(static_cast<const char16_t*>(nullptr), size_t(num(b))));
-        std::u16string u = units(a);
-        return dec(p.writeString16(u.data(), u.size()));
-    }
-    if (op == "wba") {  // writeByteArray(length, pointer), "null": (length, nullptr)
-        if (a == "null") return dec(p.writeByteArray(size_t(num(b)), nullptr));
-        std::vector<uint8_t> v = bytes(a);
-        return dec(p.writeByteArray(v.size(), v.empty() ? scratch() : v.data()));
-    }
-    if (op == "wbaL")
-        return dec(p.writeByteArray(size_t(num(a)), scratch()));  // length to be refused
-    if (op == "wr") {                                             // write(pointer, length)
-        std::vector<uint8_t> v = bytes(a);
-        return dec(p.write(v.empty() ? scratch() : v.data(), v.size()));
-    }
-    if (op == "wrL") return dec(p.write(scratch(), size_t(num(a))));  // length to be refused
+// By name; each gives its result as text.
+typedef std::map<Str, Str (*)(const Call&)> Operations;
 
-    // -- size, position, content
-    if (op == "sds") return dec(p.setDataSize(size_t(num(a))));
-    if (op == "sdp") {
-        p.setDataPosition(size_t(num(a)));
-        return "void";
-    }
-    if (op == "sd") {
-        std::vector<uint8_t> v = bytes(a);
-        return dec(p.setData(v.empty() ? scratch() : v.data(), v.size()));
-    }
-    if (op == "sdL") return dec(p.setData(scratch(), size_t(num(a))));  // length to be refused
-    if (op == "fd") {
-        p.freeData();
-        return "void";
-    }
-    if (op == "ap") return dec(p.appendFrom(&o, size_t(num(a)), size_t(num(b))));
-    if (op == "dump") {
-        size_t n = trueSize(p);
-        return hex(p.data(), n);
-    }
+// Writing.
+Operations writes() {
+    return {
+            {"w32",
+             [](const Call& call) -> Str { return dec(call.p.writeInt32(int32_t(num(call.a)))); }},
+            {"wu32",
+             [](const Call& call) -> Str {
+                 return dec(call.p.writeUint32(uint32_t(num(call.a))));
+             }},
+            {"wf",
+             [](const Call& call) -> Str {
+                 return dec(call.p.writeFloat(asFloat(uint32_t(num(call.a)))));
+             }},
+            {"wb", [](const Call& call) -> Str { return dec(call.p.writeBool(call.a == "1")); }},
+            {"ws16",
+             // writeString16(const String16&)
+             [](const Call& call) -> Str {
+                 std::u16string u = units(call.a);
+                 return dec(call.p.writeString16(String16(u.data(), u.size())));
+             }},
+            {"wp16",
+             // writeString16(const char16_t*, size_t), "null": (nullptr, length)
+             [](const Call& call) -> Str {
+                 if (call.a == "null")
+                     return dec(call.p.writeString16(static_cast<const char16_t*>(nullptr),
+                                                     size_t(num(call.b))));
+                 std::u16string u = units(call.a);
+                 return dec(call.p.writeString16(u.data(), u.size()));
+             }},
+            {"wba",
+             // writeByteArray(length, pointer), "null": (length, nullptr)
+             [](const Call& call) -> Str {
+                 if (call.a == "null")
+                     return dec(call.p.writeByteArray(size_t(num(call.b)), nullptr));
+                 std::vector<uint8_t> v = bytes(call.a);
+                 return dec(call.p.writeByteArray(v.size(), v.empty() ? scratch() : v.data()));
+             }},
+            {"wbaL",
+             // length to be refused
+             [](const Call& call) -> Str {
+                 return dec(call.p.writeByteArray(size_t(num(call.a)), scratch()));
+             }},
+            {"wr",
+             // write(pointer, length)
+             [](const Call& call) -> Str {
+                 std::vector<uint8_t> v = bytes(call.a);
+                 return dec(call.p.write(v.empty() ? scratch() : v.data(), v.size()));
+             }},
+            {"wrL",
+             // length to be refused
+             [](const Call& call) -> Str {
+                 return dec(call.p.write(scratch(), size_t(num(call.a))));
+             }},
+            {"w64",
+             [](const Call& call) -> Str { return dec(call.p.writeInt64(int64_t(num(call.a)))); }},
+            {"wd",
+             [](const Call& call) -> Str {
+                 return dec(call.p.writeDouble(asDouble(num(call.a))));
+             }},
+            {"ws8",
+             [](const Call& call) -> Str {
+                 std::vector<uint8_t> v = bytes(call.a);
+                 v.push_back(0);
+                 return dec(call.p.writeString8(
+                         String8(reinterpret_cast<const char*>(v.data()), v.size() - 1)));
+             }},
+            {"wc",
+             [](const Call& call) -> Str {
+                 std::vector<uint8_t> v = bytes(call.a);
+                 v.push_back(0);
+                 return dec(call.p.writeCString(reinterpret_cast<const char*>(v.data())));
+             }},
+            {"wv16",
+             // strings separated by ',', "none": no strings
+             [](const Call& call) -> Str {
+                 std::vector<String16> v;
+                 if (call.a != "none")
+                     for (const Str& e : split(call.a, ',')) {
+                         std::u16string u = units(e);
+                         v.push_back(String16(u.data(), u.size()));
+                     }
+                 return dec(call.p.writeString16Vector(v));
+             }},
+            {"wit",
+             [](const Call& call) -> Str {
+                 std::u16string u = units(call.a);
+                 return dec(call.p.writeInterfaceToken(String16(u.data(), u.size())));
+             }},
+            {"wu64", [](const Call& call) -> Str { return dec(call.p.writeUint64(num(call.a))); }},
+            {"wby",
+             [](const Call& call) -> Str { return dec(call.p.writeByte(int8_t(num(call.a)))); }},
+            {"wch",
+             [](const Call& call) -> Str { return dec(call.p.writeChar(char16_t(num(call.a)))); }},
+            {"wi32a",
+             [](const Call& call) -> Str {
+                 if (call.a == "null")
+                     return dec(call.p.writeInt32Array(size_t(num(call.b)), nullptr));
+                 std::vector<uint8_t> v = bytes(call.a);
+                 std::vector<int32_t> i(v.size() / 4 + 1);
+                 if (!v.empty()) memcpy(i.data(), v.data(), v.size() / 4 * 4);
+                 return dec(call.p.writeInt32Array(v.size() / 4, i.data()));
+             }},
+            {"wbv",
+             [](const Call& call) -> Str { return dec(call.p.writeByteVector(bytes(call.a))); }},
+            {"wi32v",
+             [](const Call& call) -> Str {
+                 std::vector<uint8_t> v = bytes(call.a);
+                 std::vector<int32_t> i(v.size() / 4);
+                 if (!i.empty()) memcpy(i.data(), v.data(), i.size() * 4);
+                 return dec(call.p.writeInt32Vector(i));
+             }},
+            {"wfv",
+             [](const Call& call) -> Str {
+                 std::vector<uint8_t> v = bytes(call.a);
+                 std::vector<float> i(v.size() / 4);
+                 if (!i.empty()) memcpy(i.data(), v.data(), i.size() * 4);
+                 return dec(call.p.writeFloatVector(i));
+             }},
+            {"wbov",
+             [](const Call& call) -> Str {
+                 std::vector<bool> v;
+                 if (call.a != "-")
+                     for (char c : call.a) v.push_back(c == '1');
+                 return dec(call.p.writeBoolVector(v));
+             }},
+            {"wu8",
+             [](const Call& call) -> Str {
+                 std::vector<uint8_t> v = bytes(call.a);
+                 return dec(call.p.writeUtf8AsUtf16(Str(v.begin(), v.end())));
+             }},
+            {"wun",
+             [](const Call& call) -> Str {
+                 std::vector<uint8_t> v = bytes(call.a);
+                 return dec(call.p.writeUnpadded(v.empty() ? scratch() : v.data(), v.size()));
+             }},
+            {"wip",
+             // writeInplace(length), then the bytes are copied there
+             [](const Call& call) -> Str {
+                 std::vector<uint8_t> v = bytes(call.a);
+                 void* q = call.p.writeInplace(v.size());
+                 if (!q) return "null";
+                 if (!v.empty()) memcpy(q, v.data(), v.size());
+                 return "ptr";
+             }},
+    };
+}
 
-    // -- reads
-    if (op == "r32") return h32(uint32_t(p.readInt32()));
-    if (op == "r32p") {
-        int32_t v = 0x5a5a5a5a;
-        status_t s = p.readInt32(&v);
-        return dec(s) + " " + h32(uint32_t(v));
-    }
-    if (op == "ru32") return h32(p.readUint32());
-    if (op == "ru32p") {
-        uint32_t v = 0x5a5a5a5a;
-        status_t s = p.readUint32(&v);
-        return dec(s) + " " + h32(v);
-    }
-    if (op == "rf") return h32(bits32(p.readFloat()));
-    if (op == "rfp") {
-        float v = asFloat(0x3f9df3b6);
-        status_t s = p.readFloat(&v);
-        return dec(s) + " " + h32(bits32(v));
-    }
-    if (op == "rb") return p.readBool() ? "1" : "0";
-    if (op == "rbp") {
-        bool v = true;
-        status_t s = p.readBool(&v);
-        return dec(s) + (v ? " 1" : " 0");
-    }
-    if (op == "rs16") return s16(p.readString16());
-    if (op == "rs16p") {
-        String16 v("before");
-        status_t s = p.readString16(&v);
-        return dec(s) + " " + s16(v);
-    }
-    if (op == "rs16i") {
-        size_t n = 0x5a5a5a5a;
-        const char16_t* q = p.readString16Inplace(&n);
-        return q ? h32(uint32_t(n)) + " " + hexUnits(q, n) : "null " + h32(uint32_t(n));
-    }
-    if (op == "rr") {  // read(buffer, length)
-        const size_t n = size_t(num(a));
-        std::vector<uint8_t> v((n < kScratch ? n : kScratch) + 16, 0xee);
-        status_t s = p.read(v.data(), n);
-        if (s == 0) {
-            for (size_t i = n; i < v.size(); i++)
-                if (v[i] != 0xee) return "overrun";
-            return "0 " + hex(v.data(), n);
-        }
-        for (uint8_t c : v)
-            if (c != 0xee) return dec(s) + " touched";
-        return dec(s);
-    }
-    if (op == "ri") {  // readInplace(length)
-        const size_t n = size_t(num(a));
-        const void* q = p.readInplace(n);
-        return q ? hex(q, n) : "null";
-    }
+// Size, position and whole contents.
+Operations sizes() {
+    return {
+            {"sds",
+             [](const Call& call) -> Str { return dec(call.p.setDataSize(size_t(num(call.a)))); }},
+            {"sdp",
+             [](const Call& call) -> Str {
+                 call.p.setDataPosition(size_t(num(call.a)));
+                 return "void";
+             }},
+            {"sd",
+             [](const Call& call) -> Str {
+                 std::vector<uint8_t> v = bytes(call.a);
+                 return dec(call.p.setData(v.empty() ? scratch() : v.data(), v.size()));
+             }},
+            {"sdL",
+             // length to be refused
+             [](const Call& call) -> Str {
+                 return dec(call.p.setData(scratch(), size_t(num(call.a))));
+             }},
+            {"fd",
+             [](const Call& call) -> Str {
+                 call.p.freeData();
+                 return "void";
+             }},
+            {"ap",
+             [](const Call& call) -> Str {
+                 return dec(call.p.appendFrom(&call.o, size_t(num(call.a)), size_t(num(call.b))));
+             }},
+            {"dump",
+             [](const Call& call) -> Str {
+                 size_t n = trueSize(call.p);
+                 return hex(call.p.data(), n);
+             }},
+            {"sdc",
+             [](const Call& call) -> Str {
+                 return dec(call.p.setDataCapacity(size_t(num(call.a))));
+             }},
+            {"cmp",
+             [](const Call& call) -> Str {
+                 int c = call.p.compareData(call.o);
+                 return c < 0 ? "-1" : c > 0 ? "1" : "0";
+             }},
+            {"obj", [](const Call& call) -> Str { return dec((long long)call.p.objectsCount()); }},
+            {"fds",
+             [](const Call& call) -> Str { return call.p.hasFileDescriptors() ? "1" : "0"; }},
+            {"seterr",
+             [](const Call& call) -> Str {
+                 call.p.setError(int32_t(num(call.a)));
+                 return "void";
+             }},
+            {"err", [](const Call& call) -> Str { return dec(call.p.errorCheck()); }},
+    };
+}
 
-    if (op == "w64") return dec(p.writeInt64(int64_t(num(a))));
-    if (op == "r64") return h64(uint64_t(p.readInt64()));
-    if (op == "r64p") {
-        int64_t v = 0x5a5a5a5a;
-        status_t s = p.readInt64(&v);
-        return dec(s) + " " + h64(uint64_t(v));
-    }
-    if (op == "wd") return dec(p.writeDouble(asDouble(num(a))));
-    if (op == "rd") return h64(bits64(p.readDouble()));
-    if (op == "rdp") {
-        double v = asDouble(0x3ff3be76c8b43958);
-        status_t s = p.readDouble(&v);
-        return dec(s) + " " + h64(bits64(v));
-    }
-    if (op == "ws8") {
-        std::vector<uint8_t> v = bytes(a);
-        v.push_back(0);
-        return dec(p.writeString8(String8(reinterpret_cast<const char*>(v.data()), v.size() - 1)));
-    }
-    if (op == "rs8") {
-        String8 v = p.readString8();
-        return hex(v.string(), v.size());
-    }
-    if (op == "rs8p") {
-        String8 v("before");
-        status_t s = p.readString8(&v);
-        return dec(s) + " " + hex(v.string(), v.size());
-    }
-    if (op == "wc") {
-        std::vector<uint8_t> v = bytes(a);
-        v.push_back(0);
-        return dec(p.writeCString(reinterpret_cast<const char*>(v.data())));
-    }
-    if (op == "rc") {
-        const char* q = p.readCString();
-        return q ? hex(q, strlen(q)) : "null";
-    }
-    if (op == "rbv") {
-        std::vector<uint8_t> v(3, 9);
-        status_t s = p.readByteVector(&v);
-        return s ? dec(s) : "0 " + hex(v.data(), v.size());
-    }
-    if (op == "rbvi") {
-        std::vector<int8_t> v(3, 9);
-        status_t s = p.readByteVector(&v);
-        return s ? dec(s) : "0 " + hex(v.data(), v.size());
-    }
-    if (op == "wv16") {  // strings separated by ',', "none": no strings
-        std::vector<String16> v;
-        if (a != "none")
-            for (const Str& e : split(a, ',')) {
-                std::u16string u = units(e);
-                v.push_back(String16(u.data(), u.size()));
-            }
-        return dec(p.writeString16Vector(v));
-    }
-    if (op == "rv16") {
-        std::vector<String16> v(2, String16("before"));
-        status_t s = p.readString16Vector(&v);
-        if (s) return dec(s);
-        Str r = "0 ";
-        for (size_t i = 0; i < v.size(); i++) r += (i ? "," : "") + s16(v[i]);
-        return v.empty() ? "0 none" : r;
-    }
-    if (op == "wit") {
-        std::u16string u = units(a);
-        return dec(p.writeInterfaceToken(String16(u.data(), u.size())));
-    }
-    if (op == "enf") {
-        std::u16string u = units(a);
-        return p.enforceInterface(String16(u.data(), u.size())) ? "1" : "0";
-    }
-    if (op == "chk") {
-        std::u16string u = units(a);
-        android::sp<android::IBinder> binder(new LocalBinder(String16(u.data(), u.size())));
-        return p.checkInterface(binder.get()) ? "1" : "0";
-    }
-    if (op == "wu64") return dec(p.writeUint64(num(a)));
-    if (op == "ru64") return h64(p.readUint64());
-    if (op == "ru64p") {
-        uint64_t v = 0x5a5a5a5a;
-        status_t s = p.readUint64(&v);
-        return dec(s) + " " + h64(v);
-    }
-    if (op == "wby") return dec(p.writeByte(int8_t(num(a))));
-    if (op == "rby") return h32(uint32_t(int32_t(p.readByte())));
-    if (op == "rbyp") {
-        int8_t v = 0x5a;
-        status_t s = p.readByte(&v);
-        return dec(s) + " " + h32(uint32_t(int32_t(v)));
-    }
-    if (op == "wch") return dec(p.writeChar(char16_t(num(a))));
-    if (op == "rch") return h32(p.readChar());
-    if (op == "rchp") {
-        char16_t v = 0x5a5a;
-        status_t s = p.readChar(&v);
-        return dec(s) + " " + h32(v);
-    }
-    if (op == "wi32a") {
-        if (a == "null") return dec(p.writeInt32Array(size_t(num(b)), nullptr));
-        std::vector<uint8_t> v = bytes(a);
-        std::vector<int32_t> i(v.size() / 4 + 1);
-        if (!v.empty()) memcpy(i.data(), v.data(), v.size() / 4 * 4);
-        return dec(p.writeInt32Array(v.size() / 4, i.data()));
-    }
-    if (op == "wbv") return dec(p.writeByteVector(bytes(a)));
-    if (op == "wi32v") {
-        std::vector<uint8_t> v = bytes(a);
-        std::vector<int32_t> i(v.size() / 4);
-        if (!i.empty()) memcpy(i.data(), v.data(), i.size() * 4);
-        return dec(p.writeInt32Vector(i));
-    }
-    if (op == "ri32v") {
-        std::vector<int32_t> v(3, 9);
-        status_t s = p.readInt32Vector(&v);
-        return s ? dec(s) : "0 " + hex(v.data(), v.size() * 4);
-    }
-    if (op == "wfv") {
-        std::vector<uint8_t> v = bytes(a);
-        std::vector<float> i(v.size() / 4);
-        if (!i.empty()) memcpy(i.data(), v.data(), i.size() * 4);
-        return dec(p.writeFloatVector(i));
-    }
-    if (op == "rfv") {
-        std::vector<float> v(3, 9);
-        status_t s = p.readFloatVector(&v);
-        return s ? dec(s) : "0 " + hex(v.data(), v.size() * 4);
-    }
-    if (op == "wbov") {
-        std::vector<bool> v;
-        if (a != "-")
-            for (char c : a) v.push_back(c == '1');
-        return dec(p.writeBoolVector(v));
-    }
-    if (op == "rbov") {
-        std::vector<bool> v(3, true);
-        status_t s = p.readBoolVector(&v);
-        if (s) return dec(s);
-        Str r = "0 ";
-        for (size_t i = 0; i < v.size(); i++) r += v[i] ? '1' : '0';
-        return v.empty() ? "0 -" : r;
-    }
-    if (op == "wu8") {
-        std::vector<uint8_t> v = bytes(a);
-        return dec(p.writeUtf8AsUtf16(Str(v.begin(), v.end())));
-    }
-    if (op == "ru8") {
-        Str v = "before";
-        status_t s = p.readUtf8FromUtf16(&v);
-        return s ? dec(s) : "0 " + hex(v.data(), v.size());
-    }
-    if (op == "rs16u") {
-        std::unique_ptr<String16> v(new String16("before"));
+// Reading, and the checks that read.
+Operations reads() {
+    return {
+            {"r32", [](const Call& call) -> Str { return h32(uint32_t(call.p.readInt32())); }},
+            {"r32p",
+             [](const Call& call) -> Str {
+                 int32_t v = 0x5a5a5a5a;
+                 status_t s = call.p.readInt32(&v);
+                 return dec(s) + " " + h32(uint32_t(v));
+             }},
+            {"ru32", [](const Call& call) -> Str { return h32(call.p.readUint32()); }},
+            {"ru32p",
+             [](const Call& call) -> Str {
+                 uint32_t v = 0x5a5a5a5a;
+                 status_t s = call.p.readUint32(&v);
+                 return dec(s) + " " + h32(v);
+             }},
+            {"rf", [](const Call& call) -> Str { return h32(bits32(call.p.readFloat())); }},
+            {"rfp",
+             [](const Call& call) -> Str {
+                 float v = asFloat(0x3f9df3b6);
+                 status_t s = call.p.readFloat(&v);
+                 return dec(s) + " " + h32(bits32(v));
+             }},
+            {"rb", [](const Call& call) -> Str { return call.p.readBool() ? "1" : "0"; }},
+            {"rbp",
+             [](const Call& call) -> Str {
+                 bool v = true;
+                 status_t s = call.p.readBool(&v);
+                 return dec(s) + (v ? " 1" : " 0");
+             }},
+            {"rs16", [](const Call& call) -> Str { return s16(call.p.readString16()); }},
+            {"rs16p",
+             [](const Call& call) -> Str {
+                 String16 v("before");
+                 status_t s = call.p.readString16(&v);
+                 return dec(s) + " " + s16(v);
+             }},
+            {"rs16i",
+             [](const Call& call) -> Str {
+                 size_t n = 0x5a5a5a5a;
+                 const char16_t* q = call.p.readString16Inplace(&n);
+                 return q ? h32(uint32_t(n)) + " " + hexUnits(q, n) : "null " + h32(uint32_t(n));
+             }},
+            {"rr",
+             // read(buffer, length)
+             [](const Call& call) -> Str {
+                 const size_t n = size_t(num(call.a));
+                 std::vector<uint8_t> v((n < kScratch ? n : kScratch) + 16, 0xee);
+                 status_t s = call.p.read(v.data(), n);
+                 if (s == 0) {
+                     for (size_t i = n; i < v.size(); i++)
+                         if (v[i] != 0xee) return "overrun";
+                     return "0 " + hex(v.data(), n);
+                 }
+                 for (uint8_t c : v)
+                     if (c != 0xee) return dec(s) + " touched";
+                 return dec(s);
+             }},
+            {"ri",
+             // readInplace(length)
+             [](const Call& call) -> Str {
+                 const size_t n = size_t(num(call.a));
+                 const void* q = call.p.readInplace(n);
+                 return q ? hex(q, n) : "null";
+             }},
+            {"r64", [](const Call& call) -> Str { return h64(uint64_t(call.p.readInt64())); }},
+            {"r64p",
+             [](const Call& call) -> Str {
+                 int64_t v = 0x5a5a5a5a;
+                 status_t s = call.p.readInt64(&v);
+                 return dec(s) + " " + h64(uint64_t(v));
+             }},
+            {"rd", [](const Call& call) -> Str { return h64(bits64(call.p.readDouble())); }},
+            {"rdp",
+             [](const Call& call) -> Str {
+                 double v = asDouble(0x3ff3be76c8b43958);
+                 status_t s = call.p.readDouble(&v);
+                 return dec(s) + " " + h64(bits64(v));
+             }},
+            {"rs8",
+             [](const Call& call) -> Str {
+                 String8 v = call.p.readString8();
+                 return hex(v.string(), v.size());
+             }},
+            {"rs8p",
+             [](const Call& call) -> Str {
+                 String8 v("before");
+                 status_t s = call.p.readString8(&v);
+                 return dec(s) + " " + hex(v.string(), v.size());
+             }},
+            {"rc",
+             [](const Call& call) -> Str {
+                 const char* q = call.p.readCString();
+                 return q ? hex(q, strlen(q)) : "null";
+             }},
+            {"rbv",
+             [](const Call& call) -> Str {
+                 std::vector<uint8_t> v(3, 9);
+                 status_t s = call.p.readByteVector(&v);
+                 return s ? dec(s) : "0 " + hex(v.data(), v.size());
+             }},
+            {"rbvi",
+             [](const Call& call) -> Str {
+                 std::vector<int8_t> v(3, 9);
+                 status_t s = call.p.readByteVector(&v);
+                 return s ? dec(s) : "0 " + hex(v.data(), v.size());
+             }},
+            {"rv16",
+             [](const Call& call) -> Str {
+                 std::vector<String16> v(2, String16("before"));
+                 status_t s = call.p.readString16Vector(&v);
+                 if (s) return dec(s);
+                 Str r = "0 ";
+                 for (size_t i = 0; i < v.size(); i++) r += (i ? "," : "") + s16(v[i]);
+                 return v.empty() ? "0 none" : r;
+             }},
+            {"enf",
+             [](const Call& call) -> Str {
+                 std::u16string u = units(call.a);
+                 return call.p.enforceInterface(String16(u.data(), u.size())) ? "1" : "0";
+             }},
+            {"chk",
+             [](const Call& call) -> Str {
+                 std::u16string u = units(call.a);
+                 android::sp<android::IBinder> binder(
+                         new LocalBinder(String16(u.data(), u.size())));
+                 return call.p.checkInterface(binder.get()) ? "1" : "0";
+             }},
+            {"ru64", [](const Call& call) -> Str { return h64(call.p.readUint64()); }},
+            {"ru64p",
+             [](const Call& call) -> Str {
+                 uint64_t v = 0x5a5a5a5a;
+                 status_t s = call.p.readUint64(&v);
+                 return dec(s) + " " + h64(v);
+             }},
+            {"rby",
+             [](const Call& call) -> Str { return h32(uint32_t(int32_t(call.p.readByte()))); }},
+            {"rbyp",
+             [](const Call& call) -> Str {
+                 int8_t v = 0x5a;
+                 status_t s = call.p.readByte(&v);
+                 return dec(s) + " " + h32(uint32_t(int32_t(v)));
+             }},
+            {"rch", [](const Call& call) -> Str { return h32(call.p.readChar()); }},
+            {"rchp",
+             [](const Call& call) -> Str {
+                 char16_t v = 0x5a5a;
+                 status_t s = call.p.readChar(&v);
+                 return dec(s) + " " + h32(v);
+             }},
+            {"ri32v",
+             [](const Call& call) -> Str {
+                 std::vector<int32_t> v(3, 9);
+                 status_t s = call.p.readInt32Vector(&v);
+                 return s ? dec(s) : "0 " + hex(v.data(), v.size() * 4);
+             }},
+            {"rfv",
+             [](const Call& call) -> Str {
+                 std::vector<float> v(3, 9);
+                 status_t s = call.p.readFloatVector(&v);
+                 return s ? dec(s) : "0 " + hex(v.data(), v.size() * 4);
+             }},
+            {"rbov",
+             [](const Call& call) -> Str {
+                 std::vector<bool> v(3, true);
+                 status_t s = call.p.readBoolVector(&v);
+                 if (s) return dec(s);
+                 Str r = "0 ";
+                 for (size_t i = 0; i < v.size(); i++) r += v[i] ? '1' : '0';
+                 return v.empty() ? "0 -" : r;
+             }},
+            {"ru8",
+             [](const Call& call) -> Str {
+                 Str v = "before";
+                 status_t s = call.p.readUtf8FromUtf16(&v);
+                 return s ? dec(s) : "0 " + hex(v.data(), v.size());
+             }},
+            {"rs16u",
+             [](const Call& call) -> Str {
+                 std::unique_ptr<String16> v(new String16("before"));
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-        status_t s = p.readString16(&v);
+                 status_t s = call.p.readString16(&v);
 #pragma GCC diagnostic pop
-        return s ? dec(s) : v ? "0 " + s16(*v) : "0 null";
-    }
-    if (op == "wun") {
-        std::vector<uint8_t> v = bytes(a);
-        return dec(p.writeUnpadded(v.empty() ? scratch() : v.data(), v.size()));
-    }
-    if (op == "wip") {  // writeInplace(length), then the bytes are copied there
-        std::vector<uint8_t> v = bytes(a);
-        void* q = p.writeInplace(v.size());
-        if (!q) return "null";
-        if (!v.empty()) memcpy(q, v.data(), v.size());
-        return "ptr";
-    }
-    if (op == "sdc") return dec(p.setDataCapacity(size_t(num(a))));
-    if (op == "cmp") {
-        int c = p.compareData(o);
-        return c < 0 ? "-1" : c > 0 ? "1" : "0";
-    }
-    if (op == "obj") return dec((long long)p.objectsCount());
-    if (op == "fds") return p.hasFileDescriptors() ? "1" : "0";
-    if (op == "seterr") {
-        p.setError(int32_t(num(a)));
-        return "void";
-    }
-    if (op == "err") return dec(p.errorCheck());
-    return "!unknown-op";
+                 return s ? dec(s) : v ? "0 " + s16(*v) : "0 null";
+             }},
+    };
+}
+
+Operations allOperations() {
+    Operations all = writes();
+    all.merge(sizes());
+    all.merge(reads());
+    return all;
+}
+
+// Runs one operation on p (o is the other parcel); returns its result text.
+Str exec(Parcel& p, Parcel& o, const Words& w) {
+    static const Operations operations = allOperations();
+    const auto operation = operations.find(w[0]);
+    if (operation == operations.end()) return "!unknown-op";
+    return operation->second({p, o, w.size() > 1 ? w[1] : "", w.size() > 2 ? w[2] : ""});
 }
 
 bool same(const Str& want, const Str& got) {

@@ -118,6 +118,7 @@ status_t Desk::onTransact(uint32_t code, const Parcel& data, Parcel* reply, uint
             reply->writeInt32(counts.lent);
             reply->writeInt32(counts.holds);
             reply->writeInt32(counts.waiting);
+            reply->writeInt32(counts.peers);
             return reply->writeInt32(counts.descriptors);
         }
         case VANISH:
@@ -132,8 +133,8 @@ Counts countsHere() {
     if (carrier == nullptr) return {};
     const auto counts = carrier->counts();
     return {static_cast<int32_t>(counts.objects.remotes), static_cast<int32_t>(counts.objects.lent),
-            static_cast<int32_t>(counts.objects.holds), static_cast<int32_t>(counts.waitingCalls),
-            static_cast<int32_t>(openDescriptors())};
+            static_cast<int32_t>(counts.objects.holds),   static_cast<int32_t>(counts.waitingCalls),
+            static_cast<int32_t>(counts.peers),           static_cast<int32_t>(openDescriptors())};
 }
 
 status_t DeskClient::send(uint32_t code) const {
@@ -230,12 +231,13 @@ status_t DeskClient::vanish() const {
 Counts DeskClient::counts() const {
     Parcel data;
     Parcel reply;
-    if (mDesk->transact(Desk::COUNTS, data, &reply) != NO_ERROR) return {-1, -1, -1, -1, -1};
+    if (mDesk->transact(Desk::COUNTS, data, &reply) != NO_ERROR) return {-1, -1, -1, -1, -1, -1};
     Counts counts;
     counts.proxies = reply.readInt32();
     counts.lent = reply.readInt32();
     counts.holds = reply.readInt32();
     counts.waiting = reply.readInt32();
+    counts.peers = reply.readInt32();
     counts.descriptors = reply.readInt32();
     return counts;
 }

@@ -33,6 +33,10 @@ constexpr char kDeskBusName[] = "tarn.binder.name_tarn-dtest-ddesk";
 constexpr char kRogueName[] = "tarn.test.rogue";
 constexpr char kRogueBusName[] = "tarn.binder.name_tarn-dtest-drogue";
 
+// What no bus gives to a connection, though it begins as if.
+const std::vector<std::string> kNoUniqueNames = {
+        ":", ":1", ":.", ":1.", ":.1", ":1..2", ":1.x", ":1." + std::string(253, '1')};
+
 sp<IBinder> find(const std::string& name) {
     return android::defaultServiceManager()->checkService(String16(name.c_str()));
 }
@@ -104,14 +108,15 @@ class Hostile : public testing::Test {
         mDescriptors = mDesk.counts().descriptors;
     }
 
-    // Everybody else is served as before, and nothing is left of what the rogue sent.
+    // Everybody else is served as before, and nothing is left of what the rogue sent: the desk
+    // knows of it and of this process alone.
     ~Hostile() override {
         std::vector<uint8_t> back;
         EXPECT_EQ(NO_ERROR, mDesk.echo({1, 2, 3}, &back));
         EXPECT_TRUE(eventually([this] {
             const Counts counts = mDesk.counts();
             return counts.proxies == 0 && counts.lent == 1 && counts.waiting == 0 &&
-                   counts.descriptors <= mDescriptors;
+                   counts.peers == 2 && counts.descriptors <= mDescriptors;
         }));
     }
 
@@ -226,7 +231,9 @@ TEST_F(Hostile, ObjectsThatDoNotFitIntoTheBytesAreRefused) {
 TEST_F(Hostile, ReferencesToNothingAreRefused) {
     Content content;
     content.bytes.resize(56);
-    for (const std::string owner : {"org.freedesktop.DBus", "x", ":", ":1.x", "/", kDeskBusName}) {
+    std::vector<std::string> owners = {"org.freedesktop.DBus", "x", "/", kDeskBusName};
+    owners.insert(owners.end(), kNoUniqueNames.begin(), kNoUniqueNames.end());
+    for (const std::string& owner : owners) {
         content.references = {{0, "", 7}, {28, owner, 8}};
         EXPECT_EQ(kMalformed, transact(content)) << owner;
     }
@@ -290,7 +297,9 @@ TEST_F(Hostile, NobodyCanReleaseWhatOthersHold) {
 }
 
 TEST_F(Hostile, NothingIsHeldForThoseWhoAreNotThere) {
-    for (const std::string holder : {":1.999999", "", "x", "org.freedesktop.DBus"}) {
+    std::vector<std::string> holders = {":1.999999", "", "x", "org.freedesktop.DBus"};
+    holders.insert(holders.end(), kNoUniqueNames.begin(), kNoUniqueNames.end());
+    for (const std::string& holder : holders) {
         mRogue.send(kGrant, [&](sdbus::Message& m) { m << mNumber << holder; });
         mRogue.send(kGrant, [&](sdbus::Message& m) { m << mNumber + 1 << holder; });
     }
@@ -466,9 +475,12 @@ TEST(HostileService, ObjectsOfTheWrongKindAreFailures) {
     };
     const std::vector<uint8_t> room(28);
     EXPECT_EQ(FAILED_TRANSACTION, statusOf({{{0, "org.freedesktop.DBus", 1}}, room}));
+    for (const std::string& owner : kNoUniqueNames) {
+        EXPECT_EQ(FAILED_TRANSACTION, statusOf({{{0, owner, 1}}, room})) << owner;
+    }
     EXPECT_EQ(BAD_VALUE, statusOf({{{1, "", 1}}, room}));
     EXPECT_EQ(NO_ERROR, statusOf({{{0, "", 1}}, room}));
-    EXPECT_TRUE(eventually([] { return countsHere().proxies == 0; }));
+    EXPECT_TRUE(eventually([] { return countsHere().proxies == 0 && countsHere().peers == 0; }));
 }
 
 TEST(HostileService, ErrorsAreFailures) {
@@ -494,9 +506,14 @@ TEST(HostileService, AnswersOfTheWrongShapeFindNothing) {
     EXPECT_EQ(nullptr, found("t", [](sdbus::Message& m) { m << uint64_t{5}; }).get());
     EXPECT_EQ(nullptr,
               found("st", [](sdbus::Message& m) { m << std::string("x") << uint64_t{5}; }).get());
+    for (const std::string& owner : kNoUniqueNames) {
+        EXPECT_EQ(nullptr, found("st", [&](sdbus::Message& m) { m << owner << uint64_t{5}; }).get())
+                << owner;
+    }
     EXPECT_EQ(nullptr, found("ss", [](sdbus::Message& m) {
                            m << std::string(":1.1") << std::string("5");
                        }).get());
+    EXPECT_TRUE(eventually([] { return countsHere().peers == 0; }));
 }
 
 }  // namespace

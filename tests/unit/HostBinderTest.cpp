@@ -617,6 +617,18 @@ TEST_F(HostCarrier, TurnsDeadWhenACallFindsNobody) {
     EXPECT_FALSE(proxy->isBinderAlive());
 }
 
+TEST_F(HostCarrier, SendsNoBinderBeyondTheSize) {
+    const sp<IBinder> proxy = proxyOf(new Echo);
+    Parcel binders;
+    binders.writeStrongBinder(new BBinder);
+    Parcel data;
+    data.writeInt32(1);
+    data.setDataPosition(60);
+    ASSERT_EQ(NO_ERROR, data.appendFrom(&binders, 0, binders.dataSize()));
+    Parcel reply;
+    EXPECT_EQ(NO_ERROR, proxy->transact(IBinder::PING_TRANSACTION, data, &reply));
+}
+
 TEST_F(HostCarrier, RefusesObjectsThatDoNotFitIntoTheirBytes) {
     const sp<IBinder> binder = new BBinder;
     Parcel parcel;

@@ -137,6 +137,43 @@ TEST(HostParcel, AppendsAPartOfItself) {
     EXPECT_NE(nullptr, first.get());
 }
 
+TEST(HostParcel, AppendsAPartOfItselfOverItsOwnBinders) {
+    Parcel parcel;
+    parcel.writeStrongBinder(new CountedBinder);
+    parcel.writeStrongBinder(new CountedBinder);
+    parcel.setDataPosition(28);
+    ASSERT_EQ(NO_ERROR, parcel.appendFrom(&parcel, 0, 56));
+    EXPECT_EQ(2, CountedBinder::sAlive);
+    ASSERT_EQ(3u, parcel.objectsCount());
+    parcel.setDataPosition(0);
+    const sp<IBinder> first = parcel.readStrongBinder();
+    EXPECT_EQ(first, parcel.readStrongBinder());
+    const sp<IBinder> second = parcel.readStrongBinder();
+    ASSERT_NE(nullptr, second.get());
+    EXPECT_NE(first, second);
+    EXPECT_EQ(NO_ERROR, second->pingBinder());
+}
+
+// It is written at the position, but the size grows by its length alone.
+TEST(HostParcel, AppendsNoBinderBeyondItsSize) {
+    Parcel binders;
+    binders.writeStrongBinder(new CountedBinder);
+    binders.writeStrongBinder(new CountedBinder);
+    Parcel parcel;
+    parcel.writeInt32(1);
+    parcel.setDataPosition(20);
+    ASSERT_EQ(NO_ERROR, parcel.appendFrom(&binders, 0, 56));
+    parcel.setDataPosition(0);
+    EXPECT_EQ(60u, parcel.dataSize());
+    EXPECT_EQ(1u, parcel.objectsCount());
+    parcel.setDataPosition(20);
+    EXPECT_NE(nullptr, parcel.readStrongBinder().get());
+    parcel.setDataSize(0);
+    parcel.setDataPosition(60);
+    ASSERT_EQ(NO_ERROR, parcel.appendFrom(&binders, 0, 56));
+    EXPECT_EQ(0u, parcel.objectsCount());
+}
+
 TEST(HostParcel, AppendsAWindowWithoutTheBindersItCuts) {
     Parcel source;
     source.writeStrongBinder(new CountedBinder);
@@ -435,6 +472,45 @@ TEST(HostParcel, RefusesAbsurdSizesAndStaysAsItWas) {
     EXPECT_EQ(nullptr, parcel.writeInplace(INT32_MAX - 1));
     EXPECT_EQ("05000000", hexOf(parcel));
     EXPECT_EQ(4u, parcel.dataPosition());
+}
+
+TEST(HostParcel, TakesAPartOfItsOwnBytesAsItsData) {
+    for (const size_t capacity : {size_t{12}, size_t{1000}}) {
+        Parcel parcel;
+        parcel.setDataCapacity(capacity);
+        for (int32_t i = 0; i < 200; i++) parcel.writeInt32(i);
+        ASSERT_EQ(NO_ERROR, parcel.setData(parcel.data() + 4, 12));
+        EXPECT_EQ("010000000200000003000000", hexOf(parcel));
+        EXPECT_EQ(12u, parcel.dataCapacity());
+        // Of the size of its block, all of it.
+        ASSERT_EQ(NO_ERROR, parcel.setData(parcel.data(), 12));
+        EXPECT_EQ("010000000200000003000000", hexOf(parcel));
+        ASSERT_EQ(NO_ERROR, parcel.setData(parcel.data() + 4, 0));
+        EXPECT_EQ("", hexOf(parcel));
+    }
+}
+
+TEST(HostParcel, GivesItsMemoryBackWhenItIsSetToNothing) {
+    Parcel parcel;
+    const uint8_t none = 0;
+    ASSERT_EQ(NO_ERROR, parcel.setData(&none, 0));
+    EXPECT_NE(nullptr, parcel.readInplace(0));
+    // Every other time there is a block for nothing.
+    ASSERT_EQ(NO_ERROR, parcel.setData(&none, 0));
+    EXPECT_EQ(nullptr, parcel.readInplace(0));
+    ASSERT_EQ(NO_ERROR, parcel.setData(&none, 0));
+    EXPECT_NE(nullptr, parcel.readInplace(0));
+}
+
+TEST(HostParcel, WritesBehindItsBlockFromAnyPositionBeyond) {
+    for (const size_t position :
+         {size_t{1000}, size_t{INT32_MAX} - 15, size_t{INT32_MAX} - 2, size_t{INT32_MAX}}) {
+        Parcel parcel;
+        parcel.writeInt32(5);
+        parcel.setDataPosition(position);
+        EXPECT_EQ(NO_ERROR, parcel.writeInt32(6)) << position;
+        EXPECT_EQ(132u, parcel.dataPosition()) << position;
+    }
 }
 
 TEST(HostParcel, ReportsAWriteThatFindsNoRoom) {

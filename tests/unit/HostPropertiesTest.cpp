@@ -1,9 +1,12 @@
 #include <cutils/properties.h>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -18,6 +21,16 @@
 namespace {
 
 const std::string kLongest(91, 'v');
+
+std::string contentOf(const std::string& path) {
+    std::ostringstream content;
+    content << std::ifstream(path, std::ios::binary).rdbuf();
+    return content.str();
+}
+
+// What the file that was last flushed to the disk held; and what so at the last replacement.
+thread_local std::string gFlushed;
+thread_local std::string gFlushedBeforeRename;
 
 /** Gives each test a property file of its own. */
 class HostProperties : public testing::Test {
@@ -34,11 +47,7 @@ class HostProperties : public testing::Test {
     void writeFile(const std::string& content) {
         std::ofstream(mFile, std::ios::binary) << content;
     }
-    std::string fileContent() {
-        std::ostringstream content;
-        content << std::ifstream(mFile, std::ios::binary).rdbuf();
-        return content.str();
-    }
+    std::string fileContent() { return contentOf(mFile); }
 
     std::string mFolder;
     std::string mFile;
@@ -266,6 +275,13 @@ TEST_F(HostProperties, AreListedOnce) {
               (std::map<std::string, std::string>{{"persist.a", "1"}, {"persist.b", "3"}}));
 }
 
+TEST_F(HostProperties, AreOnTheDiskBeforeTheyReplaceTheOldOnes) {
+    property_set("persist.a", "1");
+    property_set("persist.a", "2");
+    EXPECT_NE(fileContent().find("persist.a=2"), std::string::npos);
+    EXPECT_EQ(gFlushedBeforeRename, fileContent());
+}
+
 TEST_F(HostProperties, ReadAsBooleans) {
     for (const char* text : {"1", "true", "y", "yes", "on"}) {
         property_set("vendor.bool", text);
@@ -299,4 +315,16 @@ TEST_F(HostProperties, ReadAsIntegers) {
     EXPECT_EQ(property_get_int64("vendor.int", 5), INT64_MIN);
     property_set("vendor.int", "9223372036854775808");
     EXPECT_EQ(property_get_int64("vendor.int", 5), 5);
+}
+
+// The library's calls come here.
+
+extern "C" int fsync(int fd) {
+    gFlushed = contentOf("/proc/self/fd/" + std::to_string(fd));
+    return static_cast<int>(syscall(SYS_fsync, fd));
+}
+
+extern "C" int rename(const char* from, const char* to) noexcept {
+    gFlushedBeforeRename = gFlushed;
+    return renameat(AT_FDCWD, from, AT_FDCWD, to);
 }

@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <exception>
 #include <utility>
 
 #include "Wire.h"
@@ -91,7 +92,7 @@ void BusLink::run() {
             deliver();
             if (!more) waitForEvents();
         }
-    } catch (const sdbus::Error& error) {
+    } catch (const std::exception& error) {
         deliver();
         breakOff(error.what());
     }
@@ -102,8 +103,17 @@ bool BusLink::process() {
     return mConnection->processPendingRequest();
 }
 
+// What one handler cannot cope with is no reason to leave the bus.
+void BusLink::handle(const std::function<void()>& handler) {
+    try {
+        handler();
+    } catch (const std::exception& error) {
+        ALOGE("A message could not be handled: %s", error.what());
+    }
+}
+
 void BusLink::deliver() {
-    for (const auto& arrived : std::exchange(mInbox, {})) arrived();
+    for (const auto& arrived : std::exchange(mInbox, {})) handle(arrived);
 }
 
 // A message that did not fit into the socket is written on by this thread; a sender that left one
@@ -136,11 +146,11 @@ void BusLink::breakOff(const char* why) {
         abandoned.swap(mPending);
         mWritten.notify_all();
     }
-    mListener->onDisconnected();
+    handle([this] { mListener->onDisconnected(); });
     const sdbus::Error error("org.freedesktop.DBus.Error.Disconnected", why);
     for (const std::shared_ptr<Pending>& pending : abandoned) {
         sdbus::MethodReply none;
-        pending->handler(none, &error);
+        handle([&] { pending->handler(none, &error); });
     }
 }
 

@@ -60,7 +60,10 @@ class BusLink {
     explicit BusLink(const std::string& address);
     ~BusLink();
 
-    /** Begins to read; the listener must outlive the link. */
+    /**
+     * Begins to read; the listener must outlive the link. Throws std::system_error if there can be
+     * no thread for it.
+     */
     void start(Listener* listener);
 
     const std::string& uniqueName() const { return mUniqueName; }
@@ -89,6 +92,7 @@ class BusLink {
     void run();
     bool process();
     void deliver();
+    static void handle(const std::function<void()>& handler);
     void waitForEvents();
     void breakOff(const char* why);
     void finish(const std::shared_ptr<Pending>& pending, sdbus::MethodReply& reply,

@@ -7,7 +7,9 @@
 #include <log/log.h>
 #include <utils/String8.h>
 
+#include <exception>
 #include <future>
+#include <optional>
 #include <utility>
 
 #include "ServiceName.h"
@@ -171,12 +173,17 @@ DBusCarrier::Answer DBusCarrier::onAnswer(sdbus::MethodReply& reply, const sdbus
         return {statusOf(error->getName()), {}};
     }
     Answer answer{UNKNOWN_ERROR, {}};
-    Content content;
-    if (!read(reply, &answer.status, &content) ||
-        !unpack(std::move(content), callee, &answer.content)) {
+    try {
+        Content content;
+        if (read(reply, &answer.status, &content) &&
+            unpack(std::move(content), callee, &answer.content)) {
+            return answer;
+        }
         ALOGW("A reply of process %d is malformed", callee->pid);
-        answer.status = FAILED_TRANSACTION;
+    } catch (const std::exception& failure) {
+        ALOGE("A reply of process %d cannot be taken: %s", callee->pid, failure.what());
     }
+    answer.status = FAILED_TRANSACTION;
     return answer;
 }
 
@@ -375,34 +382,38 @@ std::shared_ptr<Peer> DBusCarrier::peerNamed(const std::string& uniqueName) {
     std::shared_ptr<Peer> peer;
     {
         std::lock_guard<std::mutex> lock(mLock);
-        std::shared_ptr<Peer>& known = mPeers[uniqueName];
-        if (known != nullptr) return known;
-        peer = known = std::make_shared<Peer>(mLink, uniqueName);
+        const auto known = mPeers.find(uniqueName);
+        if (known != mPeers.end()) return known->second;
+        peer = std::make_shared<Peer>(mLink, uniqueName);
+        mPeers[uniqueName] = peer;
     }
     ask("GetConnectionUnixProcessID", *peer, [peer](sdbus::MethodReply& reply) {
         uint32_t pid = 0;
         reply >> pid;
         peer->pid = static_cast<pid_t>(pid);
     });
-    ask(
+    const bool asked = ask(
             "GetConnectionUnixUser", *peer,
             [peer](sdbus::MethodReply& reply) { reply >> peer->uid; },
             [this, peer](const sdbus::Error* error) {
                 identified(*peer);
                 if (error != nullptr && meansDeath(error->getName())) bury(peer);
             });
+    if (!asked) identified(*peer);
     return peer;
 }
 
-void DBusCarrier::ask(const char* question, const Peer& peer,
+// False if the question cannot be sent: then nothing will be told.
+bool DBusCarrier::ask(const char* question, const Peer& peer,
                       std::function<void(sdbus::MethodReply&)> onReply,
                       std::function<void(const sdbus::Error*)> then) {
     try {
         sdbus::MethodCall call = mLink.newCall(*mBus, kBusName, question);
         call << peer.name;
-        callBus(call, BusLink::kForever, std::move(onReply), std::move(then));
+        return callBus(call, BusLink::kForever, std::move(onReply), std::move(then));
     } catch (const sdbus::Error& error) {
         ALOGW("The bus cannot be asked who %s is: %s", peer.name.c_str(), error.what());
+        return false;
     }
 }
 
@@ -493,12 +504,13 @@ bool DBusCarrier::callBus(const sdbus::MethodCall& call, std::chrono::microsecon
     return mLink.call(mBus, call, timeout,
                       [onReply = std::move(onReply), then = std::move(then)](
                               sdbus::MethodReply& reply, const sdbus::Error* error) {
+                          std::optional<sdbus::Error> failure;
                           try {
                               if (error == nullptr) onReply(reply);
-                              if (then) then(error);
-                          } catch (const sdbus::Error& malformed) {
-                              if (then) then(&malformed);
+                          } catch (const std::exception& malformed) {
+                              failure.emplace(kMalformed, malformed.what());
                           }
+                          if (then) then(failure.has_value() ? &*failure : error);
                       });
 }
 
@@ -571,13 +583,16 @@ sp<IBinder> DBusCarrier::find(const String16& name) {
         call << name8;
         auto promise = std::make_shared<std::promise<sp<IBinder>>>();
         std::future<sp<IBinder>> found = promise->get_future();
+        // The bus library is to give up later, so that only a service that is silent is waited for
+        // in vain. What comes after all is let go again.
         const bool sent =
-                mLink.call(owner, call, kPromptly,
+                mLink.call(owner, call, 2 * kPromptly,
                            [this, promise](sdbus::MethodReply& reply, const sdbus::Error* error) {
                                promise->set_value(error == nullptr ? onFound(reply) : nullptr);
                            });
-        // What comes later is let go again.
-        if (sent && found.wait_for(kPromptly) == std::future_status::ready) return found.get();
+        if (!sent) return nullptr;
+        if (found.wait_for(kPromptly) == std::future_status::ready) return found.get();
+        ALOGW("Service '%s' does not answer", name8.c_str());
     } catch (const sdbus::Error& error) {
         ALOGE("Service '%s' cannot be looked for: %s", name8.c_str(), error.what());
     }
@@ -590,7 +605,7 @@ sp<IBinder> DBusCarrier::onFound(sdbus::MethodReply& reply) {
         uint64_t object = 0;
         reply >> owner >> object;
         return resolve(owner, object, peerNamed(reply.getSender()));
-    } catch (const sdbus::Error& malformed) {
+    } catch (const std::exception& malformed) {
         ALOGW("An answer is malformed: %s", malformed.what());
         return nullptr;
     }

@@ -79,7 +79,7 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
     void sendError(const sdbus::MethodCall& call, const char* error, const char* why);
 
     std::shared_ptr<Peer> peerNamed(const std::string& uniqueName);
-    void ask(const char* question, const Peer& peer,
+    bool ask(const char* question, const Peer& peer,
              std::function<void(sdbus::MethodReply&)> onReply,
              std::function<void(const sdbus::Error*)> then = nullptr);
     void identified(Peer& peer);

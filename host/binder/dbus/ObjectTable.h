@@ -69,8 +69,7 @@ class ObjectTable {
     /** What lies behind a handle; none if it is not in use. */
     std::optional<Remote> remote(int32_t handle);
 
-    /** Ends a process's holds. Its handles come back, to be let go: their proxies are to be told.
-     */
+    /** Ends a process's holds. Gives its handles, to be let go: their proxies are to be told. */
     std::vector<int32_t> bury(Peer& peer, Objects* released);
 
     struct Counts {

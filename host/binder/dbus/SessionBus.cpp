@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <mutex>
+#include <stdexcept>
 
 #include "DBusCarrier.h"
 
@@ -47,7 +48,7 @@ void connect() {
         // A child that does not become another program shares the connection's socket but has none
         // of its threads.
         pthread_atfork(nullptr, nullptr, [] { setCarrier(nullptr); });
-    } catch (const sdbus::Error& error) {
+    } catch (const std::runtime_error& error) {  // of the bus, or of a thread that cannot be had
         ALOGW("The session bus at %s cannot be reached, so this process is on its own: %s",
               address.c_str(), error.what());
     }

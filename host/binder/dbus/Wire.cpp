@@ -15,6 +15,8 @@ namespace {
 // Nobody can change the bytes once they are on their way, nor take them away from a reader.
 constexpr int kSeals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
 
+constexpr size_t kMaxBusName = 255;
+
 sdbus::UnixFd sealedFileOf(const std::vector<uint8_t>& bytes) {
     const int file = memfd_create("binder", MFD_CLOEXEC | MFD_ALLOW_SEALING);
     if (file < 0) throw sdbus::createError(errno, "no memory file for a transaction");
@@ -131,9 +133,14 @@ bool read(sdbus::Message& message, int32_t* status, Content* content) {
 }
 
 bool isUniqueName(const std::string& name) {
-    return name.size() > 1 && name[0] == ':' && name.size() <= 255 &&
-           std::all_of(name.begin() + 1, name.end(),
-                       [](char c) { return (c >= '0' && c <= '9') || c == '.'; });
+    if (name.empty() || name[0] != ':' || name.size() > kMaxBusName) return false;
+    size_t elements = 0;
+    for (size_t start = 1; start <= name.size(); elements++) {
+        const size_t end = std::min(name.find('.', start), name.size());
+        if (end == start || name.find_first_not_of("0123456789", start) < end) return false;
+        start = end + 1;
+    }
+    return elements >= 2;
 }
 
 }  // namespace android::host::dbus
