@@ -25,27 +25,15 @@ namespace {
 // The binder transaction buffer: one mebibyte less two guard pages.
 constexpr size_t kBinderVmSize = 1024 * 1024 - 2 * 4096;
 
-sp<IHwTarn> getHwTarnService() {
-    return IHwTarn::getService("default", false);
-}
-
 /** The cached proxy, looked up first where there is none; null without a service. */
 sp<IHwTarn> obtainHwTarnService() {
-    sp<IHwTarn> service = mHwTarnService.get();
-    if (service == nullptr) {
-        service = getHwTarnService();
-        if (service != nullptr) mHwTarnService.set(service);
-    }
-    return service;
+    const sp<IHwTarn> service = mHwTarnService;
+    return service != nullptr ? service : mHwTarnService.setIfEmpty(getHwTarnService());
 }
 
 sp<ITarnClientLooper> obtainLooper() {
-    sp<ITarnClientLooper> looper = mITarnClientLooper.get();
-    if (looper == nullptr) {
-        looper = new TarnClientLooper;
-        mITarnClientLooper.set(looper);
-    }
-    return looper;
+    const sp<ITarnClientLooper> looper = mITarnClientLooper;
+    return looper != nullptr ? looper : mITarnClientLooper.setIfEmpty(new TarnClientLooper);
 }
 
 bool isDead(const Return<void>& status) {
@@ -59,14 +47,17 @@ hidl_string bytesOf(const Parcel& parcel) {
 
 }  // namespace
 
+sp<IHwTarn> getHwTarnService() {
+    return IHwTarn::getService("default", false);
+}
+
 HwTarnClient::HwTarnClient() {
     obtainHwTarnService();
     obtainLooper();
 }
 
 HwTarnClient::~HwTarnClient() {
-    const sp<ITarnClientLooper> looper = mITarnClientLooper.get();
-    if (looper != nullptr) looper->removeTarnMsgLooper(this);
+    for (const sp<ITarnClientLooper>& looper : mLoopers) looper->removeTarnMsgLooper(this);
     mHwTarnService.clear();
     mITarnClientLooper.clear();
 }
@@ -129,11 +120,15 @@ int HwTarnClient::createTarnMsgManager() {
         TLOGE("Error, createTarnMsgManager failed, mITarnClientLooper null");
         return -1;
     }
+    {
+        AutoMutex guard(mLoopersLock);
+        mLoopers.insert(looper);
+    }
     return looper->createTarnMsgLooper(this);
 }
 
 int HwTarnClient::removeTarnMsgManager() {
-    const sp<ITarnClientLooper> looper = mITarnClientLooper.get();
+    const sp<ITarnClientLooper> looper = mITarnClientLooper;
     if (looper != nullptr) looper->removeTarnMsgLooper(this);
     mITarnClientLooper.clear();
     return 0;

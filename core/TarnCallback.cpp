@@ -13,7 +13,7 @@ Return<void> TarnCallback::hwNotify(uint32_t, int32_t, const hidl_string&) {
 }
 
 Return<void> TarnCallback::hwNotify_vec(uint32_t msgType, int32_t, const hidl_vec<uint8_t>& data) {
-    const sp<android::ITarnClientLooper> looper = android::mITarnClientLooper.get();
+    const sp<android::ITarnClientLooper> looper = android::mITarnClientLooper;
     if (looper != nullptr) {
         looper->postMsg(msgType, const_cast<uint8_t*>(data.data()),
                         static_cast<unsigned int>(data.size()));

@@ -7,7 +7,7 @@ namespace android {
 
 namespace {
 
-// The buffer that the stub has handed to the notify() that runs on this thread.
+// The buffer that came for the notify() that runs on this thread, until it is taken.
 thread_local const void* tHandedOver = nullptr;
 
 }  // namespace
@@ -40,8 +40,10 @@ sp<ITarnClient> ITarnClient::getDefaultImpl() {
     return default_impl;
 }
 
-bool BnTarnClient::ownsBuffer(const void* data) {
-    return data != nullptr && data == tHandedOver;
+bool BnTarnClient::takeBuffer(const void* data) {
+    if (data == nullptr || data != tHandedOver) return false;
+    tHandedOver = nullptr;
+    return true;
 }
 
 status_t BnTarnClient::onTransact(uint32_t code, const Parcel& data, Parcel* reply,

@@ -12,18 +12,24 @@ namespace android {
 
 sp<ITarnService> gTarnService;
 Mutex gServiceLock;
+sp<DeathNotifier> gDeathNotifier;
 
 namespace {
 
 constexpr useconds_t kPollIntervalUs = 500000;
 
-sp<DeathNotifier> gDeathNotifier;
+/** False when the service has died meanwhile. One of this process cannot be linked to. */
+bool linkToDeath(const sp<IBinder>& binder) {
+    if (gDeathNotifier == nullptr) gDeathNotifier = new DeathNotifier;
+    return binder->linkToDeath(gDeathNotifier, nullptr, 0) != DEAD_OBJECT;
+}
 
+/** Waits for a service that is alive; its death will be heard of. */
 sp<IBinder> waitForPublishedService() {
     const sp<IServiceManager> manager = defaultServiceManager();
     for (;;) {
         const sp<IBinder> binder = manager->getService(String16("tarn.service"));
-        if (binder != nullptr) return binder;
+        if (binder != nullptr && linkToDeath(binder)) return binder;
         TarnLog(TARN_LOG_DEBUG, TARN_LOG_TAG, "getTarnService", __LINE__,
                 "TarnService not published...");
         usleep(kPollIntervalUs);
@@ -34,10 +40,7 @@ sp<IBinder> waitForPublishedService() {
 void resolveLocked(const ITarnClient* client) {
     if (gTarnService != nullptr) return;
 
-    const sp<IBinder> binder = waitForPublishedService();
-    if (gDeathNotifier == nullptr) gDeathNotifier = new DeathNotifier;
-    binder->linkToDeath(gDeathNotifier, nullptr, 0);
-    gTarnService = interface_cast<ITarnService>(binder);
+    gTarnService = interface_cast<ITarnService>(waitForPublishedService());
     // So that a client that only ever invokes is notified too.
     if (gTarnService != nullptr) gTarnService->connect(getpid(), const_cast<ITarnClient*>(client));
 }

@@ -2,6 +2,7 @@
 #include <unistd.h>
 
 #include <cstdint>
+#include <memory>
 
 #include "service/ServiceReference.h"
 
@@ -32,11 +33,13 @@ status_t TarnClient::invoke(const Parcel& data, Parcel* reply) {
 }
 
 void TarnClient::notify(unsigned int msgType, void* data, unsigned int size, void* ext) {
+    // Before the callback: it may hand the same bytes on to other clients of this process.
+    const std::unique_ptr<uint8_t[]> owned(takeBuffer(data) ? static_cast<uint8_t*>(data)
+                                                            : nullptr);
     AutoMutex guard(mLock);
     TLOGD("callback application type=%d", static_cast<int>(msgType));
     if (mCallback != nullptr) mCallback->notify(msgType, data, size, ext);
     TLOGD("back from callback");
-    if (ownsBuffer(data)) delete[] static_cast<uint8_t*>(data);
 }
 
 void TarnClient::setCallback(const sp<ITarnClientCallback>& callback) {

@@ -26,6 +26,7 @@ TarnService::TarnService() = default;
 TarnService::~TarnService() {
     TLOGD("TarnService destroyed");
     TarnService::exitTv();
+    if (sTarnPlatform == this) sTarnPlatform = nullptr;
 }
 
 bool TarnService::hasClient(const sp<ITarnClient>& client) const {

@@ -52,12 +52,13 @@ class BnTarnClient : public BnInterface<ITarnClient> {
 
   protected:
     /**
-     * Tells notify() whether it owns data, to be freed with delete[] of uint8_t: so it is with
-     * the buffer that came in a transaction, and not with the one of a caller in this process.
+     * Takes the buffer that came in the transaction being served: notify() owns it, calls this
+     * first and frees data with delete[] of uint8_t where the answer is true, which it is once for
+     * each such buffer. The buffer of a caller in this process stays the caller's: false.
      */
-    static bool ownsBuffer(const void* data);
+    static bool takeBuffer(const void* data);
 
-  private:
+    /** Held for the whole of every transaction. */
     static Mutex mNotifyLock;
 };
 

@@ -45,8 +45,9 @@ class TarnClient : public BnTarnClient {
     status_t invoke(const Parcel& data, Parcel* reply);
 
     /**
-     * Hands a notification to the callback; called on a binder thread. A derived class that
-     * overrides this owns the buffer where ownsBuffer() says so.
+     * Hands a notification to the callback; called on a binder thread. It owns the buffer of a
+     * notification from another process: a derived class that overrides it takes the buffer with
+     * takeBuffer() or calls this one.
      */
     void notify(unsigned int msgType, void* data, unsigned int size, void* ext) override;
 
@@ -54,9 +55,11 @@ class TarnClient : public BnTarnClient {
     /** Replaces the callback. Waits for a notification that is being delivered. */
     void setCallback(const sp<ITarnClientCallback>& callback);
 
-  private:
+    /** A derived class fills it before the first notification, later with setCallback(). */
     sp<ITarnClientCallback> mCallback;
-    Mutex mLock;
+
+  private:
+    Mutex mLock;  // held while a notification is delivered
 };
 
 }  // namespace android

@@ -20,6 +20,11 @@ class TarnManager : virtual public ITarnManager {
   public:
     /** Looks the hardware service up once; it need not be there yet. */
     TarnManager();
+
+    /**
+     * Stops the process's events. Release the last reference where no event is being delivered, or
+     * on the thread that delivers it.
+     */
     ~TarnManager() override;
 
     int invoke(const Parcel& request, Parcel* reply) override;

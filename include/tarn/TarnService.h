@@ -7,7 +7,7 @@
 
 namespace android {
 
-/** The platform side of the published service; null before instantiate(). */
+/** The platform side of the published service; null before instantiate() and after its end. */
 extern ITarnPlatform* sTarnPlatform;
 
 /**

@@ -2,21 +2,32 @@
 #include <tarn/ITarnListener.h>
 #include <tarn/ITarnManager.h>
 #include <tarn/ITarnPlatform.h>
+#include <tarn/ITarnService.h>
+#include <tarn/TarnClient.h>
+#include <tarn/TarnManager.h>
+#include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
 
 #include <map>
 #include <string>
 #include <vector>
 
 #include "core/HwTarnClient.h"
+#include "core/ITarnLooper.h"
 #include "tools/tarnctl/registry/Builder.h"
 
 using android::HwTarnClient;
 using android::IHwTarnClient;
+using android::ITarnClient;
+using android::ITarnClientCallback;
 using android::ITarnClientLooper;
 using android::ITarnManager;
 using android::ITarnPlatform;
+using android::ITarnService;
+using android::TarnManager;
 using tarnctl::Controller;
 using tarnctl::slotOf;
+using vendor::zunt::hwtarn::V1_0::IHwTarn;
+using vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
 
 namespace {
 
@@ -157,8 +168,22 @@ TEST(IHwTarnClient, HasItsOperationsInSlotOrder) {
 
 TEST(HwTarnClient, HasHandleMsgThenTheDestructorsThenTheOperations) {
     EXPECT_EQ(slotOf(&HwTarnClient::handleMsg), 0u);
-    EXPECT_EQ(slotOf(&HwTarnClient::hw_invoke), 3u);
-    EXPECT_EQ(slotOf(&HwTarnClient::unRegisterListener), 9u);
+    const size_t first = 1 + kDestructor;
+    EXPECT_EQ(slotOf(&HwTarnClient::hw_invoke), first);
+    EXPECT_EQ(slotOf(&HwTarnClient::postEvent), first + 1);
+    EXPECT_EQ(slotOf(&HwTarnClient::isTarnReady), first + 2);
+    EXPECT_EQ(slotOf(&HwTarnClient::createTarnMsgManager), first + 3);
+    EXPECT_EQ(slotOf(&HwTarnClient::removeTarnMsgManager), first + 4);
+    EXPECT_EQ(slotOf(&HwTarnClient::registerListener), first + 5);
+    EXPECT_EQ(slotOf(&HwTarnClient::unRegisterListener), first + 6);
+}
+
+TEST(ITarnLooper, IsCalledThroughItsFirstSlot) {
+    EXPECT_EQ(slotOf(&ITarnLooper::handleMsg), 0u);
+}
+
+TEST(TarnManager, HasInvokeInItsFirstSlot) {
+    EXPECT_EQ(slotOf(&TarnManager::invoke), 0u);
 }
 
 TEST(ITarnClientLooper, HasItsOperationsInSlotOrder) {
@@ -170,6 +195,32 @@ TEST(ITarnClientLooper, HasItsOperationsInSlotOrder) {
 
 TEST(ITarnListener, IsCalledThroughItsFirstSlot) {
     EXPECT_EQ(slotOf(&ITarnListener::notify), 0u);
+}
+
+TEST(ITarnClientCallback, IsCalledThroughItsFirstSlot) {
+    EXPECT_EQ(slotOf(&ITarnClientCallback::notify), 0u);
+}
+
+TEST(ITarnService, HasItsOperationsBehindItsDescriptor) {
+    const size_t descriptor = slotOf(&ITarnService::getInterfaceDescriptor);
+    EXPECT_EQ(slotOf(&ITarnService::connect), descriptor + 1);
+    EXPECT_EQ(slotOf(&ITarnService::invoke), descriptor + 2);
+}
+
+TEST(ITarnClient, HasItsOperationBehindItsDescriptor) {
+    EXPECT_EQ(slotOf(&ITarnClient::notify), slotOf(&ITarnClient::getInterfaceDescriptor) + 1);
+}
+
+TEST(IHwTarn, HasTheThreeMethodsInUseInTheirPlaces) {
+    const size_t first = slotOf(&IHwTarn::hwReserved1);
+    EXPECT_EQ(slotOf(&IHwTarn::hwRegisterCallback), first + 1);
+    EXPECT_EQ(slotOf(&IHwTarn::hwInvoke), first + 2);
+    EXPECT_EQ(slotOf(&IHwTarn::hwReserved4), first + 3);
+    EXPECT_EQ(slotOf(&IHwTarn::hwPostEvent), first + 4);
+}
+
+TEST(IHwTarnCallback, HasTextsBeforeBytes) {
+    EXPECT_EQ(slotOf(&IHwTarnCallback::hwNotify_vec), slotOf(&IHwTarnCallback::hwNotify) + 1);
 }
 
 TEST(ITarnPlatform, HasItsOperationsInSlotOrder) {

@@ -17,6 +17,7 @@ class RelayBinder : public android::BBinder {
 
     android::status_t linkToDeath(const android::sp<DeathRecipient>& recipient, void*,
                                   uint32_t) override {
+        if (mDead) return android::DEAD_OBJECT;
         mRecipient = recipient;
         mLinks++;
         return android::OK;
@@ -30,6 +31,7 @@ class RelayBinder : public android::BBinder {
     }
 
     int links() const { return mLinks; }
+    android::sp<DeathRecipient> recipient() const { return mRecipient.promote(); }
 
   protected:
     android::status_t onTransact(uint32_t code, const android::Parcel& data, android::Parcel* reply,

@@ -128,6 +128,40 @@ TEST_F(Events, ComeWithAnEmptyParcelWhenTheyCarryNothing) {
     manager->unRegisterListener(&listener);
 }
 
+TEST_F(Events, ComePaddedToWholeWords) {
+    Listener& listener = keptListener();
+    manager->registerListener(&listener);
+    manager->createTarnMsgManager();
+    service->raiseEvent(7, {'a', 'b', 'c', 'd', 'e'});
+    ASSERT_TRUE(listener.waitFor(1));
+    EXPECT_EQ(listener.received()[0].bytes, std::string("abcde\0\0\0", 8));
+    manager->unRegisterListener(&listener);
+}
+
+TEST_F(Events, ReachListenersInAscendingOrderOfTheirAddresses) {
+    struct Kept {
+        Listener listeners[3];
+        std::mutex lock;
+        std::vector<int> order;
+    };
+    static Kept& kept = *new Kept;
+    for (const int i : {1, 2, 0}) {
+        kept.listeners[i].onNotify = [i] {
+            std::lock_guard<std::mutex> guard(kept.lock);
+            kept.order.push_back(i);
+        };
+        manager->registerListener(&kept.listeners[i]);
+    }
+    manager->createTarnMsgManager();
+    service->raiseEvent(7, {});
+    EXPECT_TRUE(eventually([&] {
+        std::lock_guard<std::mutex> guard(kept.lock);
+        return kept.order.size() == 3;
+    }));
+    EXPECT_EQ(kept.order, (std::vector<int>{0, 1, 2}));
+    for (Listener& listener : kept.listeners) manager->unRegisterListener(&listener);
+}
+
 TEST_F(Events, StandAtTheirStartForEveryListener) {
     // A listener checks the position and then reads to the end.
     Listener* const listeners[] = {&keptListener(), &keptListener()};
@@ -189,7 +223,7 @@ TEST_F(Events, AreDroppedOnceTheEventPathIsRemoved) {
     service->raiseEvent(5, {});
     std::this_thread::sleep_for(100ms);
     EXPECT_EQ(listener.types(), std::vector<unsigned int>{0xffff});
-    EXPECT_EQ(mITarnClientLooper.get(), nullptr);
+    EXPECT_EQ(mITarnClientLooper, nullptr);
     manager->unRegisterListener(&listener);
 }
 
@@ -207,7 +241,7 @@ TEST_F(Events, ComeBackWhenTheEventPathIsCreatedAgain) {
 TEST_F(Events, AreNotDeliveredBeforeTheEventPathIsCreated) {
     Listener& listener = keptListener();
     manager->registerListener(&listener);
-    mITarnClientLooper.get()->postMsg(4, nullptr, 0);
+    mITarnClientLooper->postMsg(4, nullptr, 0);
     std::this_thread::sleep_for(100ms);
     EXPECT_TRUE(listener.received().empty());
     manager->createTarnMsgManager();
@@ -301,17 +335,55 @@ TEST_F(Events, ArriveExactlyOnceAndInOrderWhileListenersComeAndGo) {
     manager->unRegisterListener(&staying);
 }
 
-/** A target that counts; loopers never own their targets. */
+struct Delivery {
+    const void* target;
+    std::thread::id thread;
+    unsigned int msgType;
+    std::string bytes;
+};
+
+/** What several targets were handed, in its order. */
+class Deliveries {
+  public:
+    void add(const Delivery& delivery) {
+        std::lock_guard<std::mutex> guard(mLock);
+        mAll.push_back(delivery);
+    }
+
+    std::vector<Delivery> all() const {
+        std::lock_guard<std::mutex> guard(mLock);
+        return mAll;
+    }
+
+  private:
+    mutable std::mutex mLock;
+    std::vector<Delivery> mAll;
+};
+
+/** Loopers never own their targets. */
 class Target final : public ITarnLooper {
   public:
     bool handleMsg(unsigned int msgType, void* data, unsigned int size) override {
-        types.push_back(msgType);
-        bytes.emplace_back(static_cast<const char*>(data), size);
+        deliveries->add({this, std::this_thread::get_id(), msgType,
+                         std::string(static_cast<const char*>(data), size)});
         return false;
     }
 
-    std::vector<unsigned int> types;
-    std::vector<std::string> bytes;
+    Deliveries* deliveries = nullptr;
+};
+
+/** Targets that are never destroyed: a looper's thread may still be leaving their handleMsg(). */
+template <size_t Count>
+struct KeptTargets {
+    Deliveries deliveries;
+    Target targets[Count];
+
+    static KeptTargets& make() {
+        static auto* kept = new std::deque<KeptTargets>;
+        KeptTargets& made = kept->emplace_back();
+        for (Target& target : made.targets) target.deliveries = &made.deliveries;
+        return made;
+    }
 };
 
 TEST(TarnClientLooper, RefusesANullTarget) {
@@ -327,35 +399,70 @@ TEST(TarnClientLooper, SendsNowhereWithoutATarget) {
 
 TEST(TarnClientLooper, SendsOnTheCallersThreadInAscendingTargetOrder) {
     sp<TarnClientLooper> looper = new TarnClientLooper;
-    Target targets[2];
-    looper->createTarnMsgLooper(&targets[1]);
-    looper->createTarnMsgLooper(&targets[0]);
+    auto& [deliveries, targets] = KeptTargets<3>::make();
+    for (const int i : {1, 2, 0}) looper->createTarnMsgLooper(&targets[i]);
     char data[] = {'a', 'b'};
     EXPECT_TRUE(looper->sendMsg(5, data, 2));
-    EXPECT_EQ(targets[0].types, std::vector<unsigned int>{5});
-    EXPECT_EQ(targets[1].bytes, std::vector<std::string>{"ab"});
-    looper->removeTarnMsgLooper(&targets[0]);
-    looper->removeTarnMsgLooper(&targets[1]);
+    const std::vector<Delivery> all = deliveries.all();
+    ASSERT_EQ(all.size(), 3u);
+    for (int i = 0; i < 3; i++) {
+        EXPECT_EQ(all[i].target, &targets[i]);
+        EXPECT_EQ(all[i].thread, std::this_thread::get_id());
+        EXPECT_EQ(all[i].msgType, 5u);
+        EXPECT_EQ(all[i].bytes, "ab");
+    }
+    for (Target& target : targets) looper->removeTarnMsgLooper(&target);
     EXPECT_FALSE(looper->sendMsg(5, data, 2));
 }
 
 TEST(TarnClientLooper, QueuesRecordsWithoutData) {
     sp<TarnClientLooper> looper = new TarnClientLooper;
+    auto& [deliveries, targets] = KeptTargets<1>::make();
     char byte = 'a';
     EXPECT_TRUE(looper->postMsg(1, nullptr, 7));
     EXPECT_TRUE(looper->postMsg(2, &byte, 0));
     EXPECT_TRUE(looper->postMsg(3, &byte, 1));
+    looper->createTarnMsgLooper(&targets[0]);
+    ASSERT_TRUE(eventually([&, &posted = deliveries] { return posted.all().size() == 3; }));
+    const std::vector<Delivery> all = deliveries.all();
+    const char* const bytes[] = {"", "", "a"};
+    for (unsigned int i = 0; i < 3; i++) {
+        EXPECT_EQ(all[i].msgType, i + 1);
+        EXPECT_EQ(all[i].bytes, bytes[i]);
+        EXPECT_NE(all[i].thread, std::this_thread::get_id());
+    }
+    looper->removeTarnMsgLooper(&targets[0]);
+}
+
+/** A looper that sees what its own thread sends. */
+class DerivedLooper : public TarnClientLooper {
+  public:
+    bool sendMsg(unsigned int msgType, void*, unsigned int) override {
+        sent = msgType;
+        return false;
+    }
+
+    std::atomic<unsigned int> sent{0};
+};
+
+TEST(TarnClientLooper, SendsThroughADerivedLoopersOperation) {
+    const sp<DerivedLooper> looper = new DerivedLooper;
+    auto& [deliveries, targets] = KeptTargets<1>::make();
+    looper->createTarnMsgLooper(&targets[0]);
+    looper->postMsg(9, nullptr, 0);
+    EXPECT_TRUE(eventually([&] { return looper->sent == 9; }));
+    EXPECT_TRUE(deliveries.all().empty());
 }
 
 TEST(TarnClientLooper, OutlivesItsLastReferenceWhileItsThreadRuns) {
-    Target target;
+    auto& [deliveries, targets] = KeptTargets<1>::make();
     {
-        sp<TarnClientLooper> looper = new TarnClientLooper;
-        looper->createTarnMsgLooper(&target);
-        looper->removeTarnMsgLooper(&target);
+        const sp<TarnClientLooper> looper = new TarnClientLooper;
+        looper->createTarnMsgLooper(&targets[0]);
+        looper->postMsg(4, nullptr, 0);
     }
-    std::this_thread::sleep_for(50ms);
-    EXPECT_TRUE(target.types.empty());
+    ASSERT_TRUE(eventually([&, &posted = deliveries] { return posted.all().size() == 1; }));
+    EXPECT_EQ(deliveries.all()[0].msgType, 4u);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "tests/support/LogCapture.h"
 
 using android::HwTarnClient;
+using android::ITarnClientLooper;
 using android::mHwTarnService;
 using android::mITarnClientLooper;
 using android::Parcel;
@@ -100,7 +101,7 @@ TEST(HwTarnClientInvoke, FailsEveryTimeOnceTheServiceIsDead) {
         EXPECT_EQ(client->hw_invoke(request, &reply), -1);
         expectOneError(log, "hw_invoke", "Error, hwInvoke failed, service is a DEAD_OBJECT.");
     }
-    EXPECT_NE(mHwTarnService.get(), nullptr);
+    EXPECT_NE(mHwTarnService, nullptr);
 }
 
 TEST(HwTarnClientInvoke, TakesAnyOtherTransportErrorForAnEmptyReply) {
@@ -201,11 +202,85 @@ TEST(HwTarnClient, StartsEventsDespiteAnyOtherTransportError) {
 TEST(HwTarnClient, EmptiesTheSharedProxyAndLooperWhenItGoes) {
     PublishedFake service;
     sp<HwTarnClient> client = new HwTarnClient;
-    EXPECT_NE(mHwTarnService.get(), nullptr);
-    EXPECT_NE(mITarnClientLooper.get(), nullptr);
+    EXPECT_NE(mHwTarnService, nullptr);
+    EXPECT_NE(mITarnClientLooper, nullptr);
     client.clear();
-    EXPECT_EQ(mHwTarnService.get(), nullptr);
-    EXPECT_EQ(mITarnClientLooper.get(), nullptr);
+    EXPECT_EQ(mHwTarnService, nullptr);
+    EXPECT_EQ(mITarnClientLooper, nullptr);
+}
+
+TEST(HwTarnClient, LooksProxyAndLooperUpAgainAfterAnotherClientWent) {
+    PublishedFake old;
+    sp<HwTarnClient> first = new HwTarnClient;
+    const sp<ITarnClientLooper> oldLooper = mITarnClientLooper;
+    PublishedFake service;
+    first.clear();
+
+    const sp<HwTarnClient> second = new HwTarnClient;
+    EXPECT_NE(mHwTarnService, nullptr);
+    EXPECT_NE(mITarnClientLooper, nullptr);
+    EXPECT_NE(sp<ITarnClientLooper>(mITarnClientLooper), oldLooper);
+    Parcel request;
+    request.writeInt32(1);
+    Parcel reply;
+    EXPECT_EQ(second->hw_invoke(request, &reply), 0);
+    EXPECT_EQ(old->requests().size(), 0u);
+    EXPECT_EQ(service->requests().size(), 1u);
+}
+
+TEST(HwTarnClient, SharesProxyAndLooperWithAnotherClient) {
+    PublishedFake service;
+    const sp<HwTarnClient> first = new HwTarnClient;
+    const sp<ITarnClientLooper> looper = mITarnClientLooper;
+    const sp<HwTarnClient> second = new HwTarnClient;
+    EXPECT_EQ(sp<ITarnClientLooper>(mITarnClientLooper), looper);
+}
+
+TEST(HwTarnClient, LeavesItsLooperThoughAnotherClientEmptiedTheReference) {
+    PublishedFake service;
+    sp<HwTarnClient> client = new HwTarnClient;
+    client->createTarnMsgManager();
+    const sp<ITarnClientLooper> looper = mITarnClientLooper;
+    EXPECT_TRUE(looper->sendMsg(1, nullptr, 0));
+    sp<HwTarnClient>(new HwTarnClient).clear();
+    ASSERT_EQ(mITarnClientLooper, nullptr);
+    EXPECT_TRUE(looper->sendMsg(1, nullptr, 0));
+    client.clear();
+    EXPECT_FALSE(looper->sendMsg(1, nullptr, 0));
+}
+
+TEST(HwTarnClient, LeavesEveryLooperThatItEverJoined) {
+    PublishedFake service;
+    sp<HwTarnClient> client = new HwTarnClient;
+    sp<ITarnClientLooper> loopers[2];
+    for (sp<ITarnClientLooper>& looper : loopers) {
+        client->createTarnMsgManager();
+        looper = mITarnClientLooper;
+        sp<HwTarnClient>(new HwTarnClient).clear();
+    }
+    client.clear();
+    for (const sp<ITarnClientLooper>& looper : loopers) {
+        EXPECT_FALSE(looper->sendMsg(1, nullptr, 0));
+    }
+}
+
+TEST(HwTarnClient, LeavesTheProcessesLooperWhenEventsStop) {
+    PublishedFake service;
+    const sp<HwTarnClient> client = new HwTarnClient;
+    client->createTarnMsgManager();
+    const sp<ITarnClientLooper> looper = mITarnClientLooper;
+    EXPECT_EQ(client->removeTarnMsgManager(), 0);
+    EXPECT_FALSE(looper->sendMsg(1, nullptr, 0));
+    EXPECT_EQ(mITarnClientLooper, nullptr);
+}
+
+TEST(GetHwTarnService, LooksTheServiceUpAfreshEveryTime) {
+    EXPECT_EQ(android::getHwTarnService(), nullptr);
+    {
+        PublishedFake service;
+        EXPECT_NE(android::getHwTarnService(), nullptr);
+    }
+    EXPECT_EQ(android::getHwTarnService(), nullptr);
 }
 
 }  // namespace

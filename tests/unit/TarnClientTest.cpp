@@ -6,11 +6,14 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <cstdint>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "host/binder/HostServiceManager.h"
+#include "service/ServiceReference.h"
+#include "tests/support/BackgroundCall.h"
 #include "tests/support/Eventually.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/RelayBinder.h"
@@ -149,6 +152,53 @@ TEST_F(TarnClientTest, FindsARestartedService) {
     EXPECT_EQ(invokeWith(client.get(), 2), 3);
     EXPECT_THAT(second.service->pids, ElementsAre(getpid()));
     EXPECT_EQ(second.relay->links(), 1);
+    EXPECT_NE(android::gDeathNotifier, nullptr);
+    EXPECT_EQ(first.relay->recipient(), android::gDeathNotifier);
+    EXPECT_EQ(second.relay->recipient(), android::gDeathNotifier);
+}
+
+TEST_F(TarnClientTest, HoldsUpAnInvokeUntilTheServiceIsPublished) {
+    const sp<TarnClient> client = new TarnClient;
+    LogCapture log;
+    std::atomic<int> answer{0};
+    BackgroundCall invoke([&] { answer = invokeWith(client.get(), 41); });
+    EXPECT_TRUE(eventually([&] {
+        return testing::Value(log.messages(), Contains("TarnService not published..."));
+    }));
+    EXPECT_FALSE(invoke.returned());
+    Published published;
+    EXPECT_TRUE(eventually([&] { return invoke.returned(); }));
+    EXPECT_EQ(answer, 42);
+}
+
+TEST_F(TarnClientTest, LooksOnWhenTheServiceDiedBeforeItsDeathCouldBeHeardOf) {
+    Published dead;
+    dead.relay->die();
+    const sp<TarnClient> client = new TarnClient;
+    LogCapture log;
+    std::atomic<int> answer{0};
+    BackgroundCall invoke([&] { answer = invokeWith(client.get(), 41); });
+    EXPECT_TRUE(eventually([&] {
+        return invoke.returned() ||
+               testing::Value(log.messages(), Contains("TarnService not published..."));
+    }));
+    EXPECT_FALSE(invoke.returned());
+    Published restarted;
+    EXPECT_TRUE(eventually([&] { return invoke.returned(); }));
+    EXPECT_EQ(answer, 42);
+    EXPECT_EQ(restarted.relay->links(), 1);
+}
+
+TEST_F(TarnClientTest, TakesAServiceOfItsOwnProcessThatCannotBeLinkedTo) {
+    const sp<FakeService> service = new FakeService;
+    defaultServiceManager()->addService(kName, service);
+    const sp<TarnClient> client = new TarnClient;
+    Parcel data;
+    data.writeInt32(41);
+    Parcel reply;
+    EXPECT_EQ(client->invoke(data, &reply), android::OK);
+    EXPECT_EQ(service->pids.size(), 1u);
+    android::host::removeService(kName);
 }
 
 TEST_F(TarnClientTest, KeepsTheProcessReferenceUntilTheServiceDies) {
@@ -174,6 +224,46 @@ TEST_F(TarnClientTest, HandsANotificationToItsCallbackAndFreesItsBuffer) {
     EXPECT_EQ(log.lines()[0].priority, 3);
 }
 
+TEST_F(TarnClientTest, FreesABufferOnceThatItsCallbackHandsOn) {
+    /** Hands every notification on to other clients of the process, as a local service does. */
+    class Relay : public ITarnClientCallback {
+      public:
+        void notify(unsigned int msgType, void* data, unsigned int size, void* ext) override {
+            for (const sp<TarnClient>& client : clients) client->notify(msgType, data, size, ext);
+        }
+
+        std::vector<sp<TarnClient>> clients;
+    };
+    const sp<Callback> callback = new Callback;
+    const sp<Relay> relay = new Relay;
+    relay->clients = {new TarnClient(callback), new TarnClient(callback)};
+    const sp<TarnClient> client = new TarnClient(relay);
+    const sp<ITarnClient> proxy = ITarnClient::asInterface(new RelayBinder(client));
+    char bytes[] = {'a', 'b', 'c', 'd'};
+    proxy->notify(3, bytes, 4, nullptr);
+    EXPECT_THAT(callback->bytes, ElementsAre("abcd", "abcd"));
+}
+
+TEST_F(TarnClientTest, HandsItsBufferOverOnce) {
+    class TakingClient : public TarnClient {
+      public:
+        void notify(unsigned int, void* data, unsigned int, void*) override {
+            char other = 'a';
+            taken = {takeBuffer(nullptr), takeBuffer(&other), takeBuffer(data), takeBuffer(data)};
+            delete[] static_cast<uint8_t*>(data);
+        }
+
+        std::vector<bool> taken;
+    };
+    const sp<TakingClient> client = new TakingClient;
+    const sp<ITarnClient> proxy = ITarnClient::asInterface(new RelayBinder(client));
+    char bytes[] = {'a', 'b', 'c', 'd'};
+    for (int i = 0; i < 2; i++) {
+        proxy->notify(3, bytes, 4, nullptr);
+        EXPECT_THAT(client->taken, ElementsAre(false, false, true, false));
+    }
+}
+
 TEST_F(TarnClientTest, LeavesABufferOfThisProcessToItsOwner) {
     const sp<Callback> callback = new Callback;
     const sp<TarnClient> client = new TarnClient(callback);
@@ -192,13 +282,17 @@ TEST_F(TarnClientTest, LogsBothLinesWithoutACallback) {
 TEST_F(TarnClientTest, TakesACallbackFromADerivedClass) {
     class DerivedClient : public TarnClient {
       public:
+        explicit DerivedClient(const sp<ITarnClientCallback>& callback) { mCallback = callback; }
         void listenWith(const sp<ITarnClientCallback>& callback) { setCallback(callback); }
     };
-    const sp<Callback> callback = new Callback;
-    const sp<DerivedClient> client = new DerivedClient;
-    client->listenWith(callback);
+    const sp<Callback> first = new Callback;
+    const sp<Callback> second = new Callback;
+    const sp<DerivedClient> client = new DerivedClient(first);
     client->notify(8, nullptr, 0, nullptr);
-    EXPECT_THAT(callback->types, ElementsAre(8u));
+    client->listenWith(second);
+    client->notify(9, nullptr, 0, nullptr);
+    EXPECT_THAT(first->types, ElementsAre(8u));
+    EXPECT_THAT(second->types, ElementsAre(9u));
 }
 
 TEST_F(TarnClientTest, SaysThatItIsMadeAndDestroyed) {

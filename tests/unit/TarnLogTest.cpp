@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <tarn/TarnLog.h>
 
+#include <cstdlib>
 #include <string>
 
 #include "tests/support/LogCapture.h"
@@ -88,10 +89,13 @@ TEST(TarnLog, PassesALevelAboveFatalThroughEveryFilter) {
 }
 
 TEST(TarnLog, CutsAMessageAfter1023Characters) {
-    LogCapture log;
-    const std::string text(3000, 'x');
-    EXPECT_EQ(TarnLog(TARN_LOG_DEBUG, "tag", "f", 1, "%s", text.c_str()), 0);
-    EXPECT_EQ(log.lines()[0].message, std::string(1023, 'x'));
+    for (const size_t length : {1022, 1023, 1024, 3000}) {
+        LogCapture log;
+        const std::string text(length, 'x');
+        EXPECT_EQ(TarnLog(TARN_LOG_DEBUG, "tag", "f", 1, "%s", text.c_str()), 0);
+        ASSERT_EQ(log.lines().size(), 1u);
+        EXPECT_EQ(log.lines()[0].message, std::string(length == 1022 ? 1022 : 1023, 'x'));
+    }
 }
 
 int writeAnyFormat(const char* format) {
@@ -143,6 +147,14 @@ TEST(TarnLogLevel, AnswersForTheDefaultAndTheCurrentLevelOnly) {
     EXPECT_EQ(getLogLevel(1), TARN_LOG_WARN);
     EXPECT_EQ(getLogLevel(0), -1);
     EXPECT_EQ(getLogLevel(3), -1);
+}
+
+TEST(TarnLogInit, IsNotCalledByTheLibraryItself) {
+    // The child is a process started afresh, with the property set already.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    property_set(kProperty, "TARN_LOG_VERBOSE");
+    EXPECT_EXIT(exit(getLogLevel(2)), testing::ExitedWithCode(TARN_LOG_WARN), "");
+    setLogLevel(TARN_LOG_WARN);
 }
 
 TEST(TarnLogInit, LetsVerboseThroughWhenTheDeviceAsksForIt) {

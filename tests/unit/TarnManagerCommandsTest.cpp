@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
+#include <tarn/ITarnListener.h>
 
+#include "tests/support/LogCapture.h"
 #include "tests/support/RecordingManager.h"
 
 using android::Parcel;
@@ -174,6 +176,11 @@ TEST_F(TarnManagerCommands, SendNothingForAnEmptyArrayAndReturnZero) {
     EXPECT_TRUE(manager->requests().empty());
 }
 
+class Listener : public ITarnListener {
+  public:
+    void notify(unsigned int, int, int, const Parcel*) override {}
+};
+
 /** A manager whose transport was never made. */
 class UnconnectedManager : public android::TarnManager {
   public:
@@ -185,6 +192,7 @@ TEST(TarnManagerWithoutTransport, FailsEveryCommandSilently) {
     Parcel out;
     Parcel args;
     int values[] = {1};
+    LogCapture log;
     EXPECT_EQ(manager->invoke(args, &out), -1);
     EXPECT_EQ(manager->exeCmdSet_Int(1), -1);
     EXPECT_EQ(manager->exeCmdSet_Int(1, 2), -1);
@@ -205,17 +213,23 @@ TEST(TarnManagerWithoutTransport, FailsEveryCommandSilently) {
     EXPECT_EQ(manager->exeCmdSet_Parcel(1, 2, &out), -1);
     EXPECT_EQ(manager->exeCmdSet_Parcel(1, 2, 3, &out), -1);
     EXPECT_EQ(manager->exeCmdSet_Array(1, values, 1), -1);
+    EXPECT_TRUE(log.lines().empty());
 }
 
 TEST(TarnManagerWithoutTransport, AnswersTheForwardersWithTheirFixedValues) {
     sp<UnconnectedManager> manager = new UnconnectedManager;
     Parcel data;
+    Listener listener;
+    LogCapture log;
     EXPECT_EQ(manager->isTarnReady(), -1);
     EXPECT_EQ(manager->createTarnMsgManager(), -1);
     EXPECT_EQ(manager->removeTarnMsgManager(), -1);
     EXPECT_EQ(manager->registerListener(nullptr), 0);
     EXPECT_EQ(manager->unRegisterListener(nullptr), 0);
+    EXPECT_EQ(manager->registerListener(&listener), 0);
+    EXPECT_EQ(manager->unRegisterListener(&listener), 0);
     EXPECT_EQ(manager->postEvent(1, data), -1);
+    EXPECT_TRUE(log.lines().empty());
 }
 
 }  // namespace

@@ -1,12 +1,16 @@
 #include <gtest/gtest.h>
 #include <tarn/Controllers.h>
+#include <tarn/ITarnListener.h>
 #include <tarn/TarnCreator.h>
 #include <tarn/TarnManager.h>
 
+#include <atomic>
+#include <deque>
 #include <set>
 #include <thread>
 #include <vector>
 
+#include "tests/support/BackgroundCall.h"
 #include "tests/support/FakeHwTarn.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/RecordingManager.h"
@@ -126,10 +130,86 @@ TEST(TarnManager, PostsEventsAndLogsWhenThatFails) {
     EXPECT_EQ(log.lines().back().function, "postEvent");
 }
 
+TEST(TarnManager, TakesATransportErrorForAnEmptyReplyAndKeepsTheOutParcel) {
+    PublishedFake service;
+    service->failWith(Status::fromStatusT(android::FAILED_TRANSACTION));
+    const sp<TarnManager> manager = new TarnManager;
+    Parcel out;
+    out.writeInt32(99);
+    EXPECT_EQ(manager->exeCmdSet_Parcel(1, &out), 0);
+    EXPECT_EQ(manager->exeCmdSet_Int(1), 0);
+    EXPECT_EQ(service->requests().size(), 2u);
+    out.setDataPosition(0);
+    EXPECT_EQ(out.dataSize(), 4u);
+    EXPECT_EQ(out.readInt32(), 99);
+}
+
+class CountingListener : public ITarnListener {
+  public:
+    void notify(unsigned int, int, int, const Parcel*) override { events++; }
+
+    std::atomic<int> events{0};
+};
+
 TEST(TarnManager, IgnoresANullListener) {
-    sp<TarnManager> manager = new TarnManager;
+    PublishedFake service;
+    const sp<TarnManager> manager = new TarnManager;
+    // Never destroyed: the event thread may still be leaving its notify().
+    static CountingListener& listener = *new CountingListener;
     EXPECT_EQ(manager->registerListener(nullptr), 0);
+    manager->registerListener(&listener);
     EXPECT_EQ(manager->unRegisterListener(nullptr), 0);
+    ASSERT_EQ(manager->createTarnMsgManager(), 0);
+    service->raiseEvent(1, {});
+    service->raiseEvent(2, {});
+    EXPECT_TRUE(eventually([] { return listener.events == 2; }));
+    manager->unRegisterListener(&listener);
+    manager->removeTarnMsgManager();
+}
+
+/** Holds up the accessor that is called first, while it creates its controller. */
+class HeldManager : public TarnManager {
+  public:
+    HeldManager() : TarnManager(sp<android::HwTarnClient>()) {}
+
+    Gate gate;
+
+  protected:
+    // The first strong reference is the controller's: nobody else has made one before.
+    void onFirstRef() override { gate.pass(); }
+};
+
+struct Accessor {
+    const char* name;
+    void (*call)(ITarnManager* manager);
+};
+
+constexpr Accessor kSharingAccessors[] = {
+        {"camera", [](ITarnManager* manager) { manager->getCameraCtrl(); }},
+        {"sensor box", [](ITarnManager* manager) { manager->getSensorBoxCtrl(); }},
+        {"serial", [](ITarnManager* manager) { manager->getSerialCtrl(); }},
+        {"I/O box", [](ITarnManager* manager) { manager->getIoBoxCtrl(); }},
+};
+
+TEST(TarnManager, LetsCameraSensorBoxSerialAndIoBoxWaitForEachOtherAndNobodyElse) {
+    static auto& kept = *new std::vector<HeldManager*>;
+    for (const Accessor& holder : kSharingAccessors) {
+        // No strong reference yet; its controllers will hold it for ever.
+        HeldManager* const manager = kept.emplace_back(new HeldManager);
+        BackgroundCall held([&] { holder.call(manager); });
+        ASSERT_TRUE(eventually([&] { return manager->gate.arrived(); }));
+
+        std::deque<BackgroundCall> others;
+        for (const Accessor& other : kSharingAccessors) {
+            BackgroundCall& call = others.emplace_back([&] { other.call(manager); });
+            EXPECT_TRUE(call.waits()) << other.name << " beside " << holder.name;
+        }
+        BackgroundCall txb([&] { manager->getTxbCtrl(); });
+        EXPECT_TRUE(eventually([&] { return txb.returned(); })) << "beside " << holder.name;
+        EXPECT_FALSE(held.returned());
+        for (const BackgroundCall& call : others) EXPECT_FALSE(call.returned());
+        manager->gate.open();
+    }
 }
 
 TEST(TarnManager, KeepsItsThreadsCommandsApart) {

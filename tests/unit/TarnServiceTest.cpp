@@ -1,3 +1,4 @@
+#include <binder/IPCThreadState.h>
 #include <binder/IServiceManager.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,8 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "host/binder/HostServiceManager.h"
+#include "tests/support/BackgroundCall.h"
 #include "tests/support/LogCapture.h"
+#include "tests/support/RecordingManager.h"
 #include "tests/support/RelayBinder.h"
 
 using android::BnTarnClient;
@@ -18,6 +20,7 @@ using android::BpTarnService;
 using android::IBinder;
 using android::IInterface;
 using android::ITarnClient;
+using android::ITarnPlatform;
 using android::ITarnService;
 using android::Parcel;
 using android::sp;
@@ -41,7 +44,7 @@ class RecordingClient : public BnTarnClient {
   public:
     void notify(unsigned int msgType, void* data, unsigned int size, void* ext) override {
         received.push_back({msgType, std::string(static_cast<char*>(data), size), ext});
-        if (ownsBuffer(data)) delete[] static_cast<uint8_t*>(data);
+        if (takeBuffer(data)) delete[] static_cast<uint8_t*>(data);
     }
 
     std::vector<Notification> received;
@@ -106,6 +109,81 @@ TEST(ITarnClient, KeepsTheLatestDefaultThatIsNotNull) {
     EXPECT_FALSE(ITarnClient::setDefaultImpl(nullptr));
     EXPECT_EQ(ITarnClient::getDefaultImpl().get(), first.get());
     ITarnClient::default_impl.clear();
+}
+
+/** The other end of a proxy: keeps the last transaction as it was sent. */
+class CapturingBinder : public android::BBinder {
+  public:
+    // A request's token carries the thread's policy, which one that came in before may have set.
+    CapturingBinder() { android::IPCThreadState::self()->setStrictModePolicy(0); }
+
+    uint32_t code = 0;
+    uint32_t flags = 99;
+    Bytes bytes;
+    sp<IBinder> object;
+
+    // Where an object is looked for in the request, if at all.
+    size_t objectAt = 0;
+
+  protected:
+    status_t onTransact(uint32_t c, const Parcel& data, Parcel*, uint32_t f) override {
+        code = c;
+        flags = f;
+        bytes.assign(data.data(), data.data() + data.dataSize());
+        if (objectAt != 0) {
+            data.setDataPosition(objectAt);
+            object = data.readStrongBinder();
+        }
+        return android::OK;
+    }
+};
+
+// An interface token is the strict mode word, the work source, the mark "SYST" and the name.
+constexpr char kServiceToken[] =
+        "00000080 ffffffff 54535953 14000000 6100 6e00 6400 7200 6f00 6900 6400 2e00"
+        "4900 5400 6100 7200 6e00 5300 6500 7200 7600 6900 6300 6500 0000 0000";
+constexpr char kClientToken[] =
+        "00000080 ffffffff 54535953 13000000 6100 6e00 6400 7200 6f00 6900 6400 2e00"
+        "4900 5400 6100 7200 6e00 4300 6c00 6900 6500 6e00 7400 0000";
+
+TEST(BpTarnService, SendsAConnectAsTokenProcessAndClient) {
+    const sp<CapturingBinder> remote = new CapturingBinder;
+    const sp<RecordingClient> client = new RecordingClient;
+    const Bytes beforeTheClient = hex(std::string(kServiceToken) + "41010000");
+    remote->objectAt = beforeTheClient.size();
+    sp<ITarnService>(new BpTarnService(remote))->connect(321, client);
+    EXPECT_EQ(remote->code, 1u);
+    EXPECT_EQ(remote->flags, 0u);
+    ASSERT_GT(remote->bytes.size(), beforeTheClient.size());
+    remote->bytes.resize(beforeTheClient.size());
+    EXPECT_EQ(remote->bytes, beforeTheClient);
+    EXPECT_EQ(remote->object, IInterface::asBinder(client));
+}
+
+TEST(BpTarnService, SendsAnInvokeAsItIs) {
+    const sp<CapturingBinder> remote = new CapturingBinder;
+    Parcel data;
+    data.writeInt32(1);
+    data.writeInt32(-2);
+    Parcel reply;
+    sp<ITarnService>(new BpTarnService(remote))->invoke(data, &reply);
+    EXPECT_EQ(remote->code, 2u);
+    EXPECT_EQ(remote->flags, 0u);
+    EXPECT_EQ(remote->bytes, hex("01000000 feffffff"));
+}
+
+TEST(BpTarnClient, SendsANotificationAsTokenTypeAndBytes) {
+    const sp<CapturingBinder> remote = new CapturingBinder;
+    const sp<ITarnClient> proxy = new BpTarnClient(remote);
+    char bytes[] = {'a', 'b', 'c', 'd', 'e'};
+    proxy->notify(0x81020304, bytes, 5, bytes);
+    EXPECT_EQ(remote->code, 1u);
+    EXPECT_EQ(remote->flags, 1u);
+    EXPECT_EQ(remote->bytes, hex(std::string(kClientToken) + "04030281 6162636465 000000"));
+    for (char* nothing : {static_cast<char*>(nullptr), bytes}) {
+        proxy->notify(5, nothing, nothing == nullptr ? 4 : 0, nullptr);
+        EXPECT_EQ(remote->bytes, hex(std::string(kClientToken) + "05000000"));
+    }
 }
 
 TEST(BpTarnService, CarriesAConnectAndItsAnswer) {
@@ -230,6 +308,40 @@ TEST(BnTarnClient, RefusesWrongTokensAndTruncatedNotifications) {
     EXPECT_EQ(client->transact(9, truncated, &reply), android::UNKNOWN_TRANSACTION);
 }
 
+/** A client that stays in every notification until the gate opens. */
+class HeldClient : public BnTarnClient {
+  public:
+    void notify(unsigned int, void* data, unsigned int, void*) override {
+        const std::unique_ptr<uint8_t[]> owned(takeBuffer(data) ? static_cast<uint8_t*>(data)
+                                                                : nullptr);
+        gate.pass();
+    }
+
+    Gate gate;
+};
+
+TEST(BnTarnClient, ServesTheClientsOfAProcessOneTransactionAtATime) {
+    const sp<HeldClient> held = new HeldClient;
+    const sp<RecordingClient> other = new RecordingClient;
+    BackgroundCall first([&] {
+        sp<ITarnClient>(new BpTarnClient(new RelayBinder(held)))->notify(1, nullptr, 0, nullptr);
+    });
+    ASSERT_TRUE(eventually([&] { return held->gate.arrived(); }));
+    BackgroundCall notification([&] {
+        sp<ITarnClient>(new BpTarnClient(new RelayBinder(other)))->notify(2, nullptr, 0, nullptr);
+    });
+    BackgroundCall otherCode([&] {
+        Parcel data;
+        Parcel reply;
+        EXPECT_EQ(other->transact(9, data, &reply), android::UNKNOWN_TRANSACTION);
+    });
+    EXPECT_TRUE(notification.waits());
+    EXPECT_TRUE(otherCode.waits());
+    held->gate.open();
+    EXPECT_TRUE(eventually([&] { return notification.returned() && otherCode.returned(); }));
+    EXPECT_EQ(other->received.size(), 1u);
+}
+
 class TarnServiceFanOut : public testing::Test {
   protected:
     sp<TarnService> service = new TarnService;
@@ -274,6 +386,33 @@ TEST_F(TarnServiceFanOut, GoesOnPastADeadClient) {
     EXPECT_EQ(alive->received.size(), 1u);
 }
 
+TEST_F(TarnServiceFanOut, LetsAClientConnectMeanwhile) {
+    const sp<HeldClient> held = new HeldClient;
+    service->connect(1, held);
+    BackgroundCall notify([&] { service->notify(4, nullptr, 0, nullptr); });
+    ASSERT_TRUE(eventually([&] { return held->gate.arrived(); }));
+    const sp<RecordingClient> late = new RecordingClient;
+    BackgroundCall connect([&] { service->connect(2, late); });
+    EXPECT_FALSE(connect.waits());
+    EXPECT_FALSE(notify.returned());
+    held->gate.open();
+    EXPECT_TRUE(eventually([&] { return notify.returned() && connect.returned(); }));
+    service->notify(5, nullptr, 0, nullptr);
+    EXPECT_EQ(late->received.size(), 1u);
+}
+
+TEST_F(TarnServiceFanOut, RunsOneNotificationAtATime) {
+    const sp<HeldClient> held = new HeldClient;
+    service->connect(1, held);
+    BackgroundCall first([&] { service->notify(4, nullptr, 0, nullptr); });
+    ASSERT_TRUE(eventually([&] { return held->gate.arrived(); }));
+    BackgroundCall second([&] { service->notify(5, nullptr, 0, nullptr); });
+    EXPECT_TRUE(second.waits());
+    EXPECT_EQ(held->gate.arrivals(), 1);
+    held->gate.open();
+    EXPECT_TRUE(eventually([&] { return held->gate.arrivals() == 2; }));
+}
+
 TEST_F(TarnServiceFanOut, SkipsANullClient) {
     service->connect(1, nullptr);
     EXPECT_EQ(service->notify(4, nullptr, 0, nullptr), 0);
@@ -301,20 +440,82 @@ TEST(TarnService, SaysThatItIsDestroyed) {
     EXPECT_EQ(log.lines()[0].priority, 3);
 }
 
-TEST(TarnService, IsPublishedAndStaysSoWithoutItsPlatformSide) {
-    LogCapture log;
-    TarnService::instantiate();
-    EXPECT_THAT(log.messages(), ElementsAre("TarnService instantiate"));
-    EXPECT_NE(sTarnPlatform, nullptr);
+/** Keeps the one service that is published, and how that was done. */
+class RecordingServiceManager : public android::IServiceManager {
+  public:
+    sp<IBinder> getService(const String16&) const override { return service; }
+    sp<IBinder> checkService(const String16&) const override { return service; }
+    sp<IBinder> waitForService(const String16&) override { return service; }
+    bool isDeclared(const String16&) override { return false; }
+    android::Vector<String16> listServices(int) override { return {}; }
 
+    status_t addService(const String16& n, const sp<IBinder>& s, bool isolated,
+                        int flags) override {
+        name = n;
+        service = s;
+        allowIsolated = isolated;
+        dumpFlags = flags;
+        return android::OK;
+    }
+
+    String16 name;
+    sp<IBinder> service;
+    bool allowIsolated = true;
+    int dumpFlags = 0;
+
+  protected:
+    IBinder* onAsBinder() override { return nullptr; }
+};
+
+sp<RecordingServiceManager> installManager() {
+    const sp<RecordingServiceManager> manager = new RecordingServiceManager;
+    android::setDefaultServiceManager(manager);
+    return manager;
+}
+
+// The process's service manager, there before anybody asks for it.
+const sp<RecordingServiceManager> gManager = installManager();
+
+class PublishedTarnService : public testing::Test {
+  protected:
+    PublishedTarnService() { TarnService::instantiate(); }
+
+    ~PublishedTarnService() override { gManager->service.clear(); }
+
+    LogCapture log;
+};
+
+TEST_F(PublishedTarnService, IsOpenToNoIsolatedProcessAndDumpedByDefault) {
+    EXPECT_EQ(gManager->name, String16("tarn.service"));
+    EXPECT_FALSE(gManager->allowIsolated);
+    EXPECT_EQ(gManager->dumpFlags, 8);
+}
+
+TEST_F(PublishedTarnService, IsThePlatformSideUntilThatIsForgotten) {
+    EXPECT_THAT(log.messages(), ElementsAre("TarnService instantiate"));
+    EXPECT_EQ(sTarnPlatform, static_cast<TarnService*>(gManager->service.get()));
     TarnService::deinstantiate();
     EXPECT_THAT(log.messages().back(), "TarnService deinstantiate");
     EXPECT_EQ(sTarnPlatform, nullptr);
-    const sp<ITarnService> service = android::interface_cast<ITarnService>(
-            android::defaultServiceManager()->checkService(String16("tarn.service")));
+}
+
+TEST_F(PublishedTarnService, StaysPublishedWithoutItsPlatformSide) {
+    TarnService::deinstantiate();
+    const sp<ITarnService> service = android::interface_cast<ITarnService>(gManager->service);
     ASSERT_NE(service, nullptr);
     EXPECT_EQ(service->connect(1, nullptr), -1);
-    android::host::removeService(String16("tarn.service"));
+}
+
+TEST_F(PublishedTarnService, IsNoPlatformSideAnyMoreOnceItIsDestroyed) {
+    gManager->service.clear();
+    EXPECT_THAT(log.messages().back(), "TarnService destroyed");
+    EXPECT_EQ(sTarnPlatform, nullptr);
+}
+
+TEST_F(PublishedTarnService, LeavesThePlatformSideOfAnotherAlone) {
+    ITarnPlatform* const platform = sTarnPlatform;
+    sp<TarnService>(new TarnService).clear();
+    EXPECT_EQ(sTarnPlatform, platform);
 }
 
 }  // namespace

@@ -1,0 +1,69 @@
+#include <gtest/gtest.h>
+#include <utils/RefBase.h>
+
+#include <new>
+
+#include "core/SharedReference.h"
+
+using android::RefBase;
+using android::SharedReference;
+using android::sp;
+
+namespace {
+
+class Object : public RefBase {
+  public:
+    int value = 7;
+};
+
+using Reference = SharedReference<Object>;
+
+TEST(SharedReference, ReadsLikeAStrongPointer) {
+    Reference reference;
+    EXPECT_TRUE(reference == nullptr);
+    const sp<Object> object = new Object;
+    reference = object;
+    EXPECT_TRUE(reference != nullptr);
+    EXPECT_EQ(reference->value, 7);
+    const sp<Object> copy = reference;
+    EXPECT_EQ(copy, object);
+    reference = nullptr;
+    EXPECT_TRUE(reference == nullptr);
+}
+
+TEST(SharedReference, HoldsItsObjectUntilItIsReplaced) {
+    Reference reference;
+    const sp<Object> object = new Object;
+    reference = object;
+    EXPECT_EQ(object->getStrongCount(), 2);
+    reference = new Object;
+    EXPECT_EQ(object->getStrongCount(), 1);
+}
+
+TEST(SharedReference, KeepsTheFirstOfTwoThatAreSetWhereItIsEmpty) {
+    Reference reference;
+    const sp<Object> first = new Object;
+    EXPECT_EQ(reference.setIfEmpty(nullptr), nullptr);
+    EXPECT_EQ(reference.setIfEmpty(first), first);
+    EXPECT_EQ(reference.setIfEmpty(new Object), first);
+    EXPECT_EQ(sp<Object>(reference), first);
+}
+
+TEST(SharedReference, BeginsWithItsPointer) {
+    Reference reference;
+    const sp<Object> object = new Object;
+    reference = object;
+    EXPECT_EQ(*reinterpret_cast<Object**>(&reference), object.get());
+}
+
+TEST(SharedReference, IsEmptyAndInOrderAfterTheEndOfTheProcessBegan) {
+    alignas(Reference) static unsigned char storage[sizeof(Reference)];
+    auto* const reference = new (storage) Reference;
+    const sp<Object> object = new Object;
+    *reference = object;
+    reference->~Reference();
+    EXPECT_EQ(object->getStrongCount(), 1);
+    EXPECT_TRUE(*reference == nullptr);
+}
+
+}  // namespace
