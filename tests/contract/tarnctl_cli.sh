@@ -46,6 +46,17 @@ expect 2 '' call audio.setVolume 2147483648
 expect 2 '' --nothing
 expect 2 ''
 expect 2 '' --board /no/such/file.json call audio.getVolume
+expect 2 '' monitor --count abc
+expect 2 '' monitor --count 99999999999
+expect 2 '' --board '' status
+expect 2 '' batch /tmp
+grep -q "^tarnctl: can't read /tmp: Is a directory$" stderr || fail 'a directory as a batch'
+# Not in a command substitution, whose pipe would take the closed one's place.
+"$tarnctl" batch <&- >output 2>stderr
+[ $? = 2 ] || fail 'a closed standard input did not end a batch with 2'
+grep -q "^tarnctl: can't read -: " stderr || fail 'a closed standard input as a batch'
+expect 2 '' call device.setNfcTagMsg $'\xff'
+grep -q 'is not UTF-8$' stderr || fail 'a text that is not UTF-8'
 expect 3 -1 call audio.setVolume 101
 expect 3 "status: -1
 reply: ffffffff" raw 0x7ffe
@@ -62,11 +73,20 @@ expect 3 '-1
 call audio.getVolume'
 expect 4 '' batch <<<"board fault '*' dead
 call audio.getVolume"
-expect 4 '' batch --timeout 0.05 <<<'board fault 0x1401 delay 30000
+expect 4 '' batch --timeout 1 <<<'board fault 0x1401 delay 30000
 call audio.getVolume'
 
 [ "$("$tarnctl" list | tail -1)" = '47 controllers, 609 methods' ] || fail 'the totals of list'
-"$tarnctl" list >/dev/full 2>stderr && fail 'a full disk went unnoticed'
+"$tarnctl" list >/dev/full 2>stderr
+[ $? = 5 ] || fail 'a full disk went unnoticed'
+[ "$(cat stderr)" = "tarnctl: can't write the results: No space left on device" ] ||
+    fail "a full disk is called $(cat stderr)"
+"$tarnctl" -k batch >/dev/full 2>stderr <<<'board raise 1
+board raise 2
+monitor --timeout 60
+call audio.nothing'
+[ $? = 5 ] || fail 'a batch went on with its results lost'
+grep -q ':3: .*No space left' stderr || fail 'the monitor went on with a full disk'
 
 # Verbose shows the library's log, and does not change the level for others.
 "$tarnctl" -v call audio.postAudioEvent 7 0a 2>stderr >/dev/null
@@ -92,6 +112,31 @@ for signal in INT TERM; do
     [ -s events ] && fail "monitor printed $(cat events)"
 done
 
+# Interrupted before all events came, and within a batch, it is no success.
+interrupted() {
+    rm -f stderr
+    env --default-signal=INT "$tarnctl" "$@" <commands >events 2>stderr &
+    monitor=$!
+    for _ in $(seq 600); do
+        grep -qs 'waiting for events' stderr && break
+        sleep 0.1
+    done
+    kill -s INT "$monitor"
+    wait "$monitor"
+    status=$?
+    [ "$status" = 130 ] || fail "tarnctl $*, interrupted: exit code $status"
+    [ -s events ] && fail "tarnctl $*, interrupted, printed $(cat events)"
+}
+printf 'monitor\nget audio.volume\n' >commands
+interrupted monitor --count 3
+interrupted -k batch
+
+for help in '' $("$tarnctl" --help | sed -n '/^commands:/,/^$/s/^  \([a-z]*\) .*/\1/p'); do
+    # Nothing stands for the help of all.
+    "$tarnctl" ${help:+"$help"} --help | awk -v help="$help" 'length > 100 || /[ \t]$/ {
+        print "FAILED: tarnctl " help " --help: " $0; wrong = 1 } END { exit wrong }' || failed=1
+done
+
 # Completion as bash would ask for it.
 compopt() { options=$*; }
 # shellcheck source=/dev/null
@@ -107,6 +152,7 @@ complete_words() {
 [ "$(complete_words call aud)" = 'audio.-o nospace' ] || fail 'completing a controller'
 [ "$(complete_words call audio.setVol)" = audio.setVolume ] || fail 'completing a method'
 [ "$(complete_words list --json =)" = 'short pretty' ] || fail 'completing a value'
+[ "$(complete_words --json = pretty call aud)" = 'audio.-o nospace' ] || fail 'completing behind a value'
 [ "$(complete_words batch com)" = '' ] || fail 'completing a file'
 
 exit $failed

@@ -219,8 +219,38 @@ TEST(TarnctlService, FindsAServiceThatWasStartedAgain) {
 TEST(TarnctlService, GivesUpACallThatTakesTooLong) {
     const BoardProcess board;
     expectOutcome(runTarnctl({"board", "fault", "CMD_AUDIO_GET_VOLUME", "delay", "60000"}), 0, "");
-    expectOutcome(runTarnctl({"--timeout", "0.1", "call", "audio.getVolume"}), 4, "",
-                  "tarnctl: no answer within 0.1 s\n");
+    expectOutcome(runTarnctl({"--timeout", "2", "call", "audio.getVolume"}), 4, "",
+                  "tarnctl: no answer within 2 s\n");
+}
+
+TEST(TarnctlService, NeverTakesAnotherBoardForOneThatDoesNotAnswer) {
+    const BoardProcess board;
+    board.signal(SIGSTOP);
+    const std::string late = "tarnctl: the hardware service did not answer within 0.5 s\n";
+    expectOutcome(runTarnctl({"--timeout", "0.5", "set", "audio.volume", "77"}), 4, "", late);
+    expectOutcome(runTarnctl({"--timeout", "0.5", "--service", "monitor"}), 4, "", late);
+    expectOutcome(runTarnctl({"--timeout", "0.5", "board", "list"}), 4, "", late);
+    expectOutcome(runTarnctl({"--timeout", "0.5", "status"}), 4,
+                  "service: not ready\nlogLevel: WARN\n", late);
+    // By itself the search gives up too, and knows that somebody has the name.
+    expectOutcome(runTarnctl({"set", "audio.volume", "77"}), 4, "",
+                  "tarnctl: the hardware service did not answer\n");
+    board.signal(SIGCONT);
+    expectOutcome(runTarnctl({"get", "audio.volume"}), 0, "30\n");
+}
+
+TEST(TarnctlService, SaysWhyItReachesNoBus) {
+    const Outcome outcome = runTarnctl({"call", "audio.getVolume"},
+                                       {{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/such/bus"}});
+    EXPECT_EQ(0, outcome.code);
+    EXPECT_EQ("30\n", outcome.output);
+    EXPECT_EQ(0u, outcome.errors.find("tarnctl: The session bus at unix:path=/no/such/bus cannot "
+                                      "be reached"))
+            << outcome.errors;
+    EXPECT_NE(std::string::npos, outcome.errors.find(kEmbedded)) << outcome.errors;
+    EXPECT_EQ("", runTarnctl({"-q", "call", "audio.getVolume"},
+                             {{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/such/bus"}})
+                          .errors);
 }
 
 }  // namespace

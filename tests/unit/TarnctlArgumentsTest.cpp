@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 #include <string>
 #include <vector>
@@ -15,6 +16,7 @@
 #include "tools/tarnctl/cli/Words.h"
 #include "tools/tarnctl/registry/Arguments.h"
 #include "tools/tarnctl/registry/Parcels.h"
+#include "tools/tarnctl/registry/Results.h"
 
 using namespace tarnctl;
 using std::chrono::milliseconds;
@@ -50,9 +52,16 @@ TEST(TarnctlNumbers, AreDecimalOrHexadecimal) {
     EXPECT_EQ(parseUnsigned("n", "0xffffffff"), 4294967295u);
 }
 
+TEST(TarnctlNumbers, MayBeTheWordOfANegativeOne) {
+    EXPECT_EQ(parseInt("n", "0xffffffff"), -1);
+    EXPECT_EQ(parseInt("n", "0x80000000"), -2147483647 - 1);
+    EXPECT_EQ(parseInt("n", "0x7fffffff"), 2147483647);
+}
+
 TEST(TarnctlNumbers, RefuseWhatIsNoneOrBeyondItsType) {
     const std::string accepted =
-            "accepted: a number from -2147483648 to 2147483647, decimal or 0x hexadecimal";
+            "accepted: a number from -2147483648 to 2147483647, decimal or 0x hexadecimal, where "
+            "0xffffffff is -1";
     for (const std::string text : {"", "x", "30x", " 30", "3 0", "2147483648", "-2147483649", "0x",
                                    "0x100000000", "1.5", "99999999999999999999", "--5", "0x1g"}) {
         EXPECT_EQ(refusal([&] { parseInt("volume", text); }),
@@ -84,6 +93,35 @@ TEST(TarnctlFloats, RefuseWhatIsNoNumber) {
               "level: \"half\" can't be used; accepted: a number such as 0.5");
     EXPECT_EQ(refusal([] { parseFloat("level", ""); }),
               "level: \"\" can't be used; accepted: a number such as 0.5");
+}
+
+TEST(TarnctlFloats, AreInfiniteOnlyWhenTheySaySo) {
+    for (const std::string text : {"1e40", "-1e40"}) {
+        EXPECT_EQ(refusal([&] { parseFloat("level", text); }),
+                  "level: \"" + text +
+                          "\" can't be used; accepted: a number up to 3.4028235e38, or inf");
+    }
+    EXPECT_EQ(parseFloat("level", "3.4028235e38"), 3.4028235e38f);
+    EXPECT_TRUE(std::isinf(parseFloat("level", "inf")));
+    EXPECT_EQ(jsonText(Json::Value(parseFloat("level", "-Infinity")), JsonStyle::kShort), "null");
+}
+
+TEST(TarnctlTexts, AreUtf8) {
+    using android::String16;
+    for (const std::string text : {"", "plain", "\xc3\xa9", "\xe2\x82\xac", "\xf0\x9f\x98\x80",
+                                   "\xed\x9f\xbf", "\xee\x80\x80", "\xf4\x8f\xbf\xbf"}) {
+        EXPECT_EQ(parseText("name", text), text);
+    }
+    for (const std::string text :
+         {"\xff", "a\x80", "\xc3", "\xc3(", "\xc0\xaf", "\xe0\x80\xaf", "\xed\xa0\x80",
+          "\xf0\x80\x80\xaf", "\xf4\x90\x80\x80", "\xf8\x88\x80\x80\x80", "\xe2\x82"}) {
+        const std::string said = "name: the text is not UTF-8";
+        EXPECT_EQ(refusal([&] { ArgumentReader<std::string>::parse("name", text); }), said);
+        EXPECT_EQ(refusal([&] { ArgumentReader<String16>::parse("name", text); }), said);
+        android::Parcel parcel;
+        EXPECT_EQ(refusal([&] { writeValue("s16", text, &parcel); }), "s16: the text is not UTF-8");
+        EXPECT_EQ(parcel.dataSize(), 0u);
+    }
 }
 
 TEST(TarnctlBytes, ArePairsOfHexadecimalDigits) {
@@ -158,6 +196,22 @@ TEST(TarnctlOptions, RefuseWhatTheyDontKnow) {
               "2 --service and a simulated board exclude each other");
 }
 
+TEST(TarnctlOptions, RefuseAFileWithoutAName) {
+    for (const std::string option : {"--board", "--override"}) {
+        const std::string said = "2 " + option + " needs a file: " + option + " FILE";
+        EXPECT_EQ(refusal([&] { parseCommandLine({option, "", "status"}); }), said);
+        EXPECT_EQ(refusal([&] { parseCommandLine({option + "="}); }), said);
+    }
+}
+
+TEST(TarnctlOptions, AskForQuietEvenWhereTheyCantBeUsed) {
+    EXPECT_TRUE(asksForQuiet({"-q", "--bogus"}));
+    EXPECT_TRUE(asksForQuiet({"--bogus", "--quiet"}));
+    EXPECT_TRUE(asksForQuiet({"call", "-jq"}));
+    EXPECT_FALSE(asksForQuiet({"call", "--", "-q"}));
+    EXPECT_FALSE(asksForQuiet({"--quick", "q", "-"}));
+}
+
 TEST(TarnctlOptions, RefuseValuesThatCantBe) {
     for (const std::string text : {"", "0", "-1", "soon", "1e9", "nan", "inf", "2s"}) {
         EXPECT_EQ(refusal([&] { parseCommandLine({"--timeout=" + text}); }),
@@ -183,6 +237,10 @@ TEST(TarnctlOptions, OfABatchHoldForItsLines) {
                   parseBatchLine({"call", "--board", "b"}, batch);
               }),
               "2 --board can't stand on a line of a batch");
+    EXPECT_EQ(refusal([&] {
+                  parseBatchLine({"call", "-v"}, batch);
+              }),
+              "2 --verbose can't stand on a line of a batch");
 }
 
 TEST(TarnctlWords, AreSplitAsAShellDoes) {
@@ -202,12 +260,25 @@ TEST(TarnctlWords, RefuseAnOpenQuote) {
     EXPECT_EQ(refusal([] { splitWords("call \"audio\\\""); }), "2 a \" is not closed");
 }
 
+TEST(TarnctlWords, RefuseABackslashAtTheEnd) {
+    EXPECT_EQ(refusal([] { splitWords("call audio.getVolume \\"); }),
+              "2 a \\ ends the line; a command stands on one line");
+    EXPECT_THAT(splitWords(R"(a\\)"), ElementsAre("a\\"));
+}
+
+TEST(TarnctlWords, RefuseANulByte) {
+    EXPECT_EQ(refusal([] { splitWords(std::string("call\0 x", 7)); }), "2 a NUL byte is no text");
+}
+
 TEST(TarnctlNames, AreSuggestedWhereTheyAreNear) {
     const Words names{"getVolume", "setVolume", "setAmpMute"};
     EXPECT_EQ(didYouMean("setVolum", names), "; did you mean setVolume, getVolume?");
     EXPECT_EQ(didYouMean("SETVOLUME", names), "; did you mean setVolume, getVolume?");
     EXPECT_EQ(didYouMean("mute", names), "; did you mean setAmpMute?");
     EXPECT_EQ(didYouMean("xyz", names), "");
+    EXPECT_EQ(didYouMean("", {"pq"}), "");
+    EXPECT_EQ(didYouMean("a", {"pq"}), "");
+    EXPECT_EQ(didYouMean("PQ", {"pq"}), "; did you mean pq?");
 }
 
 TEST(TarnctlProperties, AreGettersAndSetters) {
@@ -225,6 +296,28 @@ TEST(TarnctlProperties, AreGettersAndSetters) {
     EXPECT_THAT(refusal([] { refuseProperty("audio.volum", Access::kSet); }),
                 testing::StartsWith("1 no property \"audio.volum\" that can be set; did you mean "
                                     "audio.volume"));
+}
+
+TEST(TarnctlProperties, AreListedAsTheyCanBeUsed) {
+    const auto listed = [](const std::string& name) {
+        for (const NamedProperty& property : namedProperties()) {
+            if (property.name == name) return property;
+        }
+        return NamedProperty{"none"};
+    };
+    EXPECT_EQ(listed("system.usbSuspend").name, "none");
+    EXPECT_THAT(findAccessors("system.usbSuspend", Access::kSet).methods, IsEmpty());
+    for (const NamedProperty& drc : {listed("audio.drc"), listed("audio.drcEnable")}) {
+        ASSERT_TRUE(drc.getter && drc.setter) << drc.name;
+        EXPECT_EQ(drc.getter->name, "isDrcEnable");
+        EXPECT_EQ(drc.setter->name, "enableDrc");
+    }
+    for (const NamedProperty& property : namedProperties()) {
+        const bool read = !findAccessors(property.name, Access::kGet).methods.empty();
+        const bool written = !findAccessors(property.name, Access::kSet).methods.empty();
+        EXPECT_EQ(read, property.getter != nullptr) << property.name;
+        EXPECT_EQ(written, property.setter != nullptr) << property.name;
+    }
 }
 
 TEST(TarnctlFaults, AreReadFromWords) {
@@ -254,6 +347,21 @@ TEST(TarnctlFaults, RefuseWordsThatTheyDontKnow) {
                     parseFault({"status", "bad"});
                 }),
                 testing::StartsWith("status: \"bad\" can't be used"));
+}
+
+TEST(TarnctlFaults, RefuseWordsThatContradict) {
+    EXPECT_EQ(refusal([] {
+                  parseFault({"dead", "every", "2", "probability", "0.5"});
+              }),
+              "2 fault: every and probability exclude each other");
+    EXPECT_EQ(refusal([] {
+                  parseFault({"dead", "seed", "3"});
+              }),
+              "2 fault: seed goes with probability only");
+    EXPECT_EQ(refusal([] {
+                  parseFault({"dead", "every", "2", "every", "3"});
+              }),
+              "2 fault: every stands twice");
 }
 
 TEST(TarnctlWire, WritesEveryType) {
@@ -313,6 +421,17 @@ TEST(TarnctlText, ShowsRecordsAndLists) {
                                                "list:", "  - levels: [1, 2]", "    name: a"));
     EXPECT_THAT(plainLines(value["list"][0]["levels"]), ElementsAre("1", "2"));
     EXPECT_THAT(plainLines(Json::Value()), ElementsAre("null"));
+}
+
+TEST(TarnctlText, ShowsRecordsInTheirOrder) {
+    const Json::Value record =
+            fields({{"item1", 1}, {"item2", 2}, {"item10", 3}, {"flag", true}, {"result", 0}});
+    EXPECT_THAT(plainLines(record),
+                ElementsAre("result: 0", "item1: 1", "item2: 2", "item10: 3", "flag: true"));
+    Json::Value list(Json::arrayValue);
+    list.append(record);
+    const Json::Value copy = list;
+    EXPECT_THAT(plainLines(copy[0]), testing::ElementsAreArray(plainLines(record)));
 }
 
 TEST(TarnctlText, ShowsFloatsWithTheDigitsTheyHave) {

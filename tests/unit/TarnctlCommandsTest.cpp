@@ -171,6 +171,10 @@ TEST_F(Tarnctl, RefusesToDescribeWhatItDoesNotKnow) {
     for (const char* name : {"setVolume", "0x7fff", "CMD_AUDIO_SET_VOLUM", "audio.x"}) {
         EXPECT_EQ(run({"describe", name}).code, 1) << name;
     }
+    EXPECT_EQ(run({"describe", ""}).err, "tarnctl: no controller, method or command \"\"\n");
+    EXPECT_THAT(run({"describe", "cmd_audio_set_volume"}).err,
+                HasSubstr("did you mean CMD_AUDIO_SET_VOLUME"));
+    EXPECT_THAT(run({"describe", "IAudioCtrl"}).err, HasSubstr("did you mean AudioCtrl"));
     EXPECT_EQ(run({"describe"}).code, 2);
     EXPECT_EQ(run({"describe", "0x123456789"}).code, 2);
 }
@@ -301,7 +305,7 @@ TEST_F(Tarnctl, RefusesABadArgumentBeforeLookingForAService) {
     EXPECT_EQ(word.out, "");
     EXPECT_EQ(word.err,
               "tarnctl: volume: \"loud\" can't be used; accepted: a number from -2147483648 to "
-              "2147483647, decimal or 0x hexadecimal\n");
+              "2147483647, decimal or 0x hexadecimal, where 0xffffffff is -1\n");
     EXPECT_EQ(run({"--service", "call", "audio.setVolume", "2147483648"}).code, 2);
 }
 
@@ -326,7 +330,7 @@ TEST_F(Tarnctl, GivesUpACallThatTakesTooLong) {
         changed.notify_all();
         return std::string(4, '\0');
     };
-    const Ran ran = run({"--timeout", "0.05", "--trace", "call", "audio.setVolume", "30"});
+    const Ran ran = run({"--timeout", "0.5", "--trace", "call", "audio.setVolume", "30"});
     {
         std::unique_lock<std::mutex> guard(lock);
         released = true;
@@ -338,7 +342,7 @@ TEST_F(Tarnctl, GivesUpACallThatTakesTooLong) {
     EXPECT_EQ(ran.err,
               "tarnctl: request 02140000 1e000000\n"
               "tarnctl: reply   not yet\n"
-              "tarnctl: no answer within 0.05 s\n");
+              "tarnctl: no answer within 0.5 s\n");
 }
 
 TEST_F(TarnctlWithFake, GivesTheResultOfACallThatIsInTime) {
@@ -390,8 +394,11 @@ TEST_F(Tarnctl, ListsThePropertiesWithTheirAccess) {
     EXPECT_EQ(ran.code, 0);
     EXPECT_EQ(ran.err, "");
     EXPECT_THAT(ran.out, testing::ContainsRegex("\naudio\\.volume +rw  int\n"));
-    EXPECT_THAT(run({"get", "-j"}).out,
-                HasSubstr(R"({"access":"rw","name":"audio.volume","type":"int"})"));
+    const std::string json = run({"get", "-j"}).out;
+    EXPECT_THAT(json, HasSubstr(R"({"access":"rw","name":"audio.volume","type":"int"})"));
+    EXPECT_THAT(json, HasSubstr(R"({"access":"rw","name":"audio.drc","type":"int"})"));
+    EXPECT_THAT(json, HasSubstr(R"({"access":"w","name":"audio.)"));
+    EXPECT_THAT(ran.out, Not(HasSubstr("system.usbSuspend ")));
 }
 
 // ---- raw
@@ -406,6 +413,30 @@ TEST_F(TarnctlWithFake, SendsRawWords) {
     EXPECT_EQ(run({"raw", "0x1408", "-j"}).out,
               R"({"fields":{"on":true},"reply":"00000000 01000000","status":0})"
               "\n");
+}
+
+TEST_F(TarnctlWithFake, ShowsNoStatusWhereTheReplyHasNone) {
+    answer("");
+    const Ran ran = run({"raw", "0x1401"});
+    EXPECT_EQ(ran.code, 3);
+    EXPECT_EQ(ran.out, "status: null\nreply: \n");
+    EXPECT_EQ(run({"raw", "0x1401", "-j"}).out, "{\"reply\":\"\",\"status\":null}\n");
+}
+
+TEST_F(TarnctlWithFake, DecodesConfigurationSets) {
+    answer(std::string("\0\0\0\0\x01\0\0\0\x02\0\0\0/\0a\0\0\0\0\0", 20));
+    const Ran ran = run({"call", "projectId.getProjectIdLogoCfgs"});
+    EXPECT_EQ(ran.code, 0);
+    EXPECT_EQ(ran.out, "result: 0\ncfgs:\n  - path: /a\n");
+    answer(std::string("\0\0\0\0\x02\0\0\0\x05\0\0\0\xfe\xff\xff\xff", 16));
+    for (const std::string set : {"PqBcsh", "PqWB", "PqSPG", "Dbc", "Dcr"}) {
+        EXPECT_EQ(run({"-j", "call", "projectId.getProjectId" + set + "Cfgs"}).out,
+                  R"({"cfgs":[{"value":5},{"value":-2}],"result":0})"
+                  "\n");
+    }
+    // What is not as the layout says is shown as it is.
+    answer(std::string("\0\0\0\0\x02\0\0\0", 8));
+    EXPECT_EQ(run({"call", "projectId.getProjectIdDbcCfgs"}).out, "result: 0\ndata: 02000000\n");
 }
 
 TEST_F(TarnctlWithFake, SendsCodesThatNobodyKnows) {
@@ -434,13 +465,15 @@ TEST_F(Tarnctl, PrintsEventsInTheirOrder) {
                         "set audio.volume 40\n"
                         "board raise 0x99 0a0b0c0d 01\n"
                         "board raise 7\n"
-                        "monitor --count 3 --timeout 60\n");
+                        "board raise CMD_AUDIO_GET_VOLUME\n"
+                        "monitor --count 4 --timeout 60\n");
     EXPECT_EQ(ran.code, 0);
     EXPECT_EQ(ran.out,
               "0\n"
               "event 0x1402 size 4 28000000\n"
               "event 0x0099 size 8 0a0b0c0d 01000000\n"
-              "event 0x0007 size 0\n");
+              "event 0x0007 size 0\n"
+              "event 0x1401 size 0\n");
 }
 
 TEST_F(Tarnctl, PrintsEventsAsLinesOfJson) {
@@ -450,37 +483,72 @@ TEST_F(Tarnctl, PrintsEventsAsLinesOfJson) {
 }
 
 TEST_F(Tarnctl, StopsWaitingForEventsInTime) {
-    EXPECT_EQ(run({"monitor", "--timeout", "0.01"}).code, 0);
+    EXPECT_EQ(run({"monitor", "--timeout", "0.3"}).code, 0);
     forgetServices();
-    const Ran ran = run({"monitor", "--count", "2", "--timeout", "0.01"});
+    const Ran ran = run({"monitor", "--count", "2", "--timeout", "0.3"});
     EXPECT_EQ(ran.code, 4);
     EXPECT_EQ(ran.out, "");
     EXPECT_THAT(ran.err, testing::EndsWith("tarnctl: only 0 of 2 events came in time\n"));
 }
 
+/** Runs it with a signal sent again and again, since nobody tells when the wait has begun. */
+Ran runInterrupted(int signal, const std::vector<std::string>& words,
+                   const std::string& input = "") {
+    std::atomic<bool> ended{false};
+    struct sigaction ignore = {};
+    struct sigaction old = {};
+    ignore.sa_handler = SIG_IGN;
+    sigaction(signal, &ignore, &old);
+    std::thread sender([&ended, signal] {
+        while (!ended) {
+            kill(getpid(), signal);
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        }
+    });
+    const Ran ran = run(words, input);
+    ended = true;
+    sender.join();
+    sigaction(signal, &old, nullptr);
+    return ran;
+}
+
+TEST_F(Tarnctl, FailsWhenItIsInterruptedBeforeAllEventsCame) {
+    const Ran interrupted = runInterrupted(SIGINT, {"monitor", "--count", "3"});
+    EXPECT_EQ(interrupted.code, 130);
+    EXPECT_THAT(interrupted.err, testing::EndsWith("tarnctl: interrupted\n"));
+    forgetServices();
+    EXPECT_EQ(runInterrupted(SIGTERM, {"monitor", "--count", "3"}).code, 143);
+}
+
+TEST_F(Tarnctl, StopsABatchWhoseMonitorIsInterrupted) {
+    const Ran ran = runInterrupted(SIGINT, {"-q", "-k", "batch"},
+                                   "monitor\n"
+                                   "get audio.volume\n");
+    EXPECT_EQ(ran.code, 130);
+    EXPECT_EQ(ran.out, "");
+}
+
 TEST_F(Tarnctl, EndsMonitoringOnASignal) {
     for (const int signal : {SIGINT, SIGTERM}) {
         forgetServices();
-        // Sent again and again, since nobody tells when the wait has begun.
-        std::atomic<bool> ended{false};
-        struct sigaction ignore = {};
-        struct sigaction old = {};
-        ignore.sa_handler = SIG_IGN;
-        sigaction(signal, &ignore, &old);
-        std::thread sender([&ended, signal] {
-            while (!ended) {
-                kill(getpid(), signal);
-                std::this_thread::sleep_for(std::chrono::milliseconds(5));
-            }
-        });
-        const Ran ran = run({"monitor"});
-        ended = true;
-        sender.join();
-        sigaction(signal, &old, nullptr);
+        const Ran ran = runInterrupted(signal, {"monitor"});
         EXPECT_EQ(ran.code, 0);
         EXPECT_EQ(ran.out, "");
         EXPECT_THAT(ran.err, testing::EndsWith("tarnctl: waiting for events\n"));
     }
+}
+
+TEST_F(Tarnctl, RefusesACountThatIsNone) {
+    for (const std::string count : {"abc", "", "99999999999"}) {
+        const Ran ran = run({"monitor", "--count", count});
+        EXPECT_EQ(ran.code, 2) << count;
+        EXPECT_THAT(ran.err, testing::StartsWith("tarnctl: --count: \"" + count +
+                                                 "\" can't be used; accepted: a number"));
+    }
+    const Ran batch = run({"-k", "batch"}, "monitor --count abc\nlist gpio\n");
+    EXPECT_EQ(batch.code, 2);
+    EXPECT_THAT(batch.err, testing::StartsWith("tarnctl: -:1: --count: \"abc\" can't be used"));
+    EXPECT_THAT(batch.out, HasSubstr("gpio."));
 }
 
 TEST_F(TarnctlWithFake, CantMonitorADeadService) {
@@ -526,7 +594,31 @@ TEST_F(Tarnctl, ReadsABatchFromAFile) {
     EXPECT_EQ(ran.out, "0\n41\n");
     const Ran missing = run({"batch", file});
     EXPECT_EQ(missing.code, 2);
-    EXPECT_EQ(missing.err, "tarnctl: can't read " + file + "\n");
+    EXPECT_EQ(missing.err, "tarnctl: can't read " + file + ": No such file or directory\n");
+}
+
+TEST_F(Tarnctl, RefusesABatchThatItCantRead) {
+    const Ran directory = run({"batch", testing::TempDir()});
+    EXPECT_EQ(directory.code, 2);
+    EXPECT_EQ(directory.err, "tarnctl: can't read " + testing::TempDir() + ": Is a directory\n");
+    const Ran nul = run({"batch"}, std::string("\0list\n", 6));
+    EXPECT_EQ(nul.code, 2);
+    EXPECT_EQ(nul.err, "tarnctl: -:1: a NUL byte is no text\n");
+}
+
+TEST_F(Tarnctl, ReadsABatchWithAByteOrderMark) {
+    const Ran ran = run({"-q", "batch"}, "\xef\xbb\xbfget audio.volume\n");
+    EXPECT_EQ(ran.code, 0);
+    EXPECT_EQ(ran.out, "20\n");
+}
+
+TEST_F(Tarnctl, KeepsQuietOnALineThatAsksForIt) {
+    const Ran ran = run({"-k", "batch"},
+                        "call audio.nothing\n"
+                        "call audio.nothing -q\n"
+                        "call --bogus -q\n");
+    EXPECT_EQ(ran.code, 1);
+    EXPECT_EQ(ran.err, "tarnctl: -:1: audio has no method \"nothing\"\n");
 }
 
 TEST_F(Tarnctl, GoesOnWithANewManagerAfterACallThatWasGivenUp) {
@@ -610,6 +702,11 @@ TEST_F(Tarnctl, RefusesWhatTheBoardDoes) {
     EXPECT_THAT(refusal("board set audio.volume x"), testing::StartsWith("2 "));
     EXPECT_THAT(refusal("board raise x"), testing::StartsWith("2 "));
     EXPECT_THAT(refusal("board raise 1 0g"), HasSubstr("data: \"0g\" can't be used"));
+    EXPECT_THAT(refusal("board raise 1 010 0"), HasSubstr("data: \"010\" can't be used"));
+    EXPECT_THAT(refusal("board raise CMD_NOTHING"), testing::StartsWith("1 "));
+    EXPECT_THAT(refusal("board set board.note '\xff'"), HasSubstr("value: the text is not UTF-8"));
+    EXPECT_THAT(refusal("board list 1"),
+                HasSubstr("too many arguments; usage: tarnctl board list\n"));
     EXPECT_THAT(refusal("board fault CMD_NOTHING dead"), testing::StartsWith("1 "));
     EXPECT_THAT(refusal("board fault clear '*'"), testing::StartsWith("2 "));
     EXPECT_THAT(refusal("board lst"), HasSubstr("board can't \"lst\"; did you mean list"));
@@ -641,7 +738,9 @@ TEST_F(Tarnctl, RefusesABoardWithErrors) {
     EXPECT_THAT(chosen.err,
                 AllOf(testing::StartsWith("tarnctl: the simulated board can't be started:\n"),
                       HasSubstr("tarnctl: " + mBoardFile + ":1: ")));
-    EXPECT_EQ(run({"get", "audio.volume"}).code, 4);
+    const Ran set = run({"get", "audio.volume"});  // by TARN_BOARD
+    EXPECT_EQ(set.code, 2);
+    EXPECT_EQ(set.err, chosen.err);
     EXPECT_EQ(run({"--board", "/no/such/board.json", "get", "audio.volume"}).code, 2);
 }
 
@@ -651,8 +750,9 @@ TEST_F(Tarnctl, SaysHowItIsUsed) {
     const Ran help = run({"--help"});
     EXPECT_EQ(help.code, 0);
     EXPECT_EQ(help.err, "");
-    for (const char* word : {"list [CONTROLLER]", "batch [FILE]", "--timeout SECONDS",
-                             "exit codes:", "--json[=short|pretty]"}) {
+    for (const char* word :
+         {"list [CONTROLLER]", "batch [--keep-going] [FILE]", "monitor [--count N]",
+          "--timeout SECONDS", "exit codes:", "--json[=short|pretty]"}) {
         EXPECT_THAT(help.out, HasSubstr(word));
     }
     EXPECT_EQ(run({"help"}).out, help.out);
@@ -668,7 +768,7 @@ TEST_F(Tarnctl, RefusesACommandThatItDoesNotHave) {
     EXPECT_EQ(none.err, "tarnctl: no command; tarnctl --help lists them\n");
     const Ran wrong = run({"cal", "audio.getVolume"});
     EXPECT_EQ(wrong.code, 2);
-    EXPECT_EQ(wrong.err, "tarnctl: tarnctl has no command \"cal\"; did you mean call, raw?\n");
+    EXPECT_EQ(wrong.err, "tarnctl: no command \"cal\"; did you mean call, raw?\n");
     EXPECT_EQ(run({"list", "--colour"}).code, 2);
 }
 
@@ -677,8 +777,17 @@ TEST_F(Tarnctl, SaysWhenItCantWriteItsResults) {
     std::ostringstream out;
     std::ostringstream err;
     out.setstate(std::ios::badbit);
-    EXPECT_EQ(tarnctl::run({"list"}, tarnctl::Streams{in, out, err}), 3);
+    EXPECT_EQ(tarnctl::run({"list"}, tarnctl::Streams{in, out, err}), 5);
     EXPECT_EQ(err.str(), "tarnctl: can't write the results\n");
+}
+
+TEST_F(Tarnctl, StopsABatchThatCantWriteItsResults) {
+    std::istringstream in("set audio.volume 41\nboard raise 7\n");
+    std::ostringstream out;
+    std::ostringstream err;
+    out.setstate(std::ios::badbit);
+    EXPECT_EQ(tarnctl::run({"-k", "batch"}, tarnctl::Streams{in, out, err}), 5);
+    EXPECT_EQ(err.str(), std::string(kEmbedded) + "tarnctl: -:1: can't write the results\n");
 }
 
 TEST_F(Tarnctl, CompletesWords) {
@@ -702,7 +811,19 @@ TEST_F(Tarnctl, CompletesWords) {
     EXPECT_EQ(complete({"monitor", "--cou"}), "--count\n");
     EXPECT_EQ(complete({"list", "--cou"}), "");
     EXPECT_EQ(complete({"list", "--json", "=", "p"}), "pretty\n");
+    EXPECT_EQ(complete({"list", "--json", "="}), "short\npretty\n");
     EXPECT_EQ(complete({"nonsense", ""}), "");
+    EXPECT_EQ(complete({"--board", ""}), "");
+    EXPECT_EQ(complete({"--timeout", ""}), "");
+    EXPECT_EQ(complete({"monitor", "-n", ""}), "");
+    EXPECT_EQ(complete({"--json", "=", "pretty", "call", "aud"}), "audio.\n");
+    EXPECT_EQ(complete({"--board", "=", "b.json", "call", "aud"}), "audio.\n");
+    EXPECT_EQ(complete({"call", "AudioCtrl.setVol"}), "AudioCtrl.setVolume\n");
+    EXPECT_EQ(complete({"get", "AudioCtrl.volu"}), "AudioCtrl.volume\n");
+    EXPECT_EQ(complete({"board", "get", "audio.v"}), "audio.volume\n");
+    forgetServices();
+    EXPECT_EQ(complete({"board", "set", "board."}), "board.note\n");
+    EXPECT_EQ(complete({"board", "set", "audio.volume", ""}), "");
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 
 #include "tools/tarnctl/cli/Failure.h"
 #include "tools/tarnctl/cli/Names.h"
+#include "tools/tarnctl/registry/Arguments.h"
+#include "tools/tarnctl/registry/Registry.h"
 
 namespace tarnctl {
 
@@ -35,7 +37,9 @@ Json::Value readProperty(const BoardLink& board, const std::string& name) try {
 
 void writeProperty(BoardLink* board, const std::string& name, const std::string& value) try {
     requireProperty(*board, name);
-    board->setProperty(name, value);
+    board->setProperty(name, parseText("value", value));
+} catch (const BadArgument&) {
+    throw;
 } catch (const std::invalid_argument& refusal) {
     throw Failure(kBadUsage, refusal.what());
 }

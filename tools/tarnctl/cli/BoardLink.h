@@ -43,6 +43,12 @@ class BoardLink {
     virtual void clearFaults() = 0;
 };
 
+/**
+ * Whether somebody has the hardware service's name, though perhaps doesn't answer: then no
+ * simulated board takes its place. False where tarnctl is built without a board.
+ */
+bool isServicePublished();
+
 /** The files that describe a board; empty ones stand for the default board, without overrides. */
 struct BoardFiles {
     std::string board;
@@ -51,11 +57,14 @@ struct BoardFiles {
 
 /**
  * Starts a simulated board as this process's hardware service; null where tarnctl is built without
- * one. Throws std::runtime_error if the board is refused.
+ * one. Throws Failure: kBadUsage if the board's files are refused, else kUnreachable.
  */
 std::unique_ptr<BoardLink> startEmbeddedBoard(const BoardFiles& files);
 
-/** The control of the simulated board that another process serves; null if it serves none. */
+/**
+ * The control of the simulated board that another process serves; null if it serves none. Throws
+ * Failure(kUnreachable).
+ */
 std::unique_ptr<BoardLink> findServedBoard(pid_t process);
 
 }  // namespace tarnctl

@@ -1,7 +1,10 @@
 #include "tools/tarnctl/cli/Console.h"
 
+#include <cerrno>
+#include <cstring>
 #include <sstream>
 
+#include "tools/tarnctl/cli/Failure.h"
 #include "tools/tarnctl/cli/Text.h"
 
 namespace tarnctl {
@@ -28,8 +31,11 @@ void Output::report(const Report& report) {
 }
 
 void Output::lines(const std::vector<std::string>& lines) {
+    errno = 0;
     for (const std::string& line : lines) mStream << line << '\n';
-    mStream.flush();
+    if (mStream.flush()) return;
+    const std::string reason = errno != 0 ? std::string(": ") + strerror(errno) : "";
+    throw Failure(kCantWrite, "can't write the results" + reason);
 }
 
 void Diagnostics::note(const std::string& message) const {

@@ -22,7 +22,8 @@ struct Streams {
 /** Named values in the order in which a person wants to read them. */
 using Report = std::vector<std::pair<std::string, Json::Value>>;
 
-/** Standard output: data, and nothing else. Every call is flushed. */
+/** Standard output: data, and nothing else. Every call is flushed, or throws Failure(kCantWrite).
+ */
 class Output {
   public:
     Output(std::ostream& stream, JsonStyle style) : mStream(stream), mStyle(style) {}

@@ -12,6 +12,8 @@ enum ExitCode : int {
     kBadUsage = 2,       // the command line can't be used as it stands
     kCommandFailed = 3,  // the service answered with a failure
     kUnreachable = 4,    // there is no service, it died, or it did not answer in time
+    kCantWrite = 5,      // standard output takes no results, so that nothing more is done
+    kInterrupted = 128,  // with the signal's number added, as a shell does
 };
 
 /** Ends a command; the message tells a person why, without a full stop. */

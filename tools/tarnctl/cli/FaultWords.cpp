@@ -59,6 +59,9 @@ Json::Value parseFault(const std::vector<std::string>& words) {
     Json::Value fault(Json::objectValue);
     for (size_t i = 0; i < words.size(); i++) {
         const FaultWord& word = requireWord(words[i], i == 0);
+        if (fault.isMember(word.key)) {
+            throw Failure(kBadUsage, std::string("fault: ") + word.word + " stands twice");
+        }
         if (word.takes == Takes::kNothing) {
             fault[word.key] = word.value != nullptr ? Json::Value(word.value) : Json::Value(0);
         } else if (i + 1 == words.size()) {
@@ -66,6 +69,12 @@ Json::Value parseFault(const std::vector<std::string>& words) {
         } else {
             fault[word.key] = valueOf(word, words[++i]);
         }
+    }
+    if (fault.isMember("every") && fault.isMember("probability")) {
+        throw Failure(kBadUsage, "fault: every and probability exclude each other");
+    }
+    if (fault.isMember("seed") && !fault.isMember("probability")) {
+        throw Failure(kBadUsage, "fault: seed goes with probability only");
     }
     return fault;
 }

@@ -13,10 +13,6 @@ std::string padded(const std::string& text, size_t width) {
     return text + std::string(width > text.size() ? width - text.size() : 0, ' ');
 }
 
-std::string synopsisOf(const CommandDescription& command) {
-    return command.name + std::string(*command.arguments != '\0' ? " " : "") + command.arguments;
-}
-
 void appendOptions(std::vector<std::string>* lines, const std::string& command) {
     size_t width = 0;
     for (const OptionDescription& option : optionDescriptions()) {
@@ -50,15 +46,24 @@ std::vector<std::string> helpLines() {
     lines.insert(lines.end(), {"", "options, before or behind the command:"});
     appendOptions(&lines, "");
     appendText(&lines, R"(
-Numbers are decimal or 0x hexadecimal. Results go to standard output, all else to
-standard error. Put -- before arguments that begin with a dash and are no numbers.
+Numbers are decimal or 0x hexadecimal; a negative one may be given as its word, 0xffffffff
+for -1. Results go to standard output, all else to standard error. Put -- before arguments
+that begin with a dash and are no numbers.
 
 exit codes:
   0  done
-  1  no such controller, method, command or property
-  2  bad usage or argument
-  3  the command failed: the service answered with status -1
-  4  the service can't be reached, died or did not answer in time
+  1  no such controller, method, board's command (CMD_...) or property
+  2  bad usage, argument or file, or no such command of tarnctl
+  3  the command failed: the service answered with status -1, or without any status
+  4  the service can't be reached, died, or did not answer within --timeout
+  5  the results can't be written
+  130, 143  SIGINT or SIGTERM ended a monitor that waited for --count events, or a batch's
+
+environment:
+  TARN_BOARD                the file of the simulated board that is started without --board
+  TARN_PROPERTIES_FILE      where a host keeps system properties, the library's log level too;
+                            else ~/.local/state/tarn/properties
+  DBUS_SESSION_BUS_ADDRESS  the bus on which a host looks for the service
 
 tarnctl COMMAND --help tells more about a command.)");
     return lines;

@@ -1,6 +1,12 @@
+#include <binder/IServiceManager.h>
+#include <utils/String16.h>
+#include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
+
+#include <algorithm>
 #include <utility>
 
 #include "simulator/BoardControl.h"
+#include "simulator/BoardFile.h"
 #include "simulator/EmbeddedBoard.h"
 #include "simulator/daemon/RemoteBoard.h"
 #include "tools/tarnctl/cli/BoardLink.h"
@@ -10,9 +16,14 @@ namespace tarnctl {
 
 namespace {
 
+using android::IServiceManager;
+using android::String16;
 using tarn::simulator::BoardControl;
+using tarn::simulator::BoardFileError;
 using tarn::simulator::bus::BoardUnreachable;
 using tarn::simulator::bus::RemoteBoard;
+
+const std::string kCantStart = "the simulated board can't be started:\n";
 
 class EmbeddedBoardLink : public BoardLink {
   public:
@@ -113,17 +124,31 @@ class ServedBoardLink : public BoardLink {
 
 }  // namespace
 
-std::unique_ptr<BoardLink> startEmbeddedBoard(const BoardFiles& files) {
+bool isServicePublished() {
+    const String16 name(
+            (std::string(vendor::zunt::hwtarn::V1_0::IHwTarn::descriptor) + "/default").c_str());
+    const auto names =
+            android::defaultServiceManager()->listServices(IServiceManager::DUMP_FLAG_PRIORITY_ALL);
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+std::unique_ptr<BoardLink> startEmbeddedBoard(const BoardFiles& files) try {
     const std::string path =
             files.board.empty() ? tarn::simulator::defaultBoardPath() : files.board;
     const auto board = tarn::simulator::startEmbeddedBoard(path, files.overrides);
     return std::make_unique<EmbeddedBoardLink>(BoardControl(board));
+} catch (const BoardFileError& refusal) {
+    throw Failure(kBadUsage, kCantStart + refusal.what());
+} catch (const std::runtime_error& error) {
+    throw Failure(kUnreachable, kCantStart + error.what());
 }
 
 std::unique_ptr<BoardLink> findServedBoard(pid_t process) {
-    std::unique_ptr<RemoteBoard> board = RemoteBoard::find();
-    if (board == nullptr || board->pid() != process) return nullptr;
-    return std::make_unique<ServedBoardLink>(std::move(board));
+    return reach([process]() -> std::unique_ptr<BoardLink> {
+        std::unique_ptr<RemoteBoard> board = RemoteBoard::find();
+        if (board == nullptr || board->pid() != process) return nullptr;
+        return std::make_unique<ServedBoardLink>(std::move(board));
+    });
 }
 
 }  // namespace tarnctl

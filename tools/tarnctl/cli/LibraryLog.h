@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace tarnctl {
 
@@ -9,6 +10,9 @@ namespace tarnctl {
  * persisted level. Verbose, it goes to standard error from DEBUG up, in this process only.
  */
 void routeLibraryLog(bool verbose);
+
+/** The warnings and errors that were logged since this was last called; none if verbose. */
+std::vector<std::string> takeLibraryWarnings();
 
 /** The library's filter level: "WARN". */
 std::string libraryLogLevel();

@@ -11,6 +11,7 @@ namespace tarnctl {
 namespace {
 
 constexpr size_t kMostSuggestions = 3;
+constexpr size_t kFewestLetters = 3;
 
 std::string lowered(std::string text) {
     for (char& c : text) c = static_cast<char>(tolower(static_cast<unsigned char>(c)));
@@ -51,10 +52,12 @@ std::vector<std::string> nearNames(const std::string& name,
     std::vector<std::pair<size_t, std::string>> found;
     for (const std::string& candidate : candidates) {
         const std::string letters = lowered(candidate);
+        // Everything is near to a letter or two.
+        if (wanted.size() < kFewestLetters && letters != wanted) continue;
         size_t distance = editDistance(wanted, letters);
         if (distance > farthest) {
             // Half a name is worth a suggestion too, behind every misspelt one.
-            if (wanted.size() < 3 || letters.find(wanted) == std::string::npos) continue;
+            if (letters.find(wanted) == std::string::npos) continue;
             distance += farthest;
         }
         found.emplace_back(distance, candidate);

@@ -2,6 +2,10 @@
 
 namespace tarnctl {
 
+bool isServicePublished() {
+    return false;
+}
+
 std::unique_ptr<BoardLink> startEmbeddedBoard(const BoardFiles&) {
     return nullptr;
 }

@@ -36,6 +36,12 @@ void setTimeout(Options* options, const std::string& text) {
     options->timeout = std::chrono::milliseconds(static_cast<int64_t>(seconds * 1000));
 }
 
+/** An empty one comes from a variable that isn't set, and would stand for none. */
+const std::string& requireFile(const std::string& option, const std::string& file) {
+    if (file.empty()) throw Failure(kBadUsage, option + " needs a file: " + option + " FILE");
+    return file;
+}
+
 void setCount(Options* options, const std::string& text) {
     const int32_t count = parseInt("--count", text);
     if (count < 1) throw Failure(kBadUsage, "--count: \"" + text + "\" is less than 1");
@@ -50,7 +56,7 @@ struct OptionRow {
     Takes takes;
     const char* placeholder;
     const char* command;   // the only command that has it, or null
-    bool wholeInvocation;  // chooses the service, so it can't stand on a line of a batch
+    bool wholeInvocation;  // can't stand on a line of a batch, since all lines share what it sets
     void (*apply)(Options*, const std::string& value);
     const char* help;
 };
@@ -61,17 +67,21 @@ constexpr OptionRow kRows[] = {
         {"", 'j', Takes::kNothing, "", nullptr, false, setJson, "the same as --json=short"},
         {"--quiet", 'q', Takes::kNothing, "", nullptr, false,
          [](Options* options, const std::string&) { options->quiet = true; },
-         "no diagnostics on standard error"},
-        {"--verbose", 'v', Takes::kNothing, "", nullptr, false,
+         "say nothing on standard error, not even why it failed"},
+        {"--verbose", 'v', Takes::kNothing, "", nullptr, true,
          [](Options* options, const std::string&) { options->verbose = true; },
          "the library's log on standard error, from DEBUG up"},
         {"--timeout", 0, Takes::kValue, "SECONDS", nullptr, false, setTimeout,
-         "give up a call after that time, with exit code 4"},
+         "give up on the service after that time, with exit code 4; ends monitor"},
         {"--board", 0, Takes::kValue, "FILE", nullptr, true,
-         [](Options* options, const std::string& file) { options->boardFile = file; },
+         [](Options* options, const std::string& file) {
+             options->boardFile = requireFile("--board", file);
+         },
          "start a simulated board from this file and use it"},
         {"--override", 0, Takes::kValue, "FILE", nullptr, true,
-         [](Options* options, const std::string& file) { options->overrideFile = file; },
+         [](Options* options, const std::string& file) {
+             options->overrideFile = requireFile("--override", file);
+         },
          "replace parts of the simulated board's description"},
         {"--service", 0, Takes::kNothing, "", nullptr, true,
          [](Options* options, const std::string&) { options->serviceOnly = true; },
@@ -219,6 +229,15 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
     return Parser(arguments, Options(), false).parse();
 }
 
+bool asksForQuiet(const std::vector<std::string>& arguments) {
+    for (const std::string& word : arguments) {
+        if (word == "--") return false;
+        const bool letters = isOption(word) && word[1] != '-';
+        if (word == "--quiet" || (letters && word.find('q') != std::string::npos)) return true;
+    }
+    return false;
+}
+
 CommandLine parseBatchLine(const std::vector<std::string>& arguments, const Options& batch) {
     return Parser(arguments, batch, true).parse();
 }
@@ -227,8 +246,10 @@ const std::vector<OptionDescription>& optionDescriptions() {
     static const auto* descriptions = [] {
         auto* list = new std::vector<OptionDescription>;
         for (const OptionRow& row : kRows) {
-            list->push_back(OptionDescription{nameOf(row), spellingOf(row),
-                                              row.command != nullptr ? row.command : "", row.help});
+            list->push_back(OptionDescription{
+                    nameOf(row), row.letter != 0 ? std::string("-") + row.letter : "",
+                    spellingOf(row), row.command != nullptr ? row.command : "", row.help,
+                    row.takes == Takes::kValue});
         }
         return list;
     }();

@@ -44,15 +44,20 @@ struct CommandLine {
  */
 CommandLine parseCommandLine(const std::vector<std::string>& arguments);
 
+/** Whether diagnostics are not wanted, even where the words can't be used otherwise. */
+bool asksForQuiet(const std::vector<std::string>& arguments);
+
 /** The same for a line within a batch: what the batch was given holds unless the line says else. */
 CommandLine parseBatchLine(const std::vector<std::string>& arguments, const Options& batch);
 
 /** An option as help and completion show it. */
 struct OptionDescription {
     std::string name;      // "--timeout"
+    std::string letter;    // "-n", or empty
     std::string spelling;  // "--timeout SECONDS"
     std::string command;   // the only command that has it, or empty
     std::string help;
+    bool takesNext;  // the word behind it is its value
 };
 
 const std::vector<OptionDescription>& optionDescriptions();

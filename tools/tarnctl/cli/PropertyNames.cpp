@@ -21,11 +21,12 @@ bool isUpper(char c) {
     return isupper(static_cast<unsigned char>(c)) != 0;
 }
 
-/** What a getter or setter of this name gets or sets: "EQMode" of getEQMode. */
-std::optional<std::string> subject(const std::string& method, Access access) {
+/** What a method gets or sets: "EQMode" of getEQMode. A setter takes a value. */
+std::optional<std::string> subject(const Method& method, Access access) {
+    if (access == Access::kSet && method.arguments.empty()) return std::nullopt;
     for (const std::string& prefix : prefixes(access)) {
-        if (method.compare(0, prefix.size(), prefix) != 0) continue;
-        const std::string rest = method.substr(prefix.size());
+        if (method.name.compare(0, prefix.size(), prefix) != 0) continue;
+        const std::string rest = method.name.substr(prefix.size());
         if (!rest.empty() && isUpper(rest[0])) return rest;
     }
     return std::nullopt;
@@ -56,10 +57,16 @@ std::vector<const Method*> accessors(const Controller& controller, Access access
                                      const std::function<bool(const std::string&)>& matches) {
     std::vector<const Method*> found;
     for (const Method& method : controller.methods) {
-        const std::optional<std::string> name = subject(method.name, access);
+        const std::optional<std::string> name = subject(method, access);
         if (name && matches(*name)) found.push_back(&method);
     }
     return found;
+}
+
+/** The one that get or set finds by the property's name; "drc" has that of "drcEnable". */
+const Method* accessorOf(const NamedProperty& property, Access access) {
+    const std::vector<const Method*> found = findAccessors(property.name, access).methods;
+    return found.empty() ? nullptr : found[0];
 }
 
 }  // namespace
@@ -78,11 +85,16 @@ std::vector<NamedProperty> namedProperties() {
             return properties.back();
         };
         for (const Method& method : controller.methods) {
-            if (const auto name = subject(method.name, Access::kGet)) {
+            if (const auto name = subject(method, Access::kGet)) {
                 named(*name).getter = &method;
-            } else if (const auto set = subject(method.name, Access::kSet)) {
+            } else if (const auto set = subject(method, Access::kSet)) {
                 named(*set).setter = &method;
             }
+        }
+        for (size_t i = first; i < properties.size(); i++) {
+            NamedProperty& property = properties[i];
+            if (property.getter == nullptr) property.getter = accessorOf(property, Access::kGet);
+            if (property.setter == nullptr) property.setter = accessorOf(property, Access::kSet);
         }
     }
     return properties;

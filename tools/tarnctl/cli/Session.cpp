@@ -3,9 +3,11 @@
 #include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
 
 #include <mutex>
+#include <utility>
 #include <vector>
 
 #include "tools/tarnctl/cli/Failure.h"
+#include "tools/tarnctl/cli/LibraryLog.h"
 
 namespace tarnctl {
 
@@ -14,6 +16,8 @@ using vendor::zunt::hwtarn::V1_0::IHwTarn;
 
 namespace {
 
+constexpr char kNoAnswer[] = "the hardware service did not answer";
+
 /** A manager and its controllers hold each other for ever; this keeps them in sight. */
 sp<TracingManager> newManager() {
     static std::mutex lock;
@@ -21,6 +25,26 @@ sp<TracingManager> newManager() {
     std::lock_guard<std::mutex> guard(lock);
     kept->push_back(new TracingManager);
     return kept->back();
+}
+
+/** What a search for the service found. */
+struct Search {
+    bool published;              // somebody has its name, though perhaps doesn't answer
+    sp<TracingManager> manager;  // null without an answer
+};
+
+Search searchService() {
+    // First who has the name: then a service that dies during the search was there.
+    const bool published = isServicePublished();
+    if (IHwTarn::getService() == nullptr) return {published, nullptr};
+    return {true, newManager()};
+}
+
+pid_t processOf(const sp<IHwTarn>& service) {
+    if (service == nullptr || !service->isRemote()) return 0;
+    pid_t process = -1;
+    service->getDebugInfo([&process](const IHwTarn::DebugInfo& info) { process = info.pid; });
+    return process;
 }
 
 }  // namespace
@@ -36,25 +60,34 @@ TracingManager& Session::manager() {
 }
 
 BoardLink* Session::board() {
-    manager();
     if (mBoard == nullptr && !mBoardSought) {
+        if (const pid_t process = servingProcess()) {
+            using Found = std::shared_ptr<BoardLink>;
+            const auto found = mLimit.run<Found>([process] { return findServedBoard(process); });
+            if (!found) refuseWithoutAnswer();
+            mBoard = *found;
+        }
         mBoardSought = true;
-        if (const pid_t process = servingProcess()) mBoard = findServedBoard(process);
     }
     return mBoard.get();
 }
 
 pid_t Session::servingProcess() {
     manager();
-    const sp<IHwTarn> service = IHwTarn::getService();
-    if (service == nullptr || !service->isRemote()) return 0;
-    pid_t process = -1;
-    service->getDebugInfo([&process](const IHwTarn::DebugInfo& info) { process = info.pid; });
-    return process;
+    const auto process = mLimit.run<pid_t>([] { return processOf(IHwTarn::getService()); });
+    if (!process) refuseWithoutAnswer();
+    return *process;
 }
 
 EventCollector& Session::events() {
-    if (mEvents == nullptr) mEvents = EventCollector::start(&manager());
+    if (mEvents == nullptr) {
+        const sp<TracingManager> manager(&this->manager());
+        if (mEvents != nullptr) return *mEvents;
+        const auto started = mLimit.run<sp<EventCollector>>(
+                [manager] { return EventCollector::start(manager.get()); });
+        if (!started) refuseWithoutAnswer();
+        mEvents = *started;
+    }
     if (mEvents == nullptr) throw Failure(kUnreachable, "the service can't be reached or died");
     return *mEvents;
 }
@@ -65,21 +98,25 @@ void Session::connect() {
         if (mBoard == nullptr) throw Failure(kBadUsage, "this tarnctl has no simulated board");
         return;
     }
-    mManager = newManager();
-    if (mManager->isTarnReady() == 0) return;
+    takeLibraryWarnings();
+    const auto search = mLimit.run<Search>(searchService);
+    if (search) mManager = search->manager;
+    if (mManager != nullptr) return;
+    if (!search) refuseWithoutAnswer();
+    if (search->published) throw Failure(kUnreachable, kNoAnswer);
+    // Perhaps it was not for want of a service that none was found.
+    for (const std::string& warning : takeLibraryWarnings()) mDiagnostics.note(warning);
     if (!mOptions.serviceOnly) startBoard();
     if (mBoard == nullptr) throw Failure(kUnreachable, "there is no hardware service");
     mDiagnostics.note("no hardware service found; using an embedded simulated board");
 }
 
 void Session::startBoard() {
-    try {
-        mBoard = startEmbeddedBoard(BoardFiles{mOptions.boardFile, mOptions.overrideFile});
-    } catch (const std::runtime_error& error) {
-        const bool chosen = !mOptions.boardFile.empty() || !mOptions.overrideFile.empty();
-        throw Failure(chosen ? kBadUsage : kUnreachable,
-                      std::string("the simulated board can't be started:\n") + error.what());
-    }
+    mBoard = startEmbeddedBoard(BoardFiles{mOptions.boardFile, mOptions.overrideFile});
+}
+
+void Session::refuseWithoutAnswer() {
+    throw Failure(kUnreachable, mLimit.exceeded(kNoAnswer));
 }
 
 }  // namespace tarnctl

@@ -3,12 +3,15 @@
 #include <sys/types.h>
 #include <utils/StrongPointer.h>
 
+#include <chrono>
 #include <memory>
+#include <optional>
 
 #include "tools/tarnctl/cli/BoardLink.h"
 #include "tools/tarnctl/cli/Console.h"
 #include "tools/tarnctl/cli/EventCollector.h"
 #include "tools/tarnctl/cli/Options.h"
+#include "tools/tarnctl/cli/TimeLimit.h"
 #include "tools/tarnctl/cli/TracingManager.h"
 
 namespace tarnctl {
@@ -23,6 +26,11 @@ class Session {
      */
     Session(const Options& options, const Diagnostics& diagnostics, bool collectEvents)
         : mOptions(options), mDiagnostics(diagnostics), mCollectEvents(collectEvents) {}
+
+    /** From now on waits are a new command's: limit for all of them together, the search included.
+     */
+    void setLimit(std::optional<std::chrono::milliseconds> limit) { mLimit = TimeLimit(limit); }
+    TimeLimit& limit() { return mLimit; }
 
     /** Lives as long as the process. Throws Failure(kUnreachable). */
     TracingManager& manager();
@@ -42,13 +50,15 @@ class Session {
   private:
     void connect();
     void startBoard();
+    [[noreturn]] void refuseWithoutAnswer();
 
     const Options mOptions;
     const Diagnostics mDiagnostics;
     const bool mCollectEvents;
+    TimeLimit mLimit;
     bool mConnected = false;
     bool mBoardSought = false;
-    std::unique_ptr<BoardLink> mBoard;
+    std::shared_ptr<BoardLink> mBoard;
     android::sp<TracingManager> mManager;
     android::sp<EventCollector> mEvents;
 };

@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "tools/tarnctl/registry/Results.h"
+
 namespace tarnctl {
 
 namespace {
@@ -58,9 +60,9 @@ void appendIndented(std::vector<std::string>* lines, const std::vector<std::stri
     }
 }
 
-/** A record's names, with what tells whether the rest counts in front. */
+/** A record's names in their order, with what tells whether the rest counts in front. */
 std::vector<std::string> namesOf(const Json::Value& record) {
-    std::vector<std::string> names = record.getMemberNames();
+    std::vector<std::string> names = fieldNames(record);
     std::stable_partition(names.begin(), names.end(), [](const std::string& name) {
         return name == "result" || name == "status";
     });
@@ -81,8 +83,12 @@ std::vector<std::string> recordLines(const Json::Value& record) {
     return lines;
 }
 
-/** A float's double has digits that the float never had; this takes them away. */
+/**
+ * A float's double has digits that the float never had; this takes them away. What JSON has no
+ * number for, infinity and what is none, becomes null.
+ */
 Json::Value withShortFloats(const Json::Value& value) {
+    if (value.isDouble() && !std::isfinite(value.asDouble())) return Json::Value();
     if (value.isDouble() && !value.isIntegral()) {
         return Json::Value(strtod(floatText(value.asDouble()).c_str(), nullptr));
     }

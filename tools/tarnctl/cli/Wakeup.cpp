@@ -17,12 +17,12 @@ namespace {
 constexpr int kSignals[] = {SIGINT, SIGTERM};
 
 std::atomic<const Wakeup*> gWakeup{nullptr};
-std::atomic<bool> gEnded{false};
+std::atomic<int> gSignal{0};
 struct sigaction gOldActions[std::size(kSignals)];
 
-void onEndSignal(int) {
+void onEndSignal(int number) {
     const int savedError = errno;
-    gEnded = true;
+    gSignal = number;
     if (const Wakeup* wakeup = gWakeup.load()) wakeup->signal();
     errno = savedError;
 }
@@ -59,7 +59,7 @@ void Wakeup::wait(std::optional<std::chrono::milliseconds> limit) const {
 }
 
 EndSignals::EndSignals(const Wakeup& wakeup) {
-    gEnded = false;
+    gSignal = 0;
     gWakeup = &wakeup;
     struct sigaction action = {};
     action.sa_handler = onEndSignal;
@@ -75,8 +75,8 @@ EndSignals::~EndSignals() {
     gWakeup = nullptr;
 }
 
-bool EndSignals::ended() const {
-    return gEnded;
+int EndSignals::received() const {
+    return gSignal;
 }
 
 }  // namespace tarnctl

@@ -25,8 +25,8 @@ class Wakeup {
 };
 
 /**
- * While it lives, SIGINT and SIGTERM don't end the process but wake somebody who asks ended() then.
- * One at a time.
+ * While it lives, SIGINT and SIGTERM don't end the process but wake somebody who asks received()
+ * then. One at a time.
  */
 class EndSignals {
   public:
@@ -35,7 +35,8 @@ class EndSignals {
     EndSignals(const EndSignals&) = delete;
     EndSignals& operator=(const EndSignals&) = delete;
 
-    bool ended() const;
+    /** The latest signal, or 0. */
+    int received() const;
 };
 
 }  // namespace tarnctl

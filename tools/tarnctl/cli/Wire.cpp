@@ -28,8 +28,10 @@ const WireType kTypes[] = {
                    Parcel* parcel) { parcel->writeInt32(parseInt("i32", text)); }},
         {"bool", [](const std::string& text,
                     Parcel* parcel) { parcel->writeBool(parseBool("bool", text)); }},
-        {"s16", [](const std::string& text,
-                   Parcel* parcel) { parcel->writeString16(String16(text.data(), text.size())); }},
+        {"s16",
+         [](const std::string& text, Parcel* parcel) {
+             parcel->writeString16(ArgumentReader<String16>::parse("s16", text));
+         }},
         {"f32", [](const std::string& text,
                    Parcel* parcel) { parcel->writeFloat(parseFloat("f32", text)); }},
         {"bytes",
@@ -47,7 +49,9 @@ class FieldReader {
     bool readRecord(const Layout& layout, Json::Value* record) {
         *record = Json::Value(Json::objectValue);
         for (const Field& field : layout) {
-            if (!readField(field, &(*record)[field.name])) return false;
+            Json::Value value;
+            if (!readField(field, &value)) return false;
+            appendField(record, field.name, value);
         }
         return true;
     }

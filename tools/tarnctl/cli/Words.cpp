@@ -33,13 +33,20 @@ class Splitter {
             const char c = mLine[mPos++];
             if (c == '\'' || c == '"') {
                 text += quoted(c);
-            } else if (c == '\\' && mPos < mLine.size()) {
-                text += mLine[mPos++];
+            } else if (c == '\\') {
+                text += escaped();
             } else {
                 text += c;
             }
         }
         return text;
+    }
+
+    char escaped() {
+        if (mPos == mLine.size()) {
+            throw Failure(kBadUsage, "a \\ ends the line; a command stands on one line");
+        }
+        return mLine[mPos++];
     }
 
     std::string quoted(char quote) {
@@ -61,6 +68,7 @@ class Splitter {
 }  // namespace
 
 std::vector<std::string> splitWords(const std::string& line) {
+    if (line.find('\0') != std::string::npos) throw Failure(kBadUsage, "a NUL byte is no text");
     return Splitter(line).split();
 }
 

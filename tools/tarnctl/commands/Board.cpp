@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cctype>
 #include <stdexcept>
 
 #include "tools/tarnctl/cli/BoardAccess.h"
@@ -48,10 +49,19 @@ void reset(Context&, BoardLink& board, const Arguments&) {
     board.reset();
 }
 
+/** An event of a command's has the command's code. */
+uint32_t eventType(const std::string& word) {
+    const bool isName = looksLikeCommand(word) && isalpha(static_cast<unsigned char>(word[0])) != 0;
+    return isName ? static_cast<uint32_t>(requireCode(word)) : parseUnsigned("type", word);
+}
+
 void raise(Context&, BoardLink& board, const Arguments& arguments) {
-    std::string hex;
-    for (size_t i = 1; i < arguments.size(); i++) hex += arguments[i];
-    board.raiseEvent(parseUnsigned("type", arguments[0]), parseBytes("data", hex));
+    std::vector<uint8_t> data;
+    for (size_t i = 1; i < arguments.size(); i++) {
+        const std::vector<uint8_t> bytes = parseBytes("data", arguments[i]);
+        data.insert(data.end(), bytes.begin(), bytes.end());
+    }
+    board.raiseEvent(eventType(arguments[0]), data);
 }
 
 void showLog(Context& context, BoardLink& board, const Arguments&) {
@@ -111,8 +121,8 @@ int runBoard(Context& context, const Arguments& arguments) {
     if (rest.size() < action.least || rest.size() > action.most) {
         throw Failure(kBadUsage, std::string("too ") +
                                          (rest.size() < action.least ? "few" : "many") +
-                                         " arguments; usage: tarnctl board " + action.name + " " +
-                                         action.arguments);
+                                         " arguments; usage: tarnctl board " + action.name +
+                                         (*action.arguments != '\0' ? " " : "") + action.arguments);
     }
     BoardLink* board = context.session.board();
     if (board == nullptr) {
@@ -142,14 +152,15 @@ const CommandDescription kBoardCommand = {
   board get PROPERTY          one; of an indexed one name[index] is an element
   board set PROPERTY VALUE    change it behind the library's back; raises no event
   board reset                 state and faults as the board's files describe them
-  board raise TYPE [HEX]...   raise an event with these bytes
+  board raise TYPE [HEX]...   raise an event with these bytes; TYPE is a number, or the command
+                              whose code the event has
   board fault                 the faults that are switched on
   board fault COMMAND FAULT   switch one on for a command, its code, or '*' for all:
       status N                answer with that status
       dead | error            fail in the transport
       empty | bytes N         cut the reply
       delay MILLISECONDS      answer late
-    then, if not for every call, every N or probability P [seed S]
+    then, if not for every call, either every N or probability P [seed S]
   board fault clear [COMMAND] switch them off
   board log                   the events that applications posted
 

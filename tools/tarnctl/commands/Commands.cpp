@@ -1,9 +1,9 @@
 #include "tools/tarnctl/commands/Commands.h"
 
 #include "tools/tarnctl/cli/Failure.h"
+#include "tools/tarnctl/cli/Guard.h"
 #include "tools/tarnctl/cli/Help.h"
 #include "tools/tarnctl/cli/Names.h"
-#include "tools/tarnctl/registry/Registry.h"
 
 namespace tarnctl {
 
@@ -26,7 +26,7 @@ int dispatch(Context& context, const std::vector<std::string>& words) {
     if (words.empty()) throw Failure(kBadUsage, "no command; tarnctl --help lists them");
     const Arguments arguments(words.begin() + 1, words.end());
     if (words[0] == "__complete") {
-        context.output.lines(completions(arguments));
+        context.output.lines(completions(context.session, arguments));
         return kDone;
     }
     return requireCommand(words[0]).run(context, arguments);
@@ -53,27 +53,25 @@ const CommandDescription& requireCommand(const std::string& name) {
         if (name == command.name) return command;
         names.push_back(command.name);
     }
-    throw Failure(kBadUsage, "tarnctl has no command \"" + name + "\"" + didYouMean(name, names));
+    throw Failure(kBadUsage, "no command \"" + name + "\"" + didYouMean(name, names));
 }
 
 int execute(Context& context, const std::vector<std::string>& words) {
-    try {
+    return guarded(context.diagnostics, [&] {
+        context.session.setLimit(context.options.timeout);
         return dispatch(context, words);
-    } catch (const Failure& failure) {
-        context.diagnostics.note(failure.what());
-        return failure.code();
-    } catch (const BadArgument& error) {
-        context.diagnostics.note(error.what());
-        return kBadUsage;
-    }
+    });
+}
+
+std::string synopsisOf(const CommandDescription& command) {
+    return command.name + std::string(*command.arguments != '\0' ? " " : "") + command.arguments;
 }
 
 void requireCount(const CommandDescription& command, const Arguments& arguments, size_t least,
                   size_t most) {
     if (arguments.size() >= least && arguments.size() <= most) return;
     throw Failure(kBadUsage, std::string("too ") + (arguments.size() < least ? "few" : "many") +
-                                     " arguments; usage: tarnctl " + command.name + " " +
-                                     command.arguments);
+                                     " arguments; usage: tarnctl " + synopsisOf(command));
 }
 
 }  // namespace tarnctl

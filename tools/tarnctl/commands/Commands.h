@@ -16,6 +16,7 @@ struct Context {
     Output output;
     Diagnostics diagnostics;
     Streams streams;
+    bool inBatch;  // a line of a batch, with others behind it
 };
 
 using Arguments = std::vector<std::string>;
@@ -50,10 +51,13 @@ extern const CommandDescription kBoardCommand;
 extern const CommandDescription kHelpCommand;
 
 /** What could stand in the place of the last word; behind the hidden command "__complete". */
-std::vector<std::string> completions(const std::vector<std::string>& words);
+std::vector<std::string> completions(Session& session, const std::vector<std::string>& words);
 
 /** The words that may follow "board". */
 std::vector<std::string> boardActions();
+
+/** "call CONTROLLER.METHOD [ARGUMENT]..." */
+std::string synopsisOf(const CommandDescription& command);
 
 /** Throws Failure(kBadUsage) with the command's synopsis unless there are so many arguments. */
 void requireCount(const CommandDescription& command, const Arguments& arguments, size_t least,

@@ -32,7 +32,10 @@ class Descriptions {
 };
 
 [[noreturn]] void refuse(const std::string& name) {
-    const std::string suggestion = didYouMean(name, controllerNames());
+    std::vector<std::string> names = controllerNames();
+    for (const Controller& controller : controllers()) names.push_back(controller.className);
+    for (const std::string& command : commandNames()) names.push_back(command);
+    const std::string suggestion = didYouMean(name, names);
     throw Failure(kNoSuchName, "no controller, method or command \"" + name + "\"" +
                                        (suggestion.empty() ? suggestPaths(name) : suggestion));
 }

@@ -37,7 +37,7 @@ int watch(Context& context, EventCollector& events, const EndSignals& signals) {
     std::optional<Clock::time_point> deadline;
     if (context.options.timeout) deadline = Clock::now() + *context.options.timeout;
     int32_t seen = 0;
-    while (!signals.ended()) {
+    while (signals.received() == 0) {
         if (const std::optional<BoardEvent> event = events.next()) {
             print(context, *event);
             if (++seen == context.options.count) return kDone;
@@ -52,7 +52,9 @@ int watch(Context& context, EventCollector& events, const EndSignals& signals) {
         }
         events.wakeup().wait(remaining(deadline));
     }
-    return kDone;
+    if (!context.inBatch && !context.options.count) return kDone;
+    context.diagnostics.note("interrupted");
+    return kInterrupted + signals.received();
 }
 
 int runMonitor(Context& context, const Arguments& arguments) {
@@ -66,10 +68,13 @@ int runMonitor(Context& context, const Arguments& arguments) {
 }  // namespace
 
 const CommandDescription kMonitorCommand = {
-        "monitor", "", "print events as they come",
+        "monitor", "[--count N]", "print events as they come",
         R"(Prints an event a line: its type, the number of its bytes as a listener gets them, which
-is filled up to whole words, and the words; with --json an object a line. Ends on SIGINT and SIGTERM, after --count events, or after
---timeout seconds; it is an error (exit code 4) if --count events did not come by then.
+is filled up to whole words, and the words; with --json an object a line.
+
+Ends on SIGINT and SIGTERM, after --count events, or after --timeout seconds. With --count
+fewer events are an error: the exit code is 4 when the time is over, 130 on SIGINT and 143 on
+SIGTERM. Within a batch a signal ends the batch, with these codes.
 
 Within a batch, events are collected from the first command that talks to the service.)",
         runMonitor};

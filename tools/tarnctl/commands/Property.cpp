@@ -17,6 +17,13 @@ BoardLink& requireBoardProperty(Context& context, const std::string& property, A
     return *board;
 }
 
+/** What is read or, where nothing can be read, what is written last. */
+std::string typeOf(const NamedProperty& property) {
+    if (property.getter != nullptr) return property.getter->result;
+    const std::string& type = property.setter->arguments.back().type;
+    return type.substr(0, type.find(", "));
+}
+
 void listProperties(Context& context) {
     Json::Value list(Json::arrayValue);
     std::vector<std::string> lines;
@@ -33,10 +40,9 @@ void listProperties(Context& context) {
         entry["access"] = access;
         std::string line = property.name + std::string(width - property.name.size() + 2, ' ');
         line += access;
-        if (property.getter != nullptr) {
-            entry["type"] = property.getter->result;
-            line += std::string(4 - access.size(), ' ') + property.getter->result;
-        }
+        const std::string type = typeOf(property);
+        entry["type"] = type;
+        line += std::string(4 - access.size(), ' ') + type;
         list.append(entry);
         lines.push_back(line);
     }
@@ -78,7 +84,8 @@ const CommandDescription kGetCommand = {
         "get", "[CONTROLLER.PROPERTY [INDEX]...]", "read a property, or list them all",
         R"(A property is what a controller's getter gives: audio.volume is audio.getVolume(),
 audio.drcEnable or audio.drc is audio.isDrcEnable(). Arguments of the getter follow the
-name: get audio.ampMute 1. The case of letters doesn't matter. This works on every board.
+name: get audio.ampMute 1. Behind the dot the case of letters doesn't matter. This works on
+every board.
 
 Where no getter has that name and the service is a simulated board, it is the board's own
 property of that name, as tarnctl board get gives it.

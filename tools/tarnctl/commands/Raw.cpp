@@ -6,6 +6,7 @@
 #include "tools/tarnctl/cli/Text.h"
 #include "tools/tarnctl/cli/Wire.h"
 #include "tools/tarnctl/commands/Commands.h"
+#include "tools/tarnctl/registry/Results.h"
 
 namespace tarnctl {
 
@@ -35,17 +36,19 @@ Json::Value exchange(TracingManager& manager, const std::vector<uint8_t>& bytes,
     Parcel request;
     request.setData(bytes.data(), bytes.size());
     Parcel reply;
+    const int status = manager.invoke(request, &reply);
+    std::vector<uint8_t> words;
+    if (reply.dataSize() > 0) words.assign(reply.data(), reply.data() + reply.dataSize());
     Json::Value result(Json::objectValue);
-    result["status"] = manager.invoke(request, &reply);
-    result["reply"] =
-            reply.dataSize() == 0
-                    ? ""
-                    : hexWords(std::vector<uint8_t>(reply.data(), reply.data() + reply.dataSize()));
+    // What the manager makes of a reply without a status is its own.
+    appendField(&result, "status",
+                words.size() < sizeof(int32_t) ? Json::Value() : Json::Value(status));
+    appendField(&result, "reply", hexWords(words));
     for (const Command* row : rows) {
         reply.setDataPosition(sizeof(int32_t));
         const auto fields = readFields(reply, row->replyLayout());
         if (!fields || fields->empty()) continue;
-        result["fields"] = *fields;
+        appendField(&result, "fields", *fields);
         break;
     }
     return result;
@@ -73,8 +76,9 @@ const CommandDescription kRawCommand = {
         "raw", "CODE|CMD_NAME [TYPE VALUE]...", "send a command word by word",
         R"(Sends the code and the values as they are, known or not: no check against the layout.
 TYPE is i32, bool, s16, f32 or bytes (an int32 length, then the bytes). Prints the status,
-the reply's words as they stand in memory (little-endian), and its fields where the reply
-is as the command's layout says.)",
+null if the reply has none, the reply's words as they stand in memory (little-endian), and
+its fields where the reply is as the command's layout says. The words of a reply or of
+--trace read as numbers once their bytes are turned round: 0100ffff is 0xffff0001.)",
         runRaw};
 
 }  // namespace tarnctl

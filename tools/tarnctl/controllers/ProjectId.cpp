@@ -33,24 +33,32 @@ void registerProjectId(std::vector<Controller>* registry) {
             .adapted("getProjectIdPqBcshCfgs", CMD_PROJECT_ID_GET_PQ_BCSH_CFGS,
                      &IProjectId::getProjectIdPqBcshCfgs,
                      filled(&IProjectId::getProjectIdPqBcshCfgs))
+            .undecoded()
             .adapted("getProjectIdPqWBCfgs", CMD_PROJECT_ID_GET_PQ_WB_CFGS,
                      &IProjectId::getProjectIdPqWBCfgs, filled(&IProjectId::getProjectIdPqWBCfgs))
+            .undecoded()
             .adapted("getProjectIdPqSPGCfgs", CMD_PROJECT_ID_GET_PQ_SPG_CFGS,
                      &IProjectId::getProjectIdPqSPGCfgs, filled(&IProjectId::getProjectIdPqSPGCfgs))
+            .undecoded()
             .method("getProjectIdIniPraserDone", CMD_PROJECT_ID_GET_INI_PARSER_DONE,
                     &IProjectId::getProjectIdIniPraserDone)
             .adapted("getProjectIdDbcCfgs", CMD_PROJECT_ID_GET_DBC_CFGS,
                      &IProjectId::getProjectIdDbcCfgs, filled(&IProjectId::getProjectIdDbcCfgs))
+            .undecoded()
             .adapted("getProjectIdDcrCfgs", CMD_PROJECT_ID_GET_DCR_CFGS,
                      &IProjectId::getProjectIdDcrCfgs, filled(&IProjectId::getProjectIdDcrCfgs))
+            .undecoded()
             .adapted("getProjectIdLogoCfgs", CMD_PROJECT_ID_GET_LOGO_CFGS,
                      &IProjectId::getProjectIdLogoCfgs, filled(&IProjectId::getProjectIdLogoCfgs))
+            .undecoded()
             .adapted("getProjectIdBootVideoCfgs", CMD_PROJECT_ID_GET_BOOT_VIDEO_CFGS,
                      &IProjectId::getProjectIdBootVideoCfgs,
                      filled(&IProjectId::getProjectIdBootVideoCfgs))
+            .undecoded()
             .adapted("getProjectIdBootAnimationCfgs", CMD_PROJECT_ID_GET_BOOT_ANIMATION_CFGS,
                      &IProjectId::getProjectIdBootAnimationCfgs,
                      filled(&IProjectId::getProjectIdBootAnimationCfgs))
+            .undecoded()
             .method("setProjectIdReplaceState", CMD_PROJECT_ID_SET_REPLACE_STATE,
                     &IProjectId::setProjectIdReplaceState, "state")
             .method("getProjectIdReplaceState", CMD_PROJECT_ID_GET_REPLACE_STATE,

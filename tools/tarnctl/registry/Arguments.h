@@ -13,7 +13,8 @@ namespace tarnctl {
 // Reading one argument of the command line. Each function throws BadArgument, which names the
 // argument, quotes the text and tells what is accepted.
 
-/** Decimal or 0x hexadecimal, within int32. */
+/** Decimal within int32; or 0x hexadecimal, which may be a negative number's word: 0xffffffff is
+ * -1. */
 int32_t parseInt(const std::string& name, const std::string& text);
 
 /** As parseInt, within uint32. */
@@ -23,6 +24,9 @@ uint32_t parseUnsigned(const std::string& name, const std::string& text);
 bool parseBool(const std::string& name, const std::string& text);
 
 float parseFloat(const std::string& name, const std::string& text);
+
+/** The text, if it is UTF-8: the library's texts can't hold anything else. */
+std::string parseText(const std::string& name, const std::string& text);
 
 /** Pairs of hexadecimal digits; blanks between them are ignored. */
 std::vector<uint8_t> parseBytes(const std::string& name, const std::string& text);
@@ -72,14 +76,17 @@ struct ArgumentReader<float> {
 template <>
 struct ArgumentReader<std::string> {
     static constexpr const char* kType = "text";
-    static std::string parse(const std::string&, const std::string& text) { return text; }
+    static std::string parse(const std::string& name, const std::string& text) {
+        return parseText(name, text);
+    }
 };
 
 template <>
 struct ArgumentReader<android::String16> {
     static constexpr const char* kType = "text";
-    static android::String16 parse(const std::string&, const std::string& text) {
-        return android::String16(text.data(), text.size());
+    static android::String16 parse(const std::string& name, const std::string& text) {
+        const std::string utf8 = parseText(name, text);
+        return android::String16(utf8.data(), utf8.size());
     }
 };
 

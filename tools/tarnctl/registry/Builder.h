@@ -69,6 +69,12 @@ class Builder {
         return add(name, code, slotOf(function), argumentNames, std::function(adapter));
     }
 
+    /** Of the method just added: its "data" is for whoever knows the command's layout to decode. */
+    Builder& undecoded() {
+        mController->methods.back().undecoded = true;
+        return *this;
+    }
+
   private:
     template <typename Result, typename... Parameters>
     Builder& add(const char* name, int32_t code, size_t slot, const char* argumentNames,

@@ -33,7 +33,8 @@ struct Method {
     int32_t code;  // of the command that it sends, or kNoCommand
     size_t slot;   // in the interface's virtual table
     std::vector<Argument> arguments;
-    std::string result;  // type of the result, for people
+    std::string result;      // type of the result, for people
+    bool undecoded = false;  // the result's "data" is the bytes of the reply behind its status
 
     /**
      * Throws BadArgument before anything is sent; the count must be arguments.size(). Without a

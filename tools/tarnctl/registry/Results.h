@@ -31,10 +31,19 @@ Json::Value toJson(const T& value) {
     return ResultWriter<T>::toJson(value);
 }
 
-/** A JSON object of named values. */
+/**
+ * Adds a field behind those that a record has. An object sorts its members by name; each one's
+ * offset, which a parsed document's members have too, keeps its place among them.
+ */
+void appendField(Json::Value* record, const std::string& name, const Json::Value& value);
+
+/** A record's names in the order in which its fields stand. */
+std::vector<std::string> fieldNames(const Json::Value& record);
+
+/** A JSON object of named values, which keeps their order. */
 inline Json::Value fields(std::initializer_list<std::pair<const char*, Json::Value>> members) {
     Json::Value object(Json::objectValue);
-    for (const auto& [name, value] : members) object[name] = value;
+    for (const auto& [name, value] : members) appendField(&object, name, value);
     return object;
 }
 
