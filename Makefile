@@ -1,5 +1,6 @@
 # Two commands: `make run` shows the library at work on a simulated board, `make test` checks it.
-# Both install what is missing, build quietly and go. BUILD picks another build directory.
+# Both install what is missing, build quietly and go. BUILD picks another build directory,
+# CMAKE_FLAGS adds to cmake's command line.
 BUILD ?= build
 CMAKE_FLAGS ?=
 
@@ -19,7 +20,7 @@ build: configure
 	@scripts/build $(BUILD)
 
 configure: packages
-	@[ -f $(BUILD)/build.ninja ] || { echo "configuring $(BUILD)"; cmake -S . -B $(BUILD) -G Ninja $(CMAKE_FLAGS) >$(BUILD).log 2>&1 || { cat $(BUILD).log >&2; exit 1; }; rm -f $(BUILD).log; }
+	@scripts/configure $(BUILD) $(CMAKE_FLAGS)
 
 packages:
 	@scripts/install-packages

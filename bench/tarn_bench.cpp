@@ -248,27 +248,52 @@ void measureOneWay(double seconds) {
            static_cast<double>(sent) / secondsSince(start));
 }
 
-}  // namespace
+constexpr char kUsage[] =
+        "usage: tarn_bench [SECONDS]\n"
+        "Measures commands across processes; SECONDS a measurement, above 0 and up to 3600 (1).\n";
 
-int main(int argc, char** argv) {
-    if (argc > 1 && strcmp(argv[1], kServe) == 0) return serve();
-    if (argc < 2 || strcmp(argv[1], kInner) != 0) {
-        std::vector<char*> command;
-        std::string words[] = {"dbus-run-session", "--", "/proc/self/exe", kInner,
-                               argc > 1 ? argv[1] : "1"};
-        char path[4096];
-        const ssize_t length = readlink(words[2].c_str(), path, sizeof(path));
-        words[2].assign(path, static_cast<size_t>(std::max<ssize_t>(length, 0)));
-        for (std::string& word : words) command.push_back(word.data());
-        command.push_back(nullptr);
-        execvp(command[0], command.data());
-        perror("dbus-run-session");
+// Seconds a measurement; 0 if the text is none.
+double secondsFrom(const char* text) {
+    char* end = nullptr;
+    const double seconds = strtod(text, &end);
+    const bool good = end != text && *end == '\0' && seconds > 0 && seconds <= 3600;
+    return good ? seconds : 0;
+}
+
+// Starts itself anew on a bus of its own.
+int runOnPrivateBus(const char* seconds) {
+    char self[4096] = {};
+    if (readlink("/proc/self/exe", self, sizeof(self) - 1) < 0) {
+        perror("/proc/self/exe");
         return 1;
     }
-    const double seconds = argc > 2 ? atof(argv[2]) : 1;
+    execlp("dbus-run-session", "dbus-run-session", "--", self, kInner, seconds, nullptr);
+    perror("dbus-run-session");
+    return 1;
+}
+
+int measure(double seconds) {
     const Service service;
     measureRoundTrips(seconds);
     measureConcurrency(seconds);
     measureOneWay(seconds);
-    return 0;
+    if (fflush(stdout) == 0 && !ferror(stdout)) return 0;
+    fputs("tarn_bench: standard output can't be written\n", stderr);
+    return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc == 2 && strcmp(argv[1], kServe) == 0) return serve();
+    if (argc == 3 && strcmp(argv[1], kInner) == 0) return measure(secondsFrom(argv[2]));
+    if (argc == 2 && (strcmp(argv[1], "-h") == 0 || strcmp(argv[1], "--help") == 0)) {
+        fputs(kUsage, stdout);
+        return 0;
+    }
+    if (argc > 2 || (argc == 2 && secondsFrom(argv[1]) == 0)) {
+        fputs(kUsage, stderr);
+        return 2;
+    }
+    return runOnPrivateBus(argc == 2 ? argv[1] : "1");
 }

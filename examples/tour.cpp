@@ -133,6 +133,10 @@ int main() try {
         fprintf(stderr, "the events did not arrive in order\n");
         return EXIT_FAILURE;
     }
+    if (fflush(stdout) != 0 || ferror(stdout)) {
+        fprintf(stderr, "standard output can't be written\n");
+        return EXIT_FAILURE;
+    }
     return EXIT_SUCCESS;
 } catch (const std::exception& error) {
     fprintf(stderr, "%s\n", error.what());

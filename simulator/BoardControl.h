@@ -52,8 +52,7 @@ class BoardControl {
      * for the same command is replaced. The fault is one of
      *   {"status": n}                      answered with that status, nothing done
      *   {"transport": "dead" | "error"}    the transport fails, nothing done
-     *   {"replyBytes": n}                  done, but the reply is cut to n bytes; 0 is an empty
-     * reply
+     *   {"replyBytes": n}                  done, but the reply is cut to n bytes (0: empty)
      *   {"delayMs": n}                     answered later
      * and may have "every": n, or "probability": p with "seed": n.
      */

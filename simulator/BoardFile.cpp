@@ -43,7 +43,7 @@ BoardFile::BoardFile(const std::string& path) : mPath(path), mText(readWhole(pat
     if (const std::optional<SyntaxError> error = readStrictJson(mText, &mRoot)) {
         throw BoardFileError({Problem{path, error->line, error->reason}});
     }
-    if (!mRoot.isObject()) throw BoardFileError({Problem{path, 1, "needs an object"}});
+    if (!mRoot.isObject()) throw BoardFileError({Problem{path, 1, "the file needs an object"}});
 }
 
 int BoardFile::lineAt(ptrdiff_t offset) const {

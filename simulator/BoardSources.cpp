@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <system_error>
 
 #include "simulator/JsonFields.h"
 
@@ -40,8 +41,10 @@ const BoardFile* BoardSources::read(const std::string& path, bool isOverride) {
     }
     const BoardFile& file = *mFiles.back();
     try {
-        checkKeys(file.root(), {"name", "include", "properties", "commands"});
-        if (const Json::Value* name = findMember(file.root(), "name")) readText(*name, "name");
+        checkKeys(file.root(), "the file", {"name", "include", "properties", "commands"});
+        if (const Json::Value* name = findMember(file.root(), "name")) {
+            checkName(*name, "name", readText(*name, "name"));
+        }
         if (const Json::Value* includes = findMember(file.root(), "include")) {
             readIncludes(file, *includes, isOverride);
         }
@@ -61,8 +64,12 @@ void BoardSources::readIncludes(const BoardFile& file, const Json::Value& includ
         if (std::find(mPaths.begin(), mPaths.end(), path) != mPaths.end()) {
             throw JsonError(include, "'" + path + "' is included for a second time");
         }
-        if (!std::filesystem::is_regular_file(path)) {
-            mProblems->push_back(file.problemAt(include, "included '" + path + "' is missing"));
+        std::error_code unreachable;
+        if (!std::filesystem::is_regular_file(path, unreachable)) {
+            const bool exists = std::filesystem::exists(path, unreachable);
+            mProblems->push_back(file.problemAt(
+                    include,
+                    "included '" + path + "' is " + (exists ? "no regular file" : "missing")));
             continue;
         }
         read(path, isOverride);

@@ -46,7 +46,7 @@ Field freeField(const Json::Value& json) {
         case Json::stringValue:
             return {Type::kString16, "", {}};
         default:
-            throw JsonError(json, "an event's data needs numbers, texts, true or false");
+            throw JsonError(json, "needs a number, a text, true or false");
     }
 }
 
@@ -74,7 +74,8 @@ class Reader {
     }
 
     CommandDescription read() {
-        checkKeys(mJson, {"get", "set", "index", "reply", "status", "event", "latencyMs", "fail"});
+        checkKeys(mJson, std::string("command '") + mCommand.row->name + "'",
+                  {"get", "set", "index", "reply", "status", "event", "latencyMs", "fail"});
         if (const Json::Value* index = findMember(mJson, "index")) readIndex(*index);
         if (const Json::Value* set = findMember(mJson, "set")) readSet(*set);
         if (const Json::Value* get = findMember(mJson, "get")) {
@@ -155,7 +156,9 @@ class Reader {
         if (property.field.type == Type::kList) {
             throw JsonError(json, "a list can't be set to a constant");
         }
-        Value value = valueFromJson(json.isString() ? unmarked(json) : json, property.field);
+        Value value = inField("constant of '" + name + "'", [&] {
+            return valueFromJson(json.isString() ? unmarked(json) : json, property.field);
+        });
         if (const std::optional<std::string> refusal = property.refusal(value)) {
             throw JsonError(json, "constant is " + *refusal);
         }
@@ -186,7 +189,7 @@ class Reader {
         mCommand.status = literal(Value{0});
         if (const Json::Value* status = findMember(mJson, "status")) {
             if (isReference(*status, '@')) throw JsonError(*status, "status can't be an argument");
-            mCommand.status = expression(*status, &kStatusField);
+            mCommand.status = inField("status", [&] { return expression(*status, &kStatusField); });
         }
         if (const Json::Value* reply = findMember(mJson, "reply")) {
             readReply(*reply);
@@ -200,16 +203,23 @@ class Reader {
 
     void readReply(const Json::Value& json) {
         if (!json.isArray() || json.size() != mReplyLayout.size()) {
-            throw JsonError(json, "reply needs an array of " + std::to_string(mReplyLayout.size()) +
-                                          " for \"" + mCommand.row->reply + "\"");
+            throw JsonError(json, "reply needs " + arrayOf(mReplyLayout.size()));
         }
         for (Json::ArrayIndex i = 0; i < json.size(); i++) {
-            mCommand.reply.push_back(expression(json[i], &mReplyLayout[i]));
+            mCommand.reply.push_back(
+                    inField("reply", [&] { return expression(json[i], &mReplyLayout[i]); }));
         }
     }
 
+    /** What a reply's array has to hold. */
+    std::string arrayOf(size_t fields) const {
+        if (fields == 0) return "an empty array or none: the command answers with its status alone";
+        return "an array of " + std::to_string(fields) + (fields == 1 ? " field" : " fields") +
+               ", \"" + mCommand.row->reply + "\"";
+    }
+
     void readEvent(const Json::Value& json) {
-        checkKeys(json, {"type", "data"});
+        checkKeys(json, "event", {"type", "data"});
         EventDescription event;
         const Json::Value* type = findMember(json, "type");
         if (type == nullptr) throw JsonError(json, "event has no type");
@@ -217,14 +227,14 @@ class Reader {
         if (const Json::Value* data = findMember(json, "data")) {
             if (!data->isArray()) throw JsonError(*data, "data needs an array");
             for (const Json::Value& field : *data) {
-                event.data.push_back(expression(field, nullptr));
+                event.data.push_back(inField("data", [&] { return expression(field, nullptr); }));
             }
         }
         mCommand.event = std::move(event);
     }
 
     void readFail(const Json::Value& json) {
-        checkKeys(json, {"status", "every"});
+        checkKeys(json, "fail", {"status", "every"});
         mCommand.fail = faultFromJson(json);
     }
 

@@ -6,7 +6,9 @@
 #include <vendor/zunt/hwtarn/1.0/BnHwHwTarn.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <stdexcept>
+#include <system_error>
 
 #include "host/binder/HostServiceManager.h"
 #include "simulator/BoardLoader.h"
@@ -16,10 +18,23 @@ namespace tarn::simulator {
 using ::vendor::zunt::hwtarn::V1_0::BnHwHwTarn;
 using ::vendor::zunt::hwtarn::V1_0::IHwTarn;
 
+namespace {
+
+/** The default board as it is installed with this program, if it is. */
+std::filesystem::path installedBoard() {
+    std::error_code failed;
+    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", failed);
+    const auto board = program.parent_path() / TARN_INSTALLED_BOARDS / "default.json";
+    return std::filesystem::exists(board, failed) ? board.lexically_normal() : "";
+}
+
+}  // namespace
+
 std::string defaultBoardPath() {
     const char* chosen = getenv("TARN_BOARD");
     if (chosen != nullptr && *chosen != '\0') return chosen;
-    return TARN_BOARD_DIR "/default.json";
+    const std::filesystem::path installed = installedBoard();
+    return installed.empty() ? TARN_BOARD_DIR "/default.json" : installed.string();
 }
 
 android::sp<SimulatedBoard> startEmbeddedBoard(const std::string& path,

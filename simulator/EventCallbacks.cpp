@@ -1,5 +1,6 @@
 #include "simulator/EventCallbacks.h"
 
+#include <system_error>
 #include <utility>
 
 namespace tarn::simulator {
@@ -25,16 +26,20 @@ class EventCallbacks::Obituary : public ::android::hardware::hidl_death_recipien
     const IHwTarnCallback* const mCallback;  // only to tell it from others
 };
 
-void EventCallbacks::add(int32_t pid, const Callback& callback) {
+bool EventCallbacks::add(int32_t pid, const Callback& callback) {
     Receiver receiver;
     receiver.callback = callback;
     receiver.obituary = new Obituary(weak_from_this(), pid, callback.get());
-    receiver.dispatcher = std::make_unique<EventDispatcher>(
-            [self = weak_from_this(), pid, callback](const Event& event) {
-                const hidl_vec<uint8_t> data(event.data);
-                if (!callback->hwNotify_vec(event.type, 0, data).isDeadObject()) return;
-                if (const auto callbacks = self.lock()) callbacks->drop(pid, callback.get());
-            });
+    try {
+        receiver.dispatcher = std::make_unique<EventDispatcher>(
+                [self = weak_from_this(), pid, callback](const Event& event) {
+                    const hidl_vec<uint8_t> data(event.data);
+                    if (!callback->hwNotify_vec(event.type, 0, data).isDeadObject()) return;
+                    if (const auto callbacks = self.lock()) callbacks->drop(pid, callback.get());
+                });
+    } catch (const std::system_error&) {
+        return false;
+    }
     const auto obituary = receiver.obituary;
     {
         std::lock_guard<std::mutex> guard(mLock);
@@ -44,6 +49,7 @@ void EventCallbacks::add(int32_t pid, const Callback& callback) {
     if (callback->isRemote() && !callback->linkToDeath(obituary, 0).withDefault(false)) {
         drop(pid, callback.get());
     }
+    return true;
 }
 
 bool EventCallbacks::post(const Event& event) {

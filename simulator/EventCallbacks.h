@@ -23,8 +23,11 @@ class EventCallbacks : public std::enable_shared_from_this<EventCallbacks> {
     using IHwTarnCallback = ::vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
     using Callback = ::android::sp<IHwTarnCallback>;
 
-    /** Replaces the callback that the process had. It is forgotten when it dies. */
-    void add(int32_t pid, const Callback& callback);
+    /**
+     * Replaces the callback that the process had. It is forgotten when it dies. False, and nothing
+     * is changed, if no thread can be had for it.
+     */
+    bool add(int32_t pid, const Callback& callback);
 
     /**
      * Queues an event for every callback, for all of them in the same order. False if too many wait

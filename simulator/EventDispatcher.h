@@ -19,6 +19,7 @@ class EventDispatcher {
     static constexpr size_t kMaxPending = 65'536;
     static constexpr size_t kMaxPendingBytes = 16 << 20;
 
+    /** Throws std::system_error if no thread can be had. */
     explicit EventDispatcher(std::function<void(const Event&)> deliver);
 
     /** Waits for the event that is being handed over, if any; those that wait are dropped. */

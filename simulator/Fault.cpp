@@ -54,16 +54,22 @@ double readProbability(const Json::Value& json) {
 }  // namespace
 
 Fault faultFromJson(const Json::Value& json) {
-    checkKeys(json,
+    checkKeys(json, "fault",
               {"status", "transport", "replyBytes", "delayMs", "every", "probability", "seed"});
     Fault fault = readEffect(json);
     if (const Json::Value* every = findMember(json, "every")) {
         fault.every = static_cast<int32_t>(readNumber(*every, "every", 1));
     }
     if (const Json::Value* probability = findMember(json, "probability")) {
+        if (findMember(json, "every") != nullptr) {
+            throw JsonError(*probability, "every and probability exclude each other");
+        }
         fault.probability = readProbability(*probability);
     }
     if (const Json::Value* seed = findMember(json, "seed")) {
+        if (findMember(json, "probability") == nullptr) {
+            throw JsonError(*seed, "seed needs a probability");
+        }
         fault.seed = static_cast<int32_t>(readNumber(*seed, "seed", 0));
     }
     return fault;

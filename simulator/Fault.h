@@ -19,7 +19,7 @@ struct Fault {
     Kind kind = Kind::kStatus;
     int32_t value = 0;       // status, bytes or milliseconds
     int32_t every = 1;       // every n-th call
-    double probability = 1;  // of those, with this probability
+    double probability = 1;  // or every call with this probability
     int32_t seed = 1;        // of the sequence that decides
 };
 

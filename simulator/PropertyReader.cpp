@@ -15,24 +15,25 @@ Type readType(const Json::Value& json) {
          {Type::kInt32, Type::kBool, Type::kString16, Type::kFloat, Type::kBytes, Type::kList}) {
         if (word == protocol::typeWord(type)) return type;
     }
-    throw JsonError(json, "unknown type '" + word + "'");
+    throw JsonError(json,
+                    "unknown type '" + word + "'; accepted: i32, bool, s16, f32, bytes, list");
 }
 
-double readLimit(const Json::Value& json, const Field& field) {
+double readLimit(const Json::Value& json, const char* what, const Field& field) {
     if (field.type != Type::kInt32 && field.type != Type::kFloat) {
-        throw JsonError(json, "a limit needs a property of type i32 or f32");
+        throw JsonError(json, std::string(what) + " needs a property of type i32 or f32");
     }
-    const Value value = valueFromJson(json, field);
+    const Value value = inField(what, [&] { return valueFromJson(json, field); });
     if (const int32_t* number = std::get_if<int32_t>(&value.data)) return *number;
     return std::get<float>(value.data);
 }
 
 void readRange(const Json::Value& json, Property* property) {
     if (const Json::Value* min = findMember(json, "min")) {
-        property->min = readLimit(*min, property->field);
+        property->min = readLimit(*min, "min", property->field);
     }
     if (const Json::Value* max = findMember(json, "max")) {
-        property->max = readLimit(*max, property->field);
+        property->max = readLimit(*max, "max", property->field);
         if (property->min && *property->min > *property->max) {
             throw JsonError(*max, "max is below min");
         }
@@ -44,14 +45,17 @@ void readValues(const Json::Value& json, Property* property) {
     if (type != Type::kInt32 && type != Type::kFloat && type != Type::kString16) {
         throw JsonError(json, "values need a property of type i32, f32 or s16");
     }
-    if (!json.isArray() || json.empty()) throw JsonError(json, "values need an array");
+    if (!json.isArray() || json.empty()) {
+        throw JsonError(json, "values need an array of at least one value");
+    }
     for (const Json::Value& value : json) {
-        property->values.push_back(valueFromJson(value, property->field));
+        property->values.push_back(
+                inField("values", [&] { return valueFromJson(value, property->field); }));
     }
 }
 
 void readInitial(const Json::Value& json, Property* property) {
-    property->initial = valueFromJson(json, property->field);
+    property->initial = inField("initial", [&] { return valueFromJson(json, property->field); });
     if (const std::optional<std::string> refusal = property->refusal(property->initial)) {
         throw JsonError(json, "initial is " + *refusal);
     }
@@ -60,7 +64,9 @@ void readInitial(const Json::Value& json, Property* property) {
 }  // namespace
 
 Property readProperty(const std::string& name, const Json::Value& json) {
-    checkKeys(json, {"type", "initial", "min", "max", "values", "indexed"});
+    checkName(json, "a property's name", name);
+    checkKeys(json, "property '" + name + "'",
+              {"type", "initial", "min", "max", "values", "indexed"});
     Property property;
     property.name = name;
     const Json::Value* type = findMember(json, "type");

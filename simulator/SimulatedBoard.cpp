@@ -1,5 +1,6 @@
 #include "simulator/SimulatedBoard.h"
 
+#include <binder/IPCThreadState.h>
 #include <hidl/HidlSupport.h>
 #include <hidl/Status.h>
 
@@ -68,7 +69,9 @@ Return<void> SimulatedBoard::hwInvoke(const hidl_string& request, hwInvoke_cb _h
 
 Return<void> SimulatedBoard::hwRegisterCallback(const sp<IHwTarnCallback>& callback, int32_t pid) {
     if (callback == nullptr) return Status::fromExceptionCode(Status::EX_NULL_POINTER);
-    mCallbacks->add(pid, callback);
+    const int32_t process =
+            callback->isRemote() ? ::android::IPCThreadState::self()->getCallingPid() : pid;
+    if (!mCallbacks->add(process, callback)) return Status::fromStatusT(::android::NO_MEMORY);
     return Void();
 }
 

@@ -25,7 +25,10 @@ class SimulatedBoard : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
     ::android::hardware::Return<void> hwInvoke(const ::android::hardware::hidl_string& request,
                                                hwInvoke_cb _hidl_cb) override;
 
-    /** A second callback of the same process replaces the first. */
+    /**
+     * A second callback of the same process replaces the first. The process is the one that calls;
+     * the pid counts only for a callback of this very process.
+     */
     ::android::hardware::Return<void> hwRegisterCallback(
             const ::android::sp<::vendor::zunt::hwtarn::V1_0::IHwTarnCallback>& callback,
             int32_t pid) override;

@@ -35,7 +35,15 @@ class JsonError : public std::invalid_argument {
 
     ptrdiff_t offset() const { return mOffset; }
 
+    /** The same, told to be of that field. */
+    JsonError within(const std::string& field) const {
+        return JsonError(mOffset, field + ": " + what());
+    }
+
   private:
+    JsonError(ptrdiff_t offset, const std::string& reason)
+        : std::invalid_argument(reason), mOffset(offset) {}
+
     ptrdiff_t mOffset;
 };
 

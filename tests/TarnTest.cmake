@@ -23,6 +23,7 @@ function(tarn_test_environment)
   foreach(name IN LISTS ARGN)
     set_property(TEST ${name} PROPERTY ENVIRONMENT
                  "TARN_PROPERTIES_FILE=${CMAKE_CURRENT_BINARY_DIR}/${name}.properties"
+                 "TARN_BOARD="
                  "DBUS_SESSION_BUS_ADDRESS="
                  "XDG_RUNTIME_DIR=")
   endforeach()

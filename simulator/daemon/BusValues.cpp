@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "simulator/Text.h"
 #include "simulator/Value.h"
 
 namespace tarn::simulator::bus {
@@ -50,6 +51,12 @@ std::string busText(const std::string& text) {
     return carried;
 }
 
+const std::string& checkedText(const std::string& text) {
+    if (!utf16FromUtf8(text)) throw std::invalid_argument("text is not UTF-8");
+    if (text.find('\0') != std::string::npos) throw std::invalid_argument("text has a NUL");
+    return text;
+}
+
 sdbus::Variant variantFromJson(const Json::Value& json) {
     switch (json.type()) {
         case Json::intValue:
@@ -58,7 +65,7 @@ sdbus::Variant variantFromJson(const Json::Value& json) {
         case Json::realValue:
             return sdbus::Variant(json.asDouble());
         case Json::stringValue:
-            return sdbus::Variant(busText(json.asString()));
+            return sdbus::Variant(checkedText(busText(json.asString())));
         case Json::booleanValue:
             return sdbus::Variant(json.asBool());
         case Json::arrayValue:
@@ -74,7 +81,7 @@ sdbus::Variant variantFromJson(const Json::Value& json) {
 Dictionary dictionaryFromJson(const Json::Value& object) {
     Dictionary dictionary;
     for (const std::string& name : object.getMemberNames()) {
-        dictionary.emplace(busText(name), variantFromJson(object[name]));
+        dictionary.emplace(checkedText(busText(name)), variantFromJson(object[name]));
     }
     return dictionary;
 }

@@ -14,7 +14,7 @@ namespace tarn::simulator::bus {
 // Of a bus, y n q u and v are read too, and ay as bytes. D-Bus has no NUL in a text: it becomes
 // U+FFFD.
 
-/** Throws std::invalid_argument for a null. */
+/** Throws std::invalid_argument for a null, and for a text that is not UTF-8. */
 sdbus::Variant variantFromJson(const Json::Value& json);
 Dictionary dictionaryFromJson(const Json::Value& object);
 
@@ -24,5 +24,8 @@ Json::Value jsonFromDictionary(const Dictionary& dictionary);
 
 /** A text that a D-Bus message can carry. */
 std::string busText(const std::string& text);
+
+/** Refuses a text that no D-Bus message can carry as it is; throws std::invalid_argument. */
+const std::string& checkedText(const std::string& text);
 
 }  // namespace tarn::simulator::bus

@@ -1,12 +1,14 @@
 #include "simulator/daemon/Daemon.h"
 
 #include <hidl/HidlTransportSupport.h>
+#include <sdbus-c++/Error.h>
 #include <signal.h>
 #include <unistd.h>
 #include <utils/Errors.h>
 
 #include <cstdio>
 #include <string>
+#include <system_error>
 
 #include "simulator/BoardLoader.h"
 #include "simulator/EmbeddedBoard.h"
@@ -129,6 +131,12 @@ int runDaemon(const DaemonOptions& options) try {
     return refusal.code();
 } catch (const bus::BusUnreachable& error) {
     say(error.what());
+    return kNoBus;
+} catch (const sdbus::Error& error) {
+    say("the session bus refuses the board: " + error.getMessage());
+    return kNoBus;
+} catch (const std::system_error& error) {
+    say(std::string("the system has not what serving needs: ") + error.what());
     return kNoBus;
 }
 

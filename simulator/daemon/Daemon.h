@@ -9,7 +9,7 @@ enum DaemonExit : int {
     kNotPublished = 1,   // the platform refused
     kUnusable = 2,       // the command line or the board's description
     kAlreadyServed = 3,  // somebody serves already
-    kNoBus = 4,          // there is no session bus, or it went away
+    kNoBus = 4,          // there is no session bus, it went away, or the system lacks resources
 };
 
 /** Serves a board until it is told to end; what goes wrong is told on standard error. */

@@ -8,7 +8,9 @@ enum class EndCause : unsigned char { kSignal, kReplaced, kBusGone };
 /** Waits for the end, which a signal or another thread brings. One at a time. */
 class EndWatch {
   public:
-    /** From here on SIGINT, SIGTERM and SIGHUP are kept for wait(), by all threads started later.
+    /**
+     * From here on SIGINT, SIGTERM and SIGHUP are kept for wait(), by all threads started later.
+     * Throws std::system_error.
      */
     EndWatch();
     ~EndWatch();

@@ -71,11 +71,11 @@ Json::Value RemoteBoard::listProperties() const {
 }
 
 Json::Value RemoteBoard::getProperty(const std::string& name) const {
-    return jsonFromVariant(call<sdbus::Variant>("GetProperty", name));
+    return jsonFromVariant(call<sdbus::Variant>("GetProperty", checkedText(name)));
 }
 
 void RemoteBoard::setPropertyFromText(const std::string& name, const std::string& value) {
-    order("SetProperty", name, sdbus::Variant(value));
+    order("SetProperty", checkedText(name), sdbus::Variant(checkedText(value)));
 }
 
 void RemoteBoard::raiseEvent(uint32_t type, const std::vector<uint8_t>& data) {
@@ -109,11 +109,11 @@ Json::Value RemoteBoard::listFaults() const {
 }
 
 void RemoteBoard::setFault(const std::string& command, const Json::Value& fault) {
-    order("SetFault", command, dictionaryFromJson(fault));
+    order("SetFault", checkedText(command), dictionaryFromJson(fault));
 }
 
 void RemoteBoard::clearFault(const std::string& command) {
-    order("ClearFault", command);
+    order("ClearFault", checkedText(command));
 }
 
 void RemoteBoard::clearFaults() {

@@ -1,6 +1,10 @@
 #include <cstdio>
 #include <cstdlib>
 
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
+
 #include "simulator/daemon/Daemon.h"
 
 int main(int argc, char** argv) {
@@ -21,6 +25,10 @@ int main(int argc, char** argv) {
         code = kUnusable;
     }
     fflush(stdout);
+#ifdef __SANITIZE_ADDRESS__
+    // Below, what would look for leaks at the end is left out with the rest.
+    __lsan_do_leak_check();
+#endif
     // Commands may still be carried out: no destructor may run underneath them.
     std::quick_exit(code);
 }

@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sdbus-c++/sdbus-c++.h>
 #include <signal.h>
@@ -5,7 +6,9 @@
 #include <tarn/TarnManager.h>
 #include <unistd.h>
 #include <utils/StrongPointer.h>
+#include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -29,9 +32,15 @@ using android::CMD_AUDIO_SET_AUDIO_GAIN;
 using android::CMD_AUDIO_SET_VOLUME;
 using android::sp;
 using android::TarnManager;
+using android::hardware::hidl_string;
+using android::hardware::hidl_vec;
+using android::hardware::Return;
+using android::hardware::Void;
 using simulator::bus::BoardUnreachable;
 using simulator::bus::Dictionary;
 using simulator::bus::RemoteBoard;
+using vendor::zunt::hwtarn::V1_0::IHwTarn;
+using vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
 namespace bus = simulator::bus;
 
 constexpr char kDeadLine[] = "Error, hwInvoke failed, service is a DEAD_OBJECT.";
@@ -182,6 +191,19 @@ TEST(BoardDaemon, SaysWhenThereIsNoBus) {
             << wrong.errors;
 }
 
+TEST(BoardDaemon, SaysWhenTheSystemHasNoDescriptorsLeft) {
+    // Of four descriptors three are taken; the fourth is for the signals. Looking for leaks would
+    // need more.
+    const Outcome outcome =
+            runProgram("/bin/sh",
+                       {"-c", "exec 3>&- 4>&- 5>&- 6>&- 7>&- 8>&- 9>&-; ulimit -n 4; exec \"$0\"",
+                        boardProgram()},
+                       {{"ASAN_OPTIONS", "detect_leaks=0"}});
+    EXPECT_EQ(4, outcome.code);
+    EXPECT_EQ("tarn-board: the system has not what serving needs: pipe: Too many open files\n",
+              outcome.errors);
+}
+
 TEST(BoardDaemon, EndsWhenTheBusGoesAway) {
     const std::string address = getenv("DBUS_SESSION_BUS_ADDRESS");
     PrivateBus bus;
@@ -302,6 +324,40 @@ TEST(BoardDaemon, DeliversEventsAndKeepsThoseThatApplicationsPost) {
     EXPECT_EQ(expected, control->postedEvents()[0]);
     manager->unRegisterListener(&listener);
     manager->removeTarnMsgManager();
+}
+
+/** Counts the events that it is told. */
+class EventCounter : public IHwTarnCallback {
+  public:
+    Return<void> hwNotify(uint32_t, int32_t, const hidl_string&) override { return Void(); }
+    Return<void> hwNotify_vec(uint32_t, int32_t, const hidl_vec<uint8_t>&) override {
+        mCount++;
+        return Void();
+    }
+
+    int count() const { return mCount; }
+
+  private:
+    std::atomic<int> mCount{0};
+};
+
+TEST(BoardDaemon, KeepsOneCallbackForAProcessWhateverPidsItGives) {
+    const BoardProcess board;
+    const auto control = RemoteBoard::find();
+    const sp<IHwTarn> service = IHwTarn::getService();
+    const sp<EventCounter> last = new EventCounter;
+    const sp<EventCounter> others = new EventCounter;
+    EXPECT_TRUE(service->hwRegisterCallback(others, 0).isOk());
+    const size_t threads = board.threads();
+    for (int pid = 1; pid < 100; pid++) {
+        EXPECT_TRUE(service->hwRegisterCallback(others, pid).isOk());
+    }
+    EXPECT_TRUE(service->hwRegisterCallback(last, 100).isOk());
+    EXPECT_TRUE(eventually([&] { return board.threads() <= threads + kPoolGrowth; }))
+            << board.threads() << " after " << threads;
+    control->raiseEvent(1, {});
+    EXPECT_TRUE(eventually([&] { return last->count() == 1; }));
+    EXPECT_EQ(0, others->count());
 }
 
 constexpr int kRounds = 200;
@@ -519,6 +575,31 @@ TEST(RemoteBoard, GivesEveryPropertyAsTheBoardItselfDoes) {
         EXPECT_EQ(all[name]["value"], control->getProperty(name)) << name;
     }
     EXPECT_TRUE(all["audio.gain"]["indexed"].asBool());
+}
+
+TEST(RemoteBoard, RefusesTextsThatAreNotUtf8AsTheBoardItselfDoes) {
+    const BoardProcess board;
+    const auto control = RemoteBoard::find();
+    const std::string text = "\xff\xfe";
+    const auto refusesText = testing::ThrowsMessage<std::invalid_argument>("text is not UTF-8");
+    EXPECT_THAT([&] { control->setPropertyFromText("device.nfcTagMsg", text); }, refusesText);
+    EXPECT_THAT([&] { control->setPropertyFromText(text, "1"); }, refusesText);
+    EXPECT_THAT([&] { control->getProperty(text); }, refusesText);
+    EXPECT_THAT([&] { control->clearFault(text); }, refusesText);
+    Json::Value fault;
+    fault["transport"] = text;
+    EXPECT_THAT([&] { control->setFault("*", fault); }, refusesText);
+    fault["transport"] = "dead";
+    EXPECT_THAT([&] { control->setFault(text, fault); }, refusesText);
+    EXPECT_THAT(
+            [&] {
+                control->setPropertyFromText("device.nfcTagMsg", {'a', '\0'});
+            },
+            testing::ThrowsMessage<std::invalid_argument>("text has a NUL"));
+
+    const Outcome outcome = runTarnctl({"board", "set", "device.nfcTagMsg", text});
+    EXPECT_EQ(2, outcome.code);
+    EXPECT_THAT(outcome.errors, testing::HasSubstr("text is not UTF-8"));
 }
 
 TEST(RemoteBoard, SaysWhenTheDaemonIsGone) {

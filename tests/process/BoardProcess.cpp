@@ -1,5 +1,7 @@
 #include "tests/process/BoardProcess.h"
 
+#include <signal.h>
+
 #include <filesystem>
 #include <iterator>
 
@@ -17,6 +19,12 @@ size_t entriesOf(const std::string& directory) {
 BoardProcess::BoardProcess(const std::vector<std::string>& arguments)
     : Program(boardProgram(), arguments) {
     errorLineWith("serving");
+}
+
+BoardProcess::~BoardProcess() {
+    signal(SIGTERM);
+    signal(SIGCONT);
+    wait();
 }
 
 size_t BoardProcess::descriptors() const {

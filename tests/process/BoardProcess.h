@@ -11,6 +11,8 @@ namespace tarn::test {
 class BoardProcess : public Program {
   public:
     explicit BoardProcess(const std::vector<std::string>& arguments = {});
+    /** Tells it to end, and fails the test if it doesn't. */
+    ~BoardProcess();
 
     /** How many descriptors it has open, how many threads it runs. */
     size_t descriptors() const;

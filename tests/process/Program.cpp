@@ -137,7 +137,7 @@ std::string Program::errorLineWith(const std::string& text) {
 }
 
 void Program::signal(int number) const {
-    kill(mPid, number);
+    if (!mReaped) kill(mPid, number);
 }
 
 void Program::drain() {

@@ -30,6 +30,7 @@ class Program {
     /** Reads standard error up to a line that holds this text, which it returns. */
     std::string errorLineWith(const std::string& text);
 
+    /** Sends it a signal, unless wait() has seen its end. */
     void signal(int number) const;
 
     /**

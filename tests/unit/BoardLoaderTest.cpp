@@ -146,6 +146,25 @@ TEST_F(BoardLoader, TellsAMissingIncludeAtItsLine) {
     EXPECT_THAT(problems(), ElementsAre("board.json:3: included 'gone.json' is missing"));
 }
 
+TEST_F(BoardLoader, TellsAnIncludedFolderAndANameThatNoFileCanHave) {
+    write("parts/one.json", "{}");
+    const std::string longName(300, 'x');
+    write("board.json", "{\"name\": \"x\",\n\"include\": [\n\"parts\",\n\"" + longName + "\"]}");
+    EXPECT_THAT(problems(), ElementsAre("board.json:3: included 'parts' is no regular file",
+                                        "board.json:4: included '" + longName + "' is missing"));
+}
+
+TEST_F(BoardLoader, RefusesANameThatIsEmptyOrNotUtf8) {
+    write("board.json", "{\n\"name\": \"\"}");
+    EXPECT_THAT(problems(), ElementsAre("board.json:2: name is empty"));
+    write("board.json", "{\n\"name\": \"\xff\"}");
+    EXPECT_THAT(problems(), ElementsAre("board.json:2: name is not UTF-8"));
+    EXPECT_THAT(problemsOfProperty(R"("": {"type": "i32", "initial": 1})"),
+                ElementsAre("board.json:4: a property's name is empty"));
+    EXPECT_THAT(problemsOfProperty("\"\xff\": {\"type\": \"i32\", \"initial\": 1}"),
+                ElementsAre("board.json:4: a property's name is not UTF-8"));
+}
+
 TEST_F(BoardLoader, RefusesAFileThatIncludesItself) {
     write("board.json", "{\"name\": \"x\",\n\"include\": [\"board.json\"]}");
     EXPECT_THAT(problems(),
@@ -160,7 +179,7 @@ TEST_F(BoardLoader, TellsTheLineOfASyntaxError) {
     write("board.json", "");
     EXPECT_THAT(problems(), ElementsAre(StartsWith("board.json:1: ")));
     write("board.json", "[1]");
-    EXPECT_THAT(problems(), ElementsAre("board.json:1: needs an object"));
+    EXPECT_THAT(problems(), ElementsAre("board.json:1: the file needs an object"));
     write("board.json", std::string(100'000, '['));
     EXPECT_THAT(problems(), ElementsAre(StartsWith("board.json:1: ")));
 }
@@ -182,16 +201,19 @@ TEST_F(BoardLoader, RefusesADescriptionThatAnotherFileHasToo) {
 
 TEST_F(BoardLoader, RefusesUnknownKeysEverywhere) {
     write("board.json", "{\"name\": \"x\",\n\"property\": {}}");
-    EXPECT_THAT(problems(), ElementsAre("board.json:2: unknown key 'property'"));
+    EXPECT_THAT(problems(), ElementsAre("board.json:2: unknown key 'property'; accepted: name, "
+                                        "include, properties, commands"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "i32", "initial": 1, "maximum": 2})"),
-                ElementsAre("board.json:4: unknown key 'maximum'"));
+                ElementsAre("board.json:4: unknown key 'maximum'; accepted: type, initial, min, "
+                            "max, values, indexed"));
     EXPECT_THAT(problemsOfCommand(R"("CMD_AUDIO_GET_VOLUME": {"got": "a.word"})"),
-                ElementsAre("board.json:7: unknown key 'got'"));
+                ElementsAre("board.json:7: unknown key 'got'; accepted: get, set, index, reply, "
+                            "status, event, latencyMs, fail"));
     EXPECT_THAT(problemsOfCommand(R"("CMD_AUDIO_START_AIEQ_CALIBRATION": {"event": {"typ": 1}})"),
-                ElementsAre("board.json:7: unknown key 'typ'"));
+                ElementsAre("board.json:7: unknown key 'typ'; accepted: type, data"));
     EXPECT_THAT(
             problemsOfCommand(R"("CMD_AUDIO_START_AIEQ_CALIBRATION": {"fail": {"delayMs": 1}})"),
-            ElementsAre("board.json:7: unknown key 'delayMs'"));
+            ElementsAre("board.json:7: unknown key 'delayMs'; accepted: status, every"));
 }
 
 TEST_F(BoardLoader, RefusesAnUnknownCommand) {
@@ -201,45 +223,48 @@ TEST_F(BoardLoader, RefusesAnUnknownCommand) {
 
 TEST_F(BoardLoader, RefusesAPropertyThatIsDescribedWrongly) {
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "i64", "initial": 1})"),
-                ElementsAre("board.json:4: unknown type 'i64'"));
+                ElementsAre("board.json:4: unknown type 'i64'; accepted: i32, bool, s16, f32, "
+                            "bytes, list"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"initial": 1})"),
                 ElementsAre("board.json:4: property 'a' has no type"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "i32"})"),
                 ElementsAre("board.json:4: property 'a' has no initial"));
-    EXPECT_THAT(problemsOfProperty(R"("a": 5)"), ElementsAre("board.json:4: needs an object"));
+    EXPECT_THAT(problemsOfProperty(R"("a": 5)"),
+                ElementsAre("board.json:4: property 'a' needs an object"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "i32", "initial": 1, "indexed": 1})"),
                 ElementsAre("board.json:4: indexed needs true or false"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "i32", "initial": 1, "min": 5, "max": 4})"),
                 ElementsAre("board.json:4: max is below min"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "bool", "initial": true, "min": 0})"),
-                ElementsAre("board.json:4: a limit needs a property of type i32 or f32"));
+                ElementsAre("board.json:4: min needs a property of type i32 or f32"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "bool", "initial": true, "values": [true]})"),
                 ElementsAre("board.json:4: values need a property of type i32, f32 or s16"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "i32", "initial": 1, "values": []})"),
-                ElementsAre("board.json:4: values need an array"));
+                ElementsAre("board.json:4: values need an array of at least one value"));
 }
 
 TEST_F(BoardLoader, RefusesAnInitialValueOfAnotherType) {
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "i32", "initial": "1"})"),
-                ElementsAre("board.json:4: needs a whole number (i32)"));
+                ElementsAre("board.json:4: initial: needs a whole number (i32)"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "i32", "initial": 1.0})"),
-                ElementsAre("board.json:4: needs a whole number (i32)"));
+                ElementsAre("board.json:4: initial: needs a whole number (i32)"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "i32", "initial": 2147483648})"),
-                ElementsAre("board.json:4: number is beyond 32 bits"));
+                ElementsAre("board.json:4: initial: number is beyond 32 bits"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "bool", "initial": 1})"),
-                ElementsAre("board.json:4: needs true or false (bool)"));
+                ElementsAre("board.json:4: initial: needs true or false (bool)"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "f32", "initial": true})"),
-                ElementsAre("board.json:4: needs a number (f32)"));
+                ElementsAre("board.json:4: initial: needs a number (f32)"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "f32", "initial": 1e39})"),
-                ElementsAre("board.json:4: number is beyond f32"));
+                ElementsAre("board.json:4: initial: number is beyond f32"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "s16", "initial": null})"),
-                ElementsAre("board.json:4: needs a text (s16)"));
+                ElementsAre("board.json:4: initial: needs a text (s16)"));
     EXPECT_THAT(problemsOfProperty("\"a\": {\"type\": \"s16\", \"initial\": \"\xff\"}"),
-                ElementsAre("board.json:4: text is not UTF-8"));
+                ElementsAre("board.json:4: initial: text is not UTF-8"));
     EXPECT_THAT(problemsOfProperty(R"("a": {"type": "bytes", "initial": [256]})"),
-                ElementsAre("board.json:4: needs a number from 0 to 255 (bytes)"));
-    EXPECT_THAT(problemsOfProperty(R"("a": {"type": "bytes", "initial": "abc"})"),
-                ElementsAre("board.json:4: text is not made of hexadecimal pairs (bytes)"));
+                ElementsAre("board.json:4: initial: needs a number from 0 to 255 (bytes)"));
+    EXPECT_THAT(
+            problemsOfProperty(R"("a": {"type": "bytes", "initial": "abc"})"),
+            ElementsAre("board.json:4: initial: text is not made of hexadecimal pairs (bytes)"));
 }
 
 TEST_F(BoardLoader, RefusesAnInitialValueOutsideItsOwnRange) {
@@ -253,7 +278,7 @@ TEST_F(BoardLoader, RefusesAnInitialValueOutsideItsOwnRange) {
 
 TEST_F(BoardLoader, TellsTheLineOfTheValueItself) {
     EXPECT_THAT(problemsOfProperty("\"a\": {\n\"type\": \"i32\",\n\"initial\": true}"),
-                ElementsAre("board.json:6: needs a whole number (i32)"));
+                ElementsAre("board.json:6: initial: needs a whole number (i32)"));
 }
 
 TEST_F(BoardLoader, RefusesAListWhoseRecordsDontFitItsCommand) {
@@ -264,12 +289,12 @@ TEST_F(BoardLoader, RefusesAListWhoseRecordsDontFitItsCommand) {
             problemsOf(R"("a": {"type": "list", "initial": [[1, 2, 3, "x", true, "y"]]})", command),
             IsEmpty());
     EXPECT_THAT(problemsOf(R"("a": {"type": "list", "initial": [[1, 2, 3, "x", true]]})", command),
-                ElementsAre("board.json:4: record has 5 fields, not the 6 of " + record));
+                ElementsAre("board.json:4: initial: record has 5 fields, not the 6 of " + record));
     EXPECT_THAT(problemsOf(R"("a": {"type": "list", "initial": [5]})", command),
-                ElementsAre("board.json:4: needs an array for each record " + record));
+                ElementsAre("board.json:4: initial: needs an array for each record " + record));
     EXPECT_THAT(problemsOf(R"("a": {"type": "list", "initial": [[1, 2, "3", "x", true, "y"]]})",
                            command),
-                ElementsAre("board.json:4: needs a whole number (i32)"));
+                ElementsAre("board.json:4: initial: needs a whole number (i32)"));
     EXPECT_THAT(problemsOf(R"("a": {"type": "list", "initial": []})",
                            command + R"(, "CMD_LANDSCAPE_GET_APP_LIST": {"get": "a"})"),
                 ElementsAre("board.json:7: property 'a' is " + record +
@@ -288,7 +313,7 @@ TEST_F(BoardLoader, RefusesUnknownReferences) {
             problemsOfCommand(R"("CMD_AUDIO_GET_AUDIO_GAIN": {"get": "a.each", "index": "out"})"),
             ElementsAre("board.json:7: request \"i32 output\" has no argument 'out'"));
     EXPECT_THAT(problemsOfCommand(R"("CMD_AUDIO_GET_OTG_MIC_STATE": {"reply": ["@none"]})"),
-                ElementsAre("board.json:7: request \"\" has no argument 'none'"));
+                ElementsAre("board.json:7: reply: request \"\" has no argument 'none'"));
     EXPECT_THAT(problemsOf(R"("a": {"type": "i32"})", R"("CMD_AUDIO_GET_VOLUME": {"get": "a"})"),
                 ElementsAre("board.json:4: property 'a' has no initial",
                             "board.json:7: refused property 'a'"));
@@ -310,7 +335,7 @@ TEST_F(BoardLoader, RefusesAPropertyThatDoesntFitTheCommand) {
     EXPECT_THAT(problemsOfCommand(R"("CMD_AUDIO_SET_VOLUME": {"set": {"a.word": 10}})"),
                 ElementsAre("board.json:7: constant is above the largest value 9"));
     EXPECT_THAT(problemsOfCommand(R"("CMD_AUDIO_SET_VOLUME": {"set": {"a.word": "=10"}})"),
-                ElementsAre("board.json:7: needs a whole number (i32)"));
+                ElementsAre("board.json:7: constant of 'a.word': needs a whole number (i32)"));
     EXPECT_THAT(problemsOfCommand(R"("CMD_AUDIO_SET_VOLUME": {"set": 10})"),
                 ElementsAre("board.json:7: set needs a property, or an object of properties and "
                             "arguments"));
@@ -320,24 +345,27 @@ TEST_F(BoardLoader, RefusesAReplyThatDoesntFitTheLayout) {
     const std::string name = "\"CMD_LANDSCAPE_SET_APP_LIST\": ";
     EXPECT_THAT(problemsOfCommand(name + R"({"reply": [1, true]})"), IsEmpty());
     EXPECT_THAT(problemsOfCommand(name + R"({"reply": [1]})"),
-                ElementsAre("board.json:7: reply needs an array of 2 for \"i32 ignored, bool "
+                ElementsAre("board.json:7: reply needs an array of 2 fields, \"i32 ignored, bool "
                             "done\""));
+    EXPECT_THAT(problemsOfCommand(R"("CMD_AUDIO_GET_OTG_MIC_STATE": {"reply": []})"),
+                ElementsAre("board.json:7: reply needs an array of 1 field, \"bool on\""));
     EXPECT_THAT(problemsOfCommand(name + R"({"reply": [1, 1]})"),
-                ElementsAre("board.json:7: needs true or false (bool)"));
+                ElementsAre("board.json:7: reply: needs true or false (bool)"));
     EXPECT_THAT(problemsOfCommand(name + R"({"reply": [1, "@apps"]})"),
-                ElementsAre("board.json:7: argument is [s16 app], the field bool"));
+                ElementsAre("board.json:7: reply: argument is [s16 app], the field bool"));
     EXPECT_THAT(problemsOfCommand(name + "{}"),
                 ElementsAre("board.json:7: reply \"i32 ignored, bool done\" has to be described"));
     EXPECT_THAT(problemsOfCommand(R"("CMD_LANDSCAPE_GET_APP_LIST": {"reply": [["a", ["b"]]]})"),
                 IsEmpty());
     EXPECT_THAT(problemsOfCommand(R"("CMD_LANDSCAPE_GET_APP_LIST": {"reply": [["a", 5]]})"),
-                ElementsAre("board.json:7: needs a text (s16)"));
+                ElementsAre("board.json:7: reply: needs a text (s16)"));
     EXPECT_THAT(problemsOfCommand(R"("CMD_LANDSCAPE_GET_APP_LIST": {"reply": [[["a", "b"]]]})"),
-                ElementsAre("board.json:7: record does not fit [s16 app]"));
+                ElementsAre("board.json:7: reply: record does not fit [s16 app]"));
     EXPECT_THAT(problemsOfCommand(R"("CMD_LANDSCAPE_GET_APP_LIST": {"reply": ["a"]})"),
-                ElementsAre("board.json:7: needs an array of records [s16 app]"));
+                ElementsAre("board.json:7: reply: needs an array of records [s16 app]"));
     EXPECT_THAT(problemsOfCommand(R"("CMD_AUDIO_GET_VOLUME": {"reply": [1]})"),
-                ElementsAre("board.json:7: reply needs an array of 0 for \"\""));
+                ElementsAre("board.json:7: reply needs an empty array or none: the command answers "
+                            "with its status alone"));
     EXPECT_THAT(problemsOfCommand(R"("CMD_AV_GET_DSP_TEST_RESULT": {"get": "a.word"})"),
                 ElementsAre("board.json:7: get answers with one field, reply \"i32 testStatus, "
                             "bytes result\" has 2"));
@@ -360,7 +388,8 @@ TEST_F(BoardLoader, RefusesAnIndexThatDoesntFit) {
             problemsOfCommand(R"("CMD_AUDIO_GET_AUDIO_GAIN": {"get": "a.each", "index": "output"},)"
                               R"("CMD_AUDIO_SET_AUDIO_GAIN": {"reply": [], "status": "$a.each",)"
                               R"( "index": ["output", "gain"]})"),
-            ElementsAre("board.json:7: property 'a.each' has another index in another command"));
+            ElementsAre("board.json:7: status: property 'a.each' has another index in another "
+                        "command"));
     EXPECT_THAT(problemsOfCommand(R"("CMD_AUDIO_SET_AUDIO_GAIN": {"status": "$a.each",)"
                                   R"( "index": ["gain", "gain"]})"),
                 ElementsAre("board.json:7: index names an argument twice"));
@@ -379,7 +408,7 @@ TEST_F(BoardLoader, RefusesABadEventLatencyOrFailure) {
     EXPECT_THAT(problemsWith(R"("event": {"type": -1})"),
                 ElementsAre("board.json:7: type is not within 0 to 4294967295"));
     EXPECT_THAT(problemsWith(R"("event": {"type": 1, "data": [[1]]})"),
-                ElementsAre("board.json:7: an event's data needs numbers, texts, true or false"));
+                ElementsAre("board.json:7: data: needs a number, a text, true or false"));
     EXPECT_THAT(problemsWith(R"("latencyMs": -1)"),
                 ElementsAre("board.json:7: latencyMs is not within 0 to 60000"));
     EXPECT_THAT(problemsWith(R"("latencyMs": "5")"),
@@ -389,7 +418,7 @@ TEST_F(BoardLoader, RefusesABadEventLatencyOrFailure) {
     EXPECT_THAT(problemsWith(R"("fail": {"every": 2})"),
                 ElementsAre(HasSubstr("board.json:7: needs exactly one of status")));
     EXPECT_THAT(problemsWith(R"("status": "ok")"),
-                ElementsAre("board.json:7: needs a whole number (i32)"));
+                ElementsAre("board.json:7: status: needs a whole number (i32)"));
 }
 
 TEST_F(BoardLoader, RefusesTwoDescriptionsOfCommandsThatLookAlike) {
@@ -406,9 +435,11 @@ TEST_F(BoardLoader, TellsTheProblemsOfAllFilesAtOnce) {
     write("a.json", "{");
     write("b.json", R"({"properties": {"a": {"type": "i32"}, "b": {"type": "x", "initial": 1}}})");
     write("c.json", R"({"commands": {"CMD_NONE": {}}})");
-    EXPECT_THAT(problems(),
-                ElementsAre(StartsWith("a.json:1: "), "b.json:1: property 'a' has no initial",
-                            "b.json:1: unknown type 'x'", "c.json:1: unknown command 'CMD_NONE'"));
+    EXPECT_THAT(
+            problems(),
+            ElementsAre(StartsWith("a.json:1: "), "b.json:1: property 'a' has no initial",
+                        "b.json:1: unknown type 'x'; accepted: i32, bool, s16, f32, bytes, list",
+                        "c.json:1: unknown command 'CMD_NONE'"));
 }
 
 TEST_F(BoardLoader, WantsANameAndADescriptionOfEveryCommandFromTheDefaultBoard) {

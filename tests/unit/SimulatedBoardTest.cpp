@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <pthread.h>
 #include <stdlib.h>
 #include <unistd.h>
 #include <utils/String16.h>
@@ -518,6 +519,39 @@ TEST_F(SimulatedBoardEvents, RefuseANullCallback) {
     EXPECT_EQ(0U, mBoard->callbackCount());
 }
 
+/** As long as it lives, no thread can be started: a stack would need more than there is. */
+class NoThreads {
+  public:
+    NoThreads() {
+        pthread_getattr_default_np(&mUsual);
+        pthread_attr_t impossible;
+        pthread_attr_init(&impossible);
+        pthread_attr_setstacksize(&impossible, size_t{1} << 48);
+        pthread_setattr_default_np(&impossible);
+        pthread_attr_destroy(&impossible);
+    }
+    ~NoThreads() {
+        pthread_setattr_default_np(&mUsual);
+        pthread_attr_destroy(&mUsual);
+    }
+
+  private:
+    pthread_attr_t mUsual;
+};
+
+TEST_F(SimulatedBoardEvents, RefuseACallbackThatNoThreadCanServeAndKeepTheOld) {
+    const sp<Receiver> first(new Receiver);
+    const sp<Receiver> second(new Receiver);
+    EXPECT_TRUE(mBoard->hwRegisterCallback(first, 1).isOk());
+    {
+        const NoThreads none;
+        EXPECT_FALSE(mBoard->hwRegisterCallback(second, 1).isOk());
+    }
+    mControl.raiseEvent(1, {});
+    EXPECT_EQ(1U, first->waitFor(1).size());
+    EXPECT_EQ(0, second->calls());
+}
+
 TEST_F(SimulatedBoardEvents, SurviveACallbackThatDropsTheBoard) {
     class Last : public Receiver {
       public:
@@ -655,13 +689,18 @@ TEST_F(SimulatedBoardFaults, AreRefusedWhenDescribedWrongly) {
     using E = std::invalid_argument;
     EXPECT_THAT(setting("{}"), ThrowsMessage<E>(HasSubstr("exactly one of")));
     EXPECT_THAT(setting(R"({"status": 1, "delayMs": 1})"), ThrowsMessage<E>(HasSubstr("exactly")));
-    EXPECT_THAT(setting(R"({"stat": 1})"), ThrowsMessage<E>("unknown key 'stat'"));
+    EXPECT_THAT(setting(R"({"stat": 1})"),
+                ThrowsMessage<E>(HasSubstr("unknown key 'stat'; accepted: status")));
     EXPECT_THAT(setting(R"({"transport": "gone"})"), ThrowsMessage<E>(HasSubstr("neither")));
     EXPECT_THAT(setting(R"({"replyBytes": -1})"), ThrowsMessage<E>(HasSubstr("not within 0")));
     EXPECT_THAT(setting(R"({"delayMs": 60001})"), ThrowsMessage<E>(HasSubstr("not within 0")));
     EXPECT_THAT(setting(R"({"status": 1, "every": 0})"), ThrowsMessage<E>(HasSubstr("not within")));
     EXPECT_THAT(setting(R"({"status": 1, "probability": 0})"),
                 ThrowsMessage<E>(HasSubstr("above")));
+    EXPECT_THAT(setting(R"({"status": 1, "every": 2, "probability": 0.5})"),
+                ThrowsMessage<E>("every and probability exclude each other"));
+    EXPECT_THAT(setting(R"({"status": 1, "seed": 2})"),
+                ThrowsMessage<E>("seed needs a probability"));
     EXPECT_THAT([this] { mControl.setFault("CMD_NONE", Json::Value()); },
                 ThrowsMessage<E>("no command 'CMD_NONE'"));
     EXPECT_EQ(1U, mControl.listFaults().size());
