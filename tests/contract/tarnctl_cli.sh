@@ -8,6 +8,7 @@ directory=$3
 mkdir -p "$directory"
 cd "$directory" || exit 1
 failed=0
+exec </dev/null
 
 fail() {
     echo "FAILED: $1"
