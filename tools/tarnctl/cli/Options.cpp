@@ -43,8 +43,17 @@ const std::string& requireFile(const std::string& option, const std::string& fil
 }
 
 void setCount(Options* options, const std::string& text) {
-    const int32_t count = parseInt("--count", text);
-    if (count < 1) throw Failure(kBadUsage, "--count: \"" + text + "\" is less than 1");
+    int32_t count = 0;
+    try {
+        count = parseInt("--count", text);
+    } catch (const BadArgument&) {
+        // What it accepts is more than can be counted to.
+    }
+    if (count < 1) {
+        throw Failure(kBadUsage, "--count: \"" + text +
+                                         "\" can't be used; accepted: a number from 1 to "
+                                         "2147483647");
+    }
     options->count = count;
 }
 
