@@ -26,7 +26,10 @@ sp<EventCollector> EventCollector::start(android::ITarnManager* manager) {
     keepForEver(collector);
     manager->registerListener(collector.get());
     const sp<IHwTarn> service = IHwTarn::getService();
-    if (service == nullptr || manager->createTarnMsgManager() != 0) return nullptr;
+    if (service == nullptr) return nullptr;
+    // On a looper of its own: with a second thread on an earlier collector's, events overtake.
+    manager->removeTarnMsgManager();
+    if (manager->createTarnMsgManager() != 0) return nullptr;
     if (service->isRemote() && !collector->watch(service)) return nullptr;
     return collector;
 }
