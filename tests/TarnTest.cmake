@@ -21,8 +21,11 @@ endfunction()
 # tarn_test_environment(NAME...): what a test must not share with its neighbours or the user.
 function(tarn_test_environment)
   foreach(name IN LISTS ARGN)
+    set(temporary ${CMAKE_CURRENT_BINARY_DIR}/${name}.tmp)
+    file(MAKE_DIRECTORY ${temporary})
     set_property(TEST ${name} PROPERTY ENVIRONMENT
                  "TARN_PROPERTIES_FILE=${CMAKE_CURRENT_BINARY_DIR}/${name}.properties"
+                 "TEST_TMPDIR=${temporary}"
                  "TARN_BOARD="
                  "DBUS_SESSION_BUS_ADDRESS="
                  "XDG_RUNTIME_DIR=")
