@@ -5,7 +5,7 @@
 #include <string>
 
 #include "protocol/Catalog.h"
-#include "tools/tarnctl/registry/Registry.h"
+#include "registry/Registry.h"
 
 using tarn::protocol::Command;
 using tarnctl::Controller;

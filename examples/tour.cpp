@@ -18,9 +18,9 @@
 #include <string>
 #include <vector>
 
-#include "simulator/BoardLoader.h"
 #include "simulator/EmbeddedBoard.h"
-#include "simulator/SimulatedBoard.h"
+#include "simulator/board/SimulatedBoard.h"
+#include "simulator/description/BoardLoader.h"
 
 using android::ITarnManager;
 using android::Parcel;

@@ -31,3 +31,11 @@ function(tarn_test_environment)
                  "XDG_RUNTIME_DIR=")
   endforeach()
 endfunction()
+
+# tarn_unit_tests(CLASS... LIBRARIES target...): a program <Class>Test of <Class>Test.cpp for each.
+function(tarn_unit_tests)
+  cmake_parse_arguments(ARG "" "" "LIBRARIES" ${ARGN})
+  foreach(class IN LISTS ARG_UNPARSED_ARGUMENTS)
+    tarn_test(${class}Test SOURCES ${class}Test.cpp LIBRARIES ${ARG_LIBRARIES})
+  endforeach()
+endfunction()

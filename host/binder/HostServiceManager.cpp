@@ -1,6 +1,6 @@
 #define LOG_TAG "ServiceManager"
 
-#include "HostServiceManager.h"
+#include "host/HostServiceManager.h"
 
 #include <binder/Binder.h>
 #include <binder/IPCThreadState.h>

@@ -8,10 +8,10 @@
 #include <memory>
 #include <thread>
 
-#include "simulator/BoardControl.h"
-#include "simulator/daemon/BoardObject.h"
+#include "simulator/control/BoardControl.h"
+#include "simulator/control/BoardObject.h"
+#include "simulator/control/SessionBus.h"
 #include "simulator/daemon/EndWatch.h"
-#include "simulator/daemon/SessionBus.h"
 
 namespace tarn::simulator {
 

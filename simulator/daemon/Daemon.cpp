@@ -10,10 +10,10 @@
 #include <string>
 #include <system_error>
 
-#include "simulator/BoardLoader.h"
 #include "simulator/EmbeddedBoard.h"
 #include "simulator/daemon/ControlBus.h"
 #include "simulator/daemon/TracedBoard.h"
+#include "simulator/description/BoardLoader.h"
 
 namespace tarn::simulator {
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "simulator/SimulatedBoard.h"
+#include "simulator/board/SimulatedBoard.h"
 
 namespace tarn::simulator {
 

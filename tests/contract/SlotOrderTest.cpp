@@ -13,7 +13,7 @@
 
 #include "core/HwTarnClient.h"
 #include "core/ITarnLooper.h"
-#include "tools/tarnctl/registry/Builder.h"
+#include "registry/Builder.h"
 
 using android::HwTarnClient;
 using android::IHwTarnClient;

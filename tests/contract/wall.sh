@@ -22,7 +22,7 @@ shipped='include log core service protocol modules'
 refuse '#include.*(host/|simulator/|tests/|sdbus-c\+\+|json/)' 'reach over the wall' $shipped
 # The one source of the command line that a host alone has is HostBoard.cpp.
 refuse '#include.*(simulator/|host/|tests/|sdbus-c\+\+)' 'reach over the wall' \
-       --exclude=HostBoard.cpp tools/tarnctl
+       --exclude=HostBoard.cpp tools/tarnctl registry values
 refuse '__ANDROID__' 'ask where they run' $shipped
 refuse '\.string\(\)|sp<[^>]*>::make' 'use what not every Android release has' $shipped
 refuse '#include "(log|core|service|protocol|modules)/' 'show a private header' include

@@ -17,8 +17,8 @@
 #include <thread>
 
 #include "protocol/Commands.h"
-#include "simulator/daemon/BoardInterface.h"
-#include "simulator/daemon/RemoteBoard.h"
+#include "simulator/control/BoardInterface.h"
+#include "simulator/control/RemoteBoard.h"
 #include "tests/process/BoardProcess.h"
 #include "tests/process/ProcessTest.h"
 #include "tests/support/LogCapture.h"

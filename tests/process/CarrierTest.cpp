@@ -16,7 +16,7 @@
 #include <future>
 #include <thread>
 
-#include "host/binder/HostServiceManager.h"
+#include "host/HostServiceManager.h"
 #include "tests/process/Desk.h"
 #include "tests/process/ProcessTest.h"
 

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "host/binder/HostServiceManager.h"
+#include "host/HostServiceManager.h"
 
 namespace tarn::test {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "registry/Registry.h"
 #include "tests/wire/WireFile.h"
-#include "tools/tarnctl/registry/Registry.h"
 
 namespace tarn::test {
 

@@ -1,7 +1,7 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "tools/tarnctl/cli/Run.h"
+#include "tools/tarnctl/Run.h"
 
 int main(int argc, char** argv) {
     const int code = tarnctl::run(std::vector<std::string>(argv + 1, argv + argc),

@@ -11,6 +11,7 @@
 #include <stdexcept>
 
 #include "DBusCarrier.h"
+#include "host/SessionBusAddress.h"
 
 namespace android::host {
 

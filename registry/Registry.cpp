@@ -1,0 +1,44 @@
+#include "registry/Registry.h"
+
+namespace tarnctl {
+
+// One function per controller, in controllers/<Class>.cpp.
+#define COMMAND(name, code, request, reply)
+#define CONTROLLER(name) void register##name(std::vector<Controller>* registry);
+#include "protocol/All.def"
+#undef CONTROLLER
+
+namespace {
+
+std::vector<Controller> registerAll() {
+    std::vector<Controller> registry;
+#define CONTROLLER(name) register##name(&registry);
+#include "protocol/All.def"
+#undef CONTROLLER
+#undef COMMAND
+    return registry;
+}
+
+}  // namespace
+
+const std::vector<Controller>& controllers() {
+    static const std::vector<Controller> registry = registerAll();
+    return registry;
+}
+
+const Controller* findController(const std::string& name) {
+    for (const Controller& controller : controllers()) {
+        if (name == controller.name || name == controller.className) return &controller;
+    }
+    return nullptr;
+}
+
+std::vector<const Method*> findMethods(const Controller& controller, const std::string& name) {
+    std::vector<const Method*> found;
+    for (const Method& method : controller.methods) {
+        if (name == method.name) found.push_back(&method);
+    }
+    return found;
+}
+
+}  // namespace tarnctl

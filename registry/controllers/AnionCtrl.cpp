@@ -1,0 +1,15 @@
+#include <tarn/IAnionCtrl.h>
+
+#include "protocol/Commands.h"
+#include "registry/Builder.h"
+
+using namespace android;
+
+namespace tarnctl {
+
+void registerAnionCtrl(std::vector<Controller>* registry) {
+    Builder<IAnionCtrl>(registry, "anion", "AnionCtrl", &ITarnManager::getAnionCtrl)
+            .method("setAnionStatus", CMD_ANION_SET_STATUS, &IAnionCtrl::setAnionStatus, "status");
+}
+
+}  // namespace tarnctl

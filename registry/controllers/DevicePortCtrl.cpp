@@ -1,0 +1,25 @@
+#include <tarn/IDevicePortCtrl.h>
+
+#include "protocol/Commands.h"
+#include "registry/Builder.h"
+
+using namespace android;
+
+namespace tarnctl {
+
+void registerDevicePortCtrl(std::vector<Controller>* registry) {
+    Builder<IDevicePortCtrl>(registry, "devicePort", "DevicePortCtrl",
+                             &ITarnManager::getDevicePortCtrl)
+            .method("setDevicePortEnabled", CMD_DEVICE_PORT_SET_ENABLED,
+                    &IDevicePortCtrl::setDevicePortEnabled, "port, enabled")
+            .method("getDevicePortEnabled", CMD_DEVICE_PORT_GET_ENABLED,
+                    &IDevicePortCtrl::getDevicePortEnabled, "port")
+            .adapted("getDevicePortList", CMD_DEVICE_PORT_GET_LIST,
+                     &IDevicePortCtrl::getDevicePortList, [](IDevicePortCtrl& ports) {
+                         std::vector<String16> names;
+                         const int result = ports.getDevicePortList(names);
+                         return fields({{"result", toJson(result)}, {"ports", toJson(names)}});
+                     });
+}
+
+}  // namespace tarnctl

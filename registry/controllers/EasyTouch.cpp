@@ -1,0 +1,16 @@
+#include <tarn/IEasyTouch.h>
+
+#include "protocol/Commands.h"
+#include "registry/Builder.h"
+
+using namespace android;
+
+namespace tarnctl {
+
+void registerEasyTouch(std::vector<Controller>* registry) {
+    Builder<IEasyTouch>(registry, "easyTouch", "EasyTouch", &ITarnManager::getEasyTouch)
+            .method("getEasyTouchLogInfo", CMD_EASY_TOUCH_GET_LOG_INFO,
+                    &IEasyTouch::getEasyTouchLogInfo);
+}
+
+}  // namespace tarnctl

@@ -1,0 +1,49 @@
+#include <tarn/IFwUpgrade.h>
+
+#include "protocol/Commands.h"
+#include "registry/Builder.h"
+
+using namespace android;
+
+namespace tarnctl {
+
+template <>
+struct ResultWriter<EntityFwInfoMcu> {
+    static constexpr const char* kType = "MCU firmware";
+    static Json::Value toJson(const EntityFwInfoMcu& mcu) {
+        return fields({{"intField1", mcu.intField1},
+                       {"intField2", mcu.intField2},
+                       {"strField1", mcu.strField1},
+                       {"intField3", mcu.intField3},
+                       {"strField2", mcu.strField2},
+                       {"intField4", mcu.intField4},
+                       {"strField3", mcu.strField3},
+                       {"strField4", mcu.strField4},
+                       {"shortStrField", mcu.shortStrField},
+                       {"intField5", mcu.intField5}});
+    }
+};
+
+void registerFwUpgrade(std::vector<Controller>* registry) {
+    Builder<IFwUpgrade>(registry, "fwUpgrade", "FwUpgrade", &ITarnManager::getFwUpgrade)
+            .method("setFirmwareUpgrade", CMD_FW_SET_UPGRADE, &IFwUpgrade::setFirmwareUpgrade,
+                    "type, path")
+            .method("getMcuBinNameToUp", CMD_FW_GET_MCU_BIN_NAME_TO_UP,
+                    &IFwUpgrade::getMcuBinNameToUp, "type")
+            .method("getFwVersion", CMD_FW_GET_VERSION, &IFwUpgrade::getFwVersion, "type")
+            .method("getFwOtakey", CMD_FW_GET_OTAKEY, &IFwUpgrade::getFwOtakey, "type")
+            .method("getFwInfoTypecList", CMD_FW_GET_INFO_TYPEC_LIST,
+                    &IFwUpgrade::getFwInfoTypecList)
+            .adapted("getFwMcuList", CMD_FW_GET_MCU_LIST, &IFwUpgrade::getFwMcuList,
+                     [](IFwUpgrade& fwUpgrade) {
+                         std::vector<EntityFwInfoMcu> list;
+                         const bool ok = fwUpgrade.getFwMcuList(list);
+                         return fields({{"result", ok}, {"list", toJson(list)}});
+                     })
+            .method("getFwTargetVersion", CMD_FW_GET_TARGET_VERSION,
+                    &IFwUpgrade::getFwTargetVersion, "type")
+            .method("getFwTargetBinPath", CMD_FW_GET_TARGET_BIN_PATH,
+                    &IFwUpgrade::getFwTargetBinPath, "type");
+}
+
+}  // namespace tarnctl

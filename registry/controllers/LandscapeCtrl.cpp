@@ -1,0 +1,18 @@
+#include <tarn/ILandscapeCtrl.h>
+
+#include "protocol/Commands.h"
+#include "registry/Builder.h"
+
+using namespace android;
+
+namespace tarnctl {
+
+void registerLandscapeCtrl(std::vector<Controller>* registry) {
+    Builder<ILandscapeCtrl>(registry, "landscape", "LandscapeCtrl", &ITarnManager::getLandscapeCtrl)
+            .method("setLandscapeAppList", CMD_LANDSCAPE_SET_APP_LIST,
+                    &ILandscapeCtrl::setLandscapeAppList, "apps")
+            .method("getLandscapeAppList", CMD_LANDSCAPE_GET_APP_LIST,
+                    &ILandscapeCtrl::getLandscapeAppList);
+}
+
+}  // namespace tarnctl

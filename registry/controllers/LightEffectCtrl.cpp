@@ -1,0 +1,17 @@
+#include <tarn/ILightEffectCtrl.h>
+
+#include "protocol/Commands.h"
+#include "registry/Builder.h"
+
+using namespace android;
+
+namespace tarnctl {
+
+void registerLightEffectCtrl(std::vector<Controller>* registry) {
+    Builder<ILightEffectCtrl>(registry, "lightEffect", "LightEffectCtrl",
+                              &ITarnManager::getLightEffectCtrl)
+            .method("setLightEffectMode", CMD_LIGHT_EFFECT_SET_MODE,
+                    &ILightEffectCtrl::setLightEffectMode, "device, mode");
+}
+
+}  // namespace tarnctl

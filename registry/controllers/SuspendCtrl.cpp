@@ -1,0 +1,21 @@
+#include <tarn/ISuspendCtrl.h>
+
+#include "protocol/Commands.h"
+#include "registry/Builder.h"
+
+using namespace android;
+
+namespace tarnctl {
+
+void registerSuspendCtrl(std::vector<Controller>* registry) {
+    Builder<ISuspendCtrl>(registry, "suspend", "SuspendCtrl", &ITarnManager::getSuspendCtrl)
+            .method("getSuspendStatus", CMD_SUSPEND_GET_STATUS, &ISuspendCtrl::getSuspendStatus)
+            .method("setSuspendStatus", CMD_SUSPEND_SET_STATUS, &ISuspendCtrl::setSuspendStatus,
+                    "on")
+            .method("getFakeStandyStatus", CMD_SUSPEND_GET_FAKE_STANDBY_STATUS,
+                    &ISuspendCtrl::getFakeStandyStatus)
+            .method("setFakeStandyStatus", CMD_SUSPEND_SET_FAKE_STANDBY_STATUS,
+                    &ISuspendCtrl::setFakeStandyStatus, "on");
+}
+
+}  // namespace tarnctl

@@ -1,0 +1,18 @@
+#include <tarn/IVgaAdjust.h>
+
+#include "protocol/Commands.h"
+#include "registry/Builder.h"
+
+using namespace android;
+
+namespace tarnctl {
+
+void registerVgaAdjust(std::vector<Controller>* registry) {
+    Builder<IVgaAdjust>(registry, "vgaAdjust", "VgaAdjust", &ITarnManager::getVgaAdjust)
+            .method("setvgaAdjustData", CMD_VGA_SET_ADJUST_DATA, &IVgaAdjust::setvgaAdjustData,
+                    "item, value")
+            .method("getvgaAdjustData", CMD_VGA_GET_ADJUST_DATA, &IVgaAdjust::getvgaAdjustData,
+                    "item");
+}
+
+}  // namespace tarnctl

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <hidl/HidlSupport.h>
+#include <utils/StrongPointer.h>
+#include <vendor/zunt/hwtarn/1.0/IHwTarnCallback.h>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+
+#include "simulator/board/Board.h"
+#include "simulator/board/EventDispatcher.h"
+
+namespace tarn::simulator {
+
+/**
+ * Who wants the board's events: one callback a process, each called on a thread of its own, so that
+ * a process that is stopped holds up nobody else. Any thread may call.
+ */
+class EventCallbacks : public std::enable_shared_from_this<EventCallbacks> {
+  public:
+    using IHwTarnCallback = ::vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
+    using Callback = ::android::sp<IHwTarnCallback>;
+
+    /**
+     * Replaces the callback that the process had. It is forgotten when it dies. False, and nothing
+     * is changed, if no thread can be had for it.
+     */
+    bool add(int32_t pid, const Callback& callback);
+
+    /**
+     * Queues an event for every callback, for all of them in the same order. False if too many wait
+     * already for one of them, which loses this one.
+     */
+    bool post(const Event& event);
+
+    size_t size() const;
+
+  private:
+    class Obituary;
+
+    struct Receiver {
+        Callback callback;
+        ::android::sp<::android::hardware::hidl_death_recipient> obituary;
+        std::unique_ptr<EventDispatcher> dispatcher;
+    };
+
+    void drop(int32_t pid, const IHwTarnCallback* dead);
+
+    mutable std::mutex mLock;
+    std::map<int32_t, Receiver> mReceivers;
+};
+
+}  // namespace tarn::simulator

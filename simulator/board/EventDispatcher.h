@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <thread>
+
+#include "simulator/board/Board.h"
+
+namespace tarn::simulator {
+
+/**
+ * Hands events, one at a time and in the order of posting, to a function on a thread of its own:
+ * who raises an event never waits for who receives it, and no lock of the raiser is held meanwhile.
+ */
+class EventDispatcher {
+  public:
+    /** How many events can wait, and how many bytes in them. */
+    static constexpr size_t kMaxPending = 65'536;
+    static constexpr size_t kMaxPendingBytes = 16 << 20;
+
+    /** Throws std::system_error if no thread can be had. */
+    explicit EventDispatcher(std::function<void(const Event&)> deliver);
+
+    /** Waits for the event that is being handed over, if any; those that wait are dropped. */
+    ~EventDispatcher();
+
+    /** Ends without waiting: the event that is being handed over may come to its end later. */
+    void abandon();
+
+    EventDispatcher(const EventDispatcher&) = delete;
+    EventDispatcher& operator=(const EventDispatcher&) = delete;
+
+    /** Queues an event; false if too many wait already, and the event is lost. */
+    bool post(Event event);
+
+  private:
+    struct Queue;
+
+    const std::shared_ptr<Queue> mQueue;  // the thread holds it too
+    std::thread mThread;
+};
+
+}  // namespace tarn::simulator

@@ -1,0 +1,449 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "registry/Arguments.h"
+#include "registry/Parcels.h"
+#include "registry/Results.h"
+#include "tools/tarnctl/board/FaultWords.h"
+#include "tools/tarnctl/catalog/Names.h"
+#include "tools/tarnctl/catalog/PropertyNames.h"
+#include "tools/tarnctl/options/Options.h"
+#include "tools/tarnctl/options/Words.h"
+#include "tools/tarnctl/output/Failure.h"
+#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/verbs/Wire.h"
+
+using namespace tarnctl;
+using std::chrono::milliseconds;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+/** What the refusal says; a test without one fails. */
+std::string refusal(const std::function<void()>& refused) {
+    try {
+        refused();
+    } catch (const Failure& failure) {
+        return std::to_string(failure.code()) + " " + failure.what();
+    } catch (const BadArgument& error) {
+        return error.what();
+    }
+    ADD_FAILURE() << "not refused";
+    return "";
+}
+
+TEST(TarnctlNumbers, AreDecimalOrHexadecimal) {
+    EXPECT_EQ(parseInt("n", "30"), 30);
+    EXPECT_EQ(parseInt("n", "-5"), -5);
+    EXPECT_EQ(parseInt("n", "0x1E"), 30);
+    EXPECT_EQ(parseInt("n", "0X1e"), 30);
+    EXPECT_EQ(parseInt("n", "-0x10"), -16);
+    EXPECT_EQ(parseInt("n", "2147483647"), 2147483647);
+    EXPECT_EQ(parseInt("n", "-2147483648"), -2147483647 - 1);
+    EXPECT_EQ(parseInt("n", "010"), 10);
+    EXPECT_EQ(parseUnsigned("n", "0xffffffff"), 4294967295u);
+}
+
+TEST(TarnctlNumbers, MayBeTheWordOfANegativeOne) {
+    EXPECT_EQ(parseInt("n", "0xffffffff"), -1);
+    EXPECT_EQ(parseInt("n", "0x80000000"), -2147483647 - 1);
+    EXPECT_EQ(parseInt("n", "0x7fffffff"), 2147483647);
+}
+
+TEST(TarnctlNumbers, RefuseWhatIsNoneOrBeyondItsType) {
+    const std::string accepted =
+            "accepted: a number from -2147483648 to 2147483647, decimal or 0x hexadecimal, where "
+            "0xffffffff is -1";
+    for (const std::string text : {"", "x", "30x", " 30", "3 0", "2147483648", "-2147483649", "0x",
+                                   "0x100000000", "1.5", "99999999999999999999", "--5", "0x1g"}) {
+        EXPECT_EQ(refusal([&] { parseInt("volume", text); }),
+                  "volume: \"" + text + "\" can't be used; " + accepted);
+    }
+    for (const std::string text : {"-1", "4294967296", "x"}) {
+        EXPECT_EQ(refusal([&] { parseUnsigned("type", text); }),
+                  "type: \"" + text +
+                          "\" can't be used; accepted: a number from 0 to 4294967295, decimal or "
+                          "0x hexadecimal");
+    }
+}
+
+TEST(TarnctlBooleans, HaveFourSpellings) {
+    for (const char* text : {"true", "on", "yes", "1"}) EXPECT_TRUE(parseBool("on", text));
+    for (const char* text : {"false", "off", "no", "0"}) EXPECT_FALSE(parseBool("on", text));
+    for (const std::string text : {"", "2", "True", "maybe"}) {
+        EXPECT_EQ(refusal([&] { parseBool("on", text); }),
+                  "on: \"" + text +
+                          "\" can't be used; accepted: true or false, on or off, yes or no, 1 or "
+                          "0");
+    }
+}
+
+TEST(TarnctlFloats, RefuseWhatIsNoNumber) {
+    EXPECT_EQ(parseFloat("level", "0.5"), 0.5f);
+    EXPECT_EQ(parseFloat("level", "-2"), -2.0f);
+    EXPECT_EQ(refusal([] { parseFloat("level", "half"); }),
+              "level: \"half\" can't be used; accepted: a number such as 0.5");
+    EXPECT_EQ(refusal([] { parseFloat("level", ""); }),
+              "level: \"\" can't be used; accepted: a number such as 0.5");
+}
+
+TEST(TarnctlFloats, AreInfiniteOnlyWhenTheySaySo) {
+    for (const std::string text : {"1e40", "-1e40"}) {
+        EXPECT_EQ(refusal([&] { parseFloat("level", text); }),
+                  "level: \"" + text +
+                          "\" can't be used; accepted: a number up to 3.4028235e38, or inf");
+    }
+    EXPECT_EQ(parseFloat("level", "3.4028235e38"), 3.4028235e38f);
+    EXPECT_TRUE(std::isinf(parseFloat("level", "inf")));
+    EXPECT_EQ(jsonText(Json::Value(parseFloat("level", "-Infinity")), JsonStyle::kShort), "null");
+}
+
+TEST(TarnctlTexts, AreUtf8) {
+    using android::String16;
+    for (const std::string text : {"", "plain", "\xc3\xa9", "\xe2\x82\xac", "\xf0\x9f\x98\x80",
+                                   "\xed\x9f\xbf", "\xee\x80\x80", "\xf4\x8f\xbf\xbf"}) {
+        EXPECT_EQ(parseText("name", text), text);
+    }
+    for (const std::string text :
+         {"\xff", "a\x80", "\xc3", "\xc3(", "\xc0\xaf", "\xe0\x80\xaf", "\xed\xa0\x80",
+          "\xf0\x80\x80\xaf", "\xf4\x90\x80\x80", "\xf8\x88\x80\x80\x80", "\xe2\x82"}) {
+        const std::string said = "name: the text is not UTF-8";
+        EXPECT_EQ(refusal([&] { ArgumentReader<std::string>::parse("name", text); }), said);
+        EXPECT_EQ(refusal([&] { ArgumentReader<String16>::parse("name", text); }), said);
+        android::Parcel parcel;
+        EXPECT_EQ(refusal([&] { writeValue("s16", text, &parcel); }), "s16: the text is not UTF-8");
+        EXPECT_EQ(parcel.dataSize(), 0u);
+    }
+}
+
+TEST(TarnctlBytes, ArePairsOfHexadecimalDigits) {
+    EXPECT_THAT(parseBytes("data", ""), IsEmpty());
+    EXPECT_THAT(parseBytes("data", "0a0B ff"), ElementsAre(0x0a, 0x0b, 0xff));
+    for (const std::string text : {"0", "0g", "0a0", "0 a"}) {
+        EXPECT_EQ(refusal([&] { parseBytes("data", text); }),
+                  "data: \"" + text + "\" can't be used; accepted: pairs of hexadecimal digits");
+    }
+}
+
+TEST(TarnctlLists, AreSeparatedByCommas) {
+    EXPECT_THAT(splitList(""), IsEmpty());
+    EXPECT_THAT(splitList("a"), ElementsAre("a"));
+    EXPECT_THAT(splitList("a,,b,"), ElementsAre("a", "", "b", ""));
+    EXPECT_THAT(ArgumentReader<std::vector<int>>::parse("values", "1,-2,0x3"),
+                ElementsAre(1, -2, 3));
+    EXPECT_THAT(refusal([] { ArgumentReader<std::vector<int>>::parse("values", "1,x"); }),
+                testing::StartsWith("values: \"x\" can't be used"));
+}
+
+TEST(TarnctlOptions, StandAnywhereBeforeTheDashes) {
+    const CommandLine line = parseCommandLine(
+            {"-q", "call", "audio.setBalance", "--trace", "-5", "--timeout=2.5", "--", "-v"});
+    EXPECT_THAT(line.words, ElementsAre("call", "audio.setBalance", "-5", "-v"));
+    EXPECT_TRUE(line.options.quiet);
+    EXPECT_TRUE(line.options.trace);
+    EXPECT_FALSE(line.options.verbose);
+    EXPECT_EQ(line.options.timeout, milliseconds(2500));
+}
+
+TEST(TarnctlOptions, LeaveNumbersAndALoneDashAlone) {
+    EXPECT_THAT(parseCommandLine({"raw", "-1", "f32", "-.5", "-"}).words,
+                ElementsAre("raw", "-1", "f32", "-.5", "-"));
+}
+
+TEST(TarnctlOptions, ChooseTheStyleOfJson) {
+    EXPECT_EQ(parseCommandLine({}).options.json, JsonStyle::kNone);
+    EXPECT_EQ(parseCommandLine({"-j"}).options.json, JsonStyle::kShort);
+    EXPECT_EQ(parseCommandLine({"--json"}).options.json, JsonStyle::kShort);
+    EXPECT_EQ(parseCommandLine({"--json=short"}).options.json, JsonStyle::kShort);
+    EXPECT_EQ(parseCommandLine({"--json=pretty"}).options.json, JsonStyle::kPretty);
+    EXPECT_EQ(refusal([] { parseCommandLine({"--json=tall"}); }),
+              "2 --json: \"tall\" is neither short nor pretty");
+}
+
+TEST(TarnctlOptions, MayBeLettersInOneWord) {
+    const CommandLine line = parseCommandLine({"monitor", "-qjn3"});
+    EXPECT_TRUE(line.options.quiet);
+    EXPECT_EQ(line.options.json, JsonStyle::kShort);
+    EXPECT_EQ(line.options.count, 3);
+    EXPECT_EQ(parseCommandLine({"monitor", "-n", "4"}).options.count, 4);
+}
+
+TEST(TarnctlOptions, RefuseWhatTheyDontKnow) {
+    const std::string hint = "; put -- before arguments that begin with a dash";
+    EXPECT_EQ(refusal([] {
+                  parseCommandLine({"call", "--trance"});
+              }),
+              "2 no option --trance" + hint);
+    EXPECT_EQ(refusal([] { parseCommandLine({"call", "-x"}); }), "2 no option -x" + hint);
+    EXPECT_EQ(refusal([] { parseCommandLine({"--quiet=yes"}); }), "2 --quiet takes no value");
+    EXPECT_EQ(refusal([] { parseCommandLine({"--timeout"}); }),
+              "2 --timeout needs a value: --timeout SECONDS");
+    EXPECT_EQ(refusal([] {
+                  parseCommandLine({"call", "-k"});
+              }),
+              "2 --keep-going is an option of batch");
+    EXPECT_EQ(refusal([] {
+                  parseCommandLine({"--service", "--board", "b.json"});
+              }),
+              "2 --service and a simulated board exclude each other");
+}
+
+TEST(TarnctlOptions, RefuseAFileWithoutAName) {
+    for (const std::string option : {"--board", "--override"}) {
+        const std::string said = "2 " + option + " needs a file: " + option + " FILE";
+        EXPECT_EQ(refusal([&] { parseCommandLine({option, "", "status"}); }), said);
+        EXPECT_EQ(refusal([&] { parseCommandLine({option + "="}); }), said);
+    }
+}
+
+TEST(TarnctlOptions, AskForQuietEvenWhereTheyCantBeUsed) {
+    EXPECT_TRUE(asksForQuiet({"-q", "--bogus"}));
+    EXPECT_TRUE(asksForQuiet({"--bogus", "--quiet"}));
+    EXPECT_TRUE(asksForQuiet({"call", "-jq"}));
+    EXPECT_FALSE(asksForQuiet({"call", "--", "-q"}));
+    EXPECT_FALSE(asksForQuiet({"--quick", "q", "-"}));
+}
+
+TEST(TarnctlOptions, RefuseValuesThatCantBe) {
+    for (const std::string text : {"", "0", "-1", "soon", "1e9", "nan", "inf", "2s"}) {
+        EXPECT_EQ(refusal([&] { parseCommandLine({"--timeout=" + text}); }),
+                  "2 --timeout: \"" + text +
+                          "\" can't be used; accepted: seconds from 0.001 to 1000000, such as 2.5");
+    }
+    for (const std::string text : {"0", "many"}) {
+        EXPECT_EQ(refusal([&] {
+                      parseCommandLine({"monitor", "--count", text});
+                  }),
+                  "2 --count: \"" + text +
+                          "\" can't be used; accepted: a number from 1 to 2147483647");
+    }
+}
+
+TEST(TarnctlOptions, OfABatchHoldForItsLines) {
+    Options batch;
+    batch.trace = true;
+    EXPECT_TRUE(parseBatchLine({"call"}, batch).options.trace);
+    EXPECT_EQ(parseBatchLine({"call", "-j"}, batch).options.json, JsonStyle::kShort);
+    EXPECT_EQ(refusal([&] {
+                  parseBatchLine({"call", "--board", "b"}, batch);
+              }),
+              "2 --board can't stand on a line of a batch");
+    EXPECT_EQ(refusal([&] {
+                  parseBatchLine({"call", "-v"}, batch);
+              }),
+              "2 --verbose can't stand on a line of a batch");
+}
+
+TEST(TarnctlWords, AreSplitAsAShellDoes) {
+    EXPECT_THAT(splitWords(""), IsEmpty());
+    EXPECT_THAT(splitWords("  call\taudio.setVolume  30\r"),
+                ElementsAre("call", "audio.setVolume", "30"));
+    EXPECT_THAT(splitWords("# all of it"), IsEmpty());
+    EXPECT_THAT(splitWords("a#b # c"), ElementsAre("a#b"));
+    EXPECT_THAT(splitWords(R"('a "b' "c 'd" "e\"f\\g\h" i\ j '')"),
+                ElementsAre("a \"b", "c 'd", "e\"f\\g\\h", "i j", ""));
+    EXPECT_THAT(splitWords("pre'fix'ed"), ElementsAre("prefixed"));
+    EXPECT_THAT(splitWords(R"('a\\b')"), ElementsAre(R"(a\\b)"));
+}
+
+TEST(TarnctlWords, RefuseAnOpenQuote) {
+    EXPECT_EQ(refusal([] { splitWords("call 'audio"); }), "2 a ' is not closed");
+    EXPECT_EQ(refusal([] { splitWords("call \"audio\\\""); }), "2 a \" is not closed");
+}
+
+TEST(TarnctlWords, RefuseABackslashAtTheEnd) {
+    EXPECT_EQ(refusal([] { splitWords("call audio.getVolume \\"); }),
+              "2 a \\ ends the line; a command stands on one line");
+    EXPECT_THAT(splitWords(R"(a\\)"), ElementsAre("a\\"));
+}
+
+TEST(TarnctlWords, RefuseANulByte) {
+    EXPECT_EQ(refusal([] { splitWords(std::string("call\0 x", 7)); }), "2 a NUL byte is no text");
+}
+
+TEST(TarnctlNames, AreSuggestedWhereTheyAreNear) {
+    const Words names{"getVolume", "setVolume", "setAmpMute"};
+    EXPECT_EQ(didYouMean("setVolum", names), "; did you mean setVolume, getVolume?");
+    EXPECT_EQ(didYouMean("SETVOLUME", names), "; did you mean setVolume, getVolume?");
+    EXPECT_EQ(didYouMean("mute", names), "; did you mean setAmpMute?");
+    EXPECT_EQ(didYouMean("xyz", names), "");
+    EXPECT_EQ(didYouMean("", {"pq"}), "");
+    EXPECT_EQ(didYouMean("a", {"pq"}), "");
+    EXPECT_EQ(didYouMean("PQ", {"pq"}), "; did you mean pq?");
+}
+
+TEST(TarnctlProperties, AreGettersAndSetters) {
+    EXPECT_EQ(findAccessors("audio.volume", Access::kGet).methods.at(0)->name, "getVolume");
+    EXPECT_EQ(findAccessors("audio.volume", Access::kSet).methods.at(0)->name, "setVolume");
+    EXPECT_EQ(findAccessors("AudioCtrl.EQMODE", Access::kGet).methods.at(0)->name, "getEQMode");
+    EXPECT_EQ(findAccessors("audio.drc", Access::kGet).methods.at(0)->name, "isDrcEnable");
+    EXPECT_EQ(findAccessors("audio.drcEnable", Access::kSet).methods.at(0)->name, "enableDrc");
+    EXPECT_THAT(findAccessors("audio.nothing", Access::kGet).methods, IsEmpty());
+    EXPECT_THAT(findAccessors("nobody.volume", Access::kGet).methods, IsEmpty());
+    EXPECT_EQ(refusal([] { refuseProperty("volume", Access::kGet); }),
+              "1 no property \"volume\"; one is called CONTROLLER.PROPERTY, such as audio.volume");
+    EXPECT_THAT(refusal([] { refuseProperty("audoi.volume", Access::kGet); }),
+                testing::StartsWith("1 no controller \"audoi\"; did you mean audio"));
+    EXPECT_THAT(refusal([] { refuseProperty("audio.volum", Access::kSet); }),
+                testing::StartsWith("1 no property \"audio.volum\" that can be set; did you mean "
+                                    "audio.volume"));
+}
+
+TEST(TarnctlProperties, AreListedAsTheyCanBeUsed) {
+    const auto listed = [](const std::string& name) {
+        for (const NamedProperty& property : namedProperties()) {
+            if (property.name == name) return property;
+        }
+        return NamedProperty{"none"};
+    };
+    EXPECT_EQ(listed("system.usbSuspend").name, "none");
+    EXPECT_THAT(findAccessors("system.usbSuspend", Access::kSet).methods, IsEmpty());
+    for (const NamedProperty& drc : {listed("audio.drc"), listed("audio.drcEnable")}) {
+        ASSERT_TRUE(drc.getter && drc.setter) << drc.name;
+        EXPECT_EQ(drc.getter->name, "isDrcEnable");
+        EXPECT_EQ(drc.setter->name, "enableDrc");
+    }
+    for (const NamedProperty& property : namedProperties()) {
+        const bool read = !findAccessors(property.name, Access::kGet).methods.empty();
+        const bool written = !findAccessors(property.name, Access::kSet).methods.empty();
+        EXPECT_EQ(read, property.getter != nullptr) << property.name;
+        EXPECT_EQ(written, property.setter != nullptr) << property.name;
+    }
+}
+
+TEST(TarnctlFaults, AreReadFromWords) {
+    const auto read = [](const Words& words) {
+        return jsonText(parseFault(words), JsonStyle::kShort);
+    };
+    EXPECT_EQ(read({"status", "-3"}), R"({"status":-3})");
+    EXPECT_EQ(read({"dead"}), R"({"transport":"dead"})");
+    EXPECT_EQ(read({"error", "every", "2"}), R"({"every":2,"transport":"error"})");
+    EXPECT_EQ(read({"empty"}), R"({"replyBytes":0})");
+    EXPECT_EQ(read({"bytes", "8"}), R"({"replyBytes":8})");
+    EXPECT_EQ(read({"delay", "250", "probability", "0.5", "seed", "7"}),
+              R"({"delayMs":250,"probability":0.5,"seed":7})");
+}
+
+TEST(TarnctlFaults, RefuseWordsThatTheyDontKnow) {
+    EXPECT_EQ(refusal([] { parseFault({}); }), "2 fault: which one? See tarnctl board --help");
+    EXPECT_EQ(refusal([] { parseFault({"broken"}); }),
+              "2 fault: \"broken\" can't be used; accepted: status, dead, error, empty, bytes, "
+              "delay");
+    EXPECT_EQ(refusal([] {
+                  parseFault({"dead", "often"});
+              }),
+              "2 fault: \"often\" can't be used; accepted: every, probability, seed");
+    EXPECT_EQ(refusal([] { parseFault({"status"}); }), "2 fault: status needs a number");
+    EXPECT_THAT(refusal([] {
+                    parseFault({"status", "bad"});
+                }),
+                testing::StartsWith("status: \"bad\" can't be used"));
+}
+
+TEST(TarnctlFaults, RefuseWordsThatContradict) {
+    EXPECT_EQ(refusal([] {
+                  parseFault({"dead", "every", "2", "probability", "0.5"});
+              }),
+              "2 fault: every and probability exclude each other");
+    EXPECT_EQ(refusal([] {
+                  parseFault({"dead", "seed", "3"});
+              }),
+              "2 fault: seed goes with probability only");
+    EXPECT_EQ(refusal([] {
+                  parseFault({"dead", "every", "2", "every", "3"});
+              }),
+              "2 fault: every stands twice");
+}
+
+TEST(TarnctlWire, WritesEveryType) {
+    android::Parcel parcel;
+    writeValue("i32", "-2", &parcel);
+    writeValue("bool", "on", &parcel);
+    writeValue("f32", "0.5", &parcel);
+    writeValue("s16", "ab", &parcel);
+    writeValue("bytes", "0a0b0c", &parcel);
+    EXPECT_EQ(hexOf(parcel),
+              "feffffff"
+              "01000000"
+              "0000003f"
+              "02000000"
+              "61006200"
+              "00000000"
+              "03000000"
+              "0a0b0c00");
+    EXPECT_EQ(refusal([&] { writeValue("i64", "1", &parcel); }),
+              "2 no type \"i64\"; accepted: i32, bool, s16, f32, bytes");
+}
+
+TEST(TarnctlWire, ReadsWhatALayoutSays) {
+    const auto parcel =
+            parcelOf({1, 0, 0, 0, 2, 0,    0, 0, 0x61, 0,    0x62, 0, 0, 0, 0,    0,    2,    0,
+                      0, 0, 0, 0, 0, 0x3f, 0, 0, 0x80, 0x3f, 3,    0, 0, 0, 0x0a, 0x0b, 0x0c, 0});
+    const auto fields = readFields(
+            *parcel, ::tarn::protocol::parseLayout("bool on, s16 name, [f32 level] levels, "
+                                                   "bytes data"));
+    ASSERT_TRUE(fields);
+    EXPECT_EQ(jsonText(*fields, JsonStyle::kShort),
+              R"({"data":"0a0b0c","levels":[{"level":0.5},{"level":1.0}],"name":"ab","on":true})");
+}
+
+TEST(TarnctlWire, ReadsNothingFromBytesThatDontFit) {
+    const auto read = [](const std::vector<uint8_t>& bytes, const char* layout) {
+        return readFields(*parcelOf(bytes), ::tarn::protocol::parseLayout(layout)).has_value();
+    };
+    EXPECT_FALSE(read({1, 0, 0}, "i32 a"));
+    EXPECT_FALSE(read({1, 0, 0, 0, 2, 0, 0, 0}, "i32 a"));
+    EXPECT_FALSE(read({0xff, 0xff, 0xff, 0x7f, 1, 0, 0, 0}, "[i32 a] list"));
+    EXPECT_FALSE(read({0xff, 0xff, 0xff, 0xff}, "[i32 a] list"));
+    EXPECT_FALSE(read({0xff, 0xff, 0xff, 0x7f, 1, 0, 0, 0}, "bytes b"));
+    EXPECT_FALSE(read({0xff, 0xff, 0xff, 0x7f, 1, 0, 0, 0}, "s16 t"));
+}
+
+TEST(TarnctlText, ShowsRecordsAndLists) {
+    Json::Value inner(Json::objectValue);
+    inner["name"] = "a";
+    inner["levels"].append(1);
+    inner["levels"].append(2);
+    Json::Value value(Json::objectValue);
+    value["data"] = Json::Value(Json::arrayValue);
+    value["list"].append(inner);
+    value["result"] = true;
+    EXPECT_THAT(plainLines(value), ElementsAre("result: true", "data: []",
+                                               "list:", "  - levels: [1, 2]", "    name: a"));
+    EXPECT_THAT(plainLines(value["list"][0]["levels"]), ElementsAre("1", "2"));
+    EXPECT_THAT(plainLines(Json::Value()), ElementsAre("null"));
+}
+
+TEST(TarnctlText, ShowsRecordsInTheirOrder) {
+    const Json::Value record =
+            fields({{"item1", 1}, {"item2", 2}, {"item10", 3}, {"flag", true}, {"result", 0}});
+    EXPECT_THAT(plainLines(record),
+                ElementsAre("result: 0", "item1: 1", "item2: 2", "item10: 3", "flag: true"));
+    Json::Value list(Json::arrayValue);
+    list.append(record);
+    const Json::Value copy = list;
+    EXPECT_THAT(plainLines(copy[0]), testing::ElementsAreArray(plainLines(record)));
+}
+
+TEST(TarnctlText, ShowsFloatsWithTheDigitsTheyHave) {
+    EXPECT_THAT(plainLines(Json::Value(0.1f)), ElementsAre("0.1"));
+    EXPECT_EQ(jsonText(Json::Value(0.1f), JsonStyle::kShort), "0.1");
+    EXPECT_EQ(jsonText(Json::Value(16777.217f), JsonStyle::kShort), "16777.217");
+}
+
+TEST(TarnctlText, ShowsBytesAsWords) {
+    EXPECT_EQ(hexWords({}), "");
+    EXPECT_EQ(hexWords({2, 0x14, 0, 0, 0x1e, 0}), "02140000 1e00");
+    EXPECT_EQ(hexCode(0x1402), "0x1402");
+    EXPECT_EQ(hexCode(9), "0x0009");
+}
+
+}  // namespace

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <json/value.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "tools/tarnctl/options/Options.h"
+
+namespace tarnctl {
+
+/**
+ * A result as a person reads it, a line each: a list of plain values one below the other, a record
+ * as "name: value" with its lists and records below, indented.
+ */
+std::vector<std::string> plainLines(const Json::Value& value);
+
+/** A result as one JSON document; short is a single line. */
+std::string jsonText(const Json::Value& value, JsonStyle style);
+
+/** Bytes as hexadecimal pairs, a blank after every fourth. */
+std::string hexWords(const std::vector<uint8_t>& bytes);
+
+/** "0x1402" */
+std::string hexCode(uint32_t code);
+
+/** The texts with this between them. */
+std::string joined(const std::vector<std::string>& texts, const std::string& separator);
+
+}  // namespace tarnctl

@@ -1,0 +1,40 @@
+#include "tools/tarnctl/verbs/MethodCall.h"
+
+#include "registry/Arguments.h"
+#include "registry/Parcels.h"
+#include "registry/Results.h"
+#include "tools/tarnctl/verbs/Invocation.h"
+#include "tools/tarnctl/verbs/Wire.h"
+
+namespace tarnctl {
+
+namespace {
+
+/** The result with the fields that its data holds in the data's place, if it is as the layout says.
+ */
+Json::Value decoded(const Json::Value& result, const ::tarn::protocol::Command& command) {
+    const auto data = parcelOf(parseBytes("data", result["data"].asString()));
+    const auto read = readFields(*data, command.replyLayout());
+    if (!read) return result;
+    Json::Value record(Json::objectValue);
+    for (const std::string& name : fieldNames(result)) {
+        if (name != "data") appendField(&record, name, result[name]);
+    }
+    for (const std::string& name : fieldNames(*read)) appendField(&record, name, (*read)[name]);
+    return record;
+}
+
+}  // namespace
+
+int callMethod(Context& context, const Target& target, const std::vector<std::string>& values) {
+    const Method& method = requireOverload(target, values.size());
+    method.call(nullptr, values);
+    return invoke(context,
+                  [&method, controller = target.controller, values](TracingManager& manager) {
+                      const Json::Value result = method.call(&manager, values);
+                      if (!method.undecoded) return result;
+                      return decoded(result, *commandsOf(*controller, method).front());
+                  });
+}
+
+}  // namespace tarnctl

@@ -1,0 +1,82 @@
+#include <chrono>
+#include <optional>
+
+#include "tools/tarnctl/output/Failure.h"
+#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/verbs/Commands.h"
+
+namespace tarnctl {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+void print(Context& context, const BoardEvent& event) {
+    if (context.output.isJson()) {
+        Json::Value json(Json::objectValue);
+        json["type"] = event.type;
+        json["size"] = static_cast<Json::UInt>(event.data.size());
+        json["data"] = hexWords(event.data);
+        context.output.result(json);
+    } else {
+        const std::string data = event.data.empty() ? "" : " " + hexWords(event.data);
+        context.output.lines({"event " + hexCode(event.type) + " size " +
+                              std::to_string(event.data.size()) + data});
+    }
+}
+
+/** The time that is left, rounded up; nothing without a limit. */
+std::optional<std::chrono::milliseconds> remaining(
+        const std::optional<Clock::time_point>& deadline) {
+    if (!deadline) return std::nullopt;
+    return std::chrono::ceil<std::chrono::milliseconds>(
+            std::max(*deadline - Clock::now(), Clock::duration::zero()));
+}
+
+int watch(Context& context, EventCollector& events, const EndSignals& signals) {
+    std::optional<Clock::time_point> deadline;
+    if (context.options.timeout) deadline = Clock::now() + *context.options.timeout;
+    int32_t seen = 0;
+    while (signals.received() == 0) {
+        if (const std::optional<BoardEvent> event = events.next()) {
+            print(context, *event);
+            if (++seen == context.options.count) return kDone;
+            continue;
+        }
+        if (events.serviceDied()) throw Failure(kUnreachable, "the service died");
+        if (deadline && Clock::now() >= *deadline) {
+            if (!context.options.count) return kDone;
+            throw Failure(kUnreachable, "only " + std::to_string(seen) + " of " +
+                                                std::to_string(*context.options.count) +
+                                                " events came in time");
+        }
+        events.wakeup().wait(remaining(deadline));
+    }
+    if (!context.inBatch && !context.options.count) return kDone;
+    context.diagnostics.note("interrupted");
+    return kInterrupted + signals.received();
+}
+
+int runMonitor(Context& context, const Arguments& arguments) {
+    requireCount(kMonitorCommand, arguments, 0, 0);
+    EventCollector& events = context.session.events();
+    const EndSignals signals(events.wakeup());
+    context.diagnostics.note("waiting for events");
+    return watch(context, events, signals);
+}
+
+}  // namespace
+
+const CommandDescription kMonitorCommand = {
+        "monitor", "[--count N]", "print events as they come",
+        R"(Prints an event a line: its type, the number of its bytes as a listener gets them, which
+is filled up to whole words, and the words; with --json an object a line.
+
+Ends on SIGINT and SIGTERM, after --count events, or after --timeout seconds. With --count
+fewer events are an error: the exit code is 4 when the time is over, 130 on SIGINT and 143 on
+SIGTERM. Within a batch a signal ends the batch, with these codes.
+
+Within a batch, events are collected from the first command that talks to the service.)",
+        runMonitor};
+
+}  // namespace tarnctl

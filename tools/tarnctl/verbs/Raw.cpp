@@ -1,0 +1,84 @@
+#include <binder/Parcel.h>
+
+#include "registry/Results.h"
+#include "tools/tarnctl/catalog/Lookup.h"
+#include "tools/tarnctl/output/Failure.h"
+#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Invocation.h"
+#include "tools/tarnctl/verbs/Wire.h"
+
+namespace tarnctl {
+
+using android::Parcel;
+using ::tarn::protocol::Command;
+
+namespace {
+
+/** The rows that the reply may follow: none of a code that nobody knows. */
+std::vector<const Command*> knownRows(const std::string& nameOrCode, int32_t code) {
+    if (const Command* command = ::tarn::protocol::findCommand(nameOrCode)) return {command};
+    return ::tarn::protocol::findCommands(code);
+}
+
+/** The request's arguments; kept as bytes, since parcels can't be copied. */
+std::vector<uint8_t> buildRequest(int32_t code, const Arguments& typesAndValues) {
+    Parcel request;
+    request.writeInt32(code);
+    for (size_t i = 0; i + 1 < typesAndValues.size(); i += 2) {
+        writeValue(typesAndValues[i], typesAndValues[i + 1], &request);
+    }
+    return std::vector<uint8_t>(request.data(), request.data() + request.dataSize());
+}
+
+Json::Value exchange(TracingManager& manager, const std::vector<uint8_t>& bytes,
+                     const std::vector<const Command*>& rows) {
+    Parcel request;
+    request.setData(bytes.data(), bytes.size());
+    Parcel reply;
+    const int status = manager.invoke(request, &reply);
+    std::vector<uint8_t> words;
+    if (reply.dataSize() > 0) words.assign(reply.data(), reply.data() + reply.dataSize());
+    Json::Value result(Json::objectValue);
+    // What the manager makes of a reply without a status is its own.
+    appendField(&result, "status",
+                words.size() < sizeof(int32_t) ? Json::Value() : Json::Value(status));
+    appendField(&result, "reply", hexWords(words));
+    for (const Command* row : rows) {
+        reply.setDataPosition(sizeof(int32_t));
+        const auto fields = readFields(reply, row->replyLayout());
+        if (!fields || fields->empty()) continue;
+        appendField(&result, "fields", *fields);
+        break;
+    }
+    return result;
+}
+
+int runRaw(Context& context, const Arguments& arguments) {
+    if (arguments.empty()) requireCount(kRawCommand, arguments, 1, 1);
+    const int32_t code = requireCode(arguments[0]);
+    const Arguments typesAndValues(arguments.begin() + 1, arguments.end());
+    if (typesAndValues.size() % 2 != 0) {
+        throw Failure(kBadUsage, "\"" + typesAndValues.back() + "\" stands alone; a value is " +
+                                         "given as TYPE VALUE, with TYPE one of " +
+                                         joined(wireTypes(), ", "));
+    }
+    const std::vector<uint8_t> request = buildRequest(code, typesAndValues);
+    const std::vector<const Command*> rows = knownRows(arguments[0], code);
+    return invoke(context, [request, rows](TracingManager& manager) {
+        return exchange(manager, request, rows);
+    });
+}
+
+}  // namespace
+
+const CommandDescription kRawCommand = {
+        "raw", "CODE|CMD_NAME [TYPE VALUE]...", "send a command word by word",
+        R"(Sends the code and the values as they are, known or not: no check against the layout.
+TYPE is i32, bool, s16, f32 or bytes (an int32 length, then the bytes). Prints the status,
+null if the reply has none, the reply's words as they stand in memory (little-endian), and
+its fields where the reply is as the command's layout says. The words of a reply or of
+--trace read as numbers once their bytes are turned round: 0100ffff is 0xffff0001.)",
+        runRaw};
+
+}  // namespace tarnctl

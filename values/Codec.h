@@ -1,0 +1,24 @@
+#pragma once
+
+#include <binder/Parcel.h>
+
+#include <optional>
+
+#include "protocol/Layout.h"
+#include "values/Value.h"
+
+namespace tarn::simulator {
+
+/**
+ * Reads the fields of a layout from the parcel's position to its very end. Nothing if a field is
+ * missing, cut or malformed, or if anything is left over.
+ */
+std::optional<Record> decode(const android::Parcel& parcel, const protocol::Layout& layout);
+
+/** Appends one value. */
+void encode(const Value& value, android::Parcel* parcel);
+
+/** Everything that the parcel holds. */
+Bytes bytesOf(const android::Parcel& parcel);
+
+}  // namespace tarn::simulator
