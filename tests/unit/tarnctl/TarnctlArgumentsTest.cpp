@@ -10,12 +10,12 @@
 #include "registry/Parcels.h"
 #include "registry/Results.h"
 #include "tools/tarnctl/board/FaultWords.h"
-#include "tools/tarnctl/catalog/Names.h"
+#include "tools/tarnctl/catalog/NearNames.h"
 #include "tools/tarnctl/catalog/PropertyNames.h"
+#include "tools/tarnctl/options/LineWords.h"
 #include "tools/tarnctl/options/Options.h"
-#include "tools/tarnctl/options/Words.h"
 #include "tools/tarnctl/output/Failure.h"
-#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/output/Format.h"
 #include "tools/tarnctl/verbs/Wire.h"
 
 using namespace tarnctl;

@@ -4,7 +4,7 @@
 
 #include "registry/Arguments.h"
 #include "registry/Registry.h"
-#include "tools/tarnctl/catalog/Names.h"
+#include "tools/tarnctl/catalog/NearNames.h"
 #include "tools/tarnctl/output/Failure.h"
 
 namespace tarnctl {

@@ -2,7 +2,7 @@
 
 #include "registry/Arguments.h"
 #include "tools/tarnctl/output/Failure.h"
-#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/output/Format.h"
 
 namespace tarnctl {
 

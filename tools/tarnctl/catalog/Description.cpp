@@ -1,7 +1,7 @@
 #include "tools/tarnctl/catalog/Description.h"
 
 #include "tools/tarnctl/catalog/Lookup.h"
-#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/output/Format.h"
 
 namespace tarnctl {
 

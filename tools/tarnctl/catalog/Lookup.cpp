@@ -3,9 +3,9 @@
 #include <cctype>
 
 #include "registry/Arguments.h"
-#include "tools/tarnctl/catalog/Names.h"
+#include "tools/tarnctl/catalog/NearNames.h"
 #include "tools/tarnctl/output/Failure.h"
-#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/output/Format.h"
 
 namespace tarnctl {
 

@@ -4,7 +4,7 @@
 #include <cctype>
 #include <optional>
 
-#include "tools/tarnctl/catalog/Names.h"
+#include "tools/tarnctl/catalog/NearNames.h"
 #include "tools/tarnctl/output/Failure.h"
 
 namespace tarnctl {

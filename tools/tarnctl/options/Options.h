@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-namespace tarnctl {
+#include "tools/tarnctl/output/JsonStyle.h"
 
-enum class JsonStyle { kNone, kShort, kPretty };
+namespace tarnctl {
 
 /** What the options say. */
 struct Options {

@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "tools/tarnctl/output/Failure.h"
-#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/output/Format.h"
 
 namespace tarnctl {
 

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "tools/tarnctl/options/Options.h"
+#include "tools/tarnctl/output/JsonStyle.h"
 
 namespace tarnctl {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/output/Format.h"
 
 namespace tarnctl {
 

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <iostream>
 
-#include "tools/tarnctl/options/Words.h"
+#include "tools/tarnctl/options/LineWords.h"
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/output/Guard.h"
 #include "tools/tarnctl/verbs/Commands.h"

@@ -6,9 +6,9 @@
 #include "tools/tarnctl/board/BoardAccess.h"
 #include "tools/tarnctl/board/FaultWords.h"
 #include "tools/tarnctl/catalog/Lookup.h"
-#include "tools/tarnctl/catalog/Names.h"
+#include "tools/tarnctl/catalog/NearNames.h"
 #include "tools/tarnctl/output/Failure.h"
-#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/output/Format.h"
 #include "tools/tarnctl/verbs/Commands.h"
 
 namespace tarnctl {

@@ -1,6 +1,6 @@
 #include "tools/tarnctl/verbs/Commands.h"
 
-#include "tools/tarnctl/catalog/Names.h"
+#include "tools/tarnctl/catalog/NearNames.h"
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/output/Guard.h"
 #include "tools/tarnctl/verbs/Help.h"

@@ -1,6 +1,6 @@
 #include "tools/tarnctl/catalog/Description.h"
 #include "tools/tarnctl/catalog/Lookup.h"
-#include "tools/tarnctl/catalog/Names.h"
+#include "tools/tarnctl/catalog/NearNames.h"
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/verbs/Commands.h"
 

@@ -2,7 +2,7 @@
 #include <optional>
 
 #include "tools/tarnctl/output/Failure.h"
-#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/output/Format.h"
 #include "tools/tarnctl/verbs/Commands.h"
 
 namespace tarnctl {

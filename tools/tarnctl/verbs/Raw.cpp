@@ -3,7 +3,7 @@
 #include "registry/Results.h"
 #include "tools/tarnctl/catalog/Lookup.h"
 #include "tools/tarnctl/output/Failure.h"
-#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/output/Format.h"
 #include "tools/tarnctl/verbs/Commands.h"
 #include "tools/tarnctl/verbs/Invocation.h"
 #include "tools/tarnctl/verbs/Wire.h"

@@ -1,10 +1,10 @@
-#include "tools/tarnctl/catalog/Names.h"
+#include "tools/tarnctl/catalog/NearNames.h"
 
 #include <algorithm>
 #include <cctype>
 #include <utility>
 
-#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/output/Format.h"
 
 namespace tarnctl {
 

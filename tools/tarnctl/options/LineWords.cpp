@@ -1,4 +1,4 @@
-#include "tools/tarnctl/options/Words.h"
+#include "tools/tarnctl/options/LineWords.h"
 
 #include "tools/tarnctl/output/Failure.h"
 

@@ -1,4 +1,4 @@
-#include "tools/tarnctl/output/Text.h"
+#include "tools/tarnctl/output/Format.h"
 
 #include <json/writer.h>
 

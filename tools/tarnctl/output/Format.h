@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tools/tarnctl/options/Options.h"
+#include "tools/tarnctl/output/JsonStyle.h"
 
 namespace tarnctl {
 
