@@ -1,6 +1,7 @@
 #pragma once
 
-// The interfaces of all controllers, for programs that use many of them.
+// The interfaces of all 47 controllers, for programs that use many of them. Each can be included
+// alone, and what all have in common is said in <tarn/ITarnManager.h>.
 #include <tarn/IAiNoiseCtrl.h>
 #include <tarn/IAnionCtrl.h>
 #include <tarn/IAoipCtrl.h>

@@ -12,9 +12,10 @@ class HwTarnClient;
 
 /**
  * The manager: owns the transport and the controllers, and turns a command's arguments into a
- * request and its reply into a result.
+ * request and its reply into a result. ITarnManager says what its operations do.
  *
- * A derived manager may override invoke() to see, record or answer every command.
+ * A derived manager may override invoke() to see, record or answer every command. A controller and
+ * its manager hold each other: once an accessor has been called, the manager is never destroyed.
  */
 class TarnManager : virtual public ITarnManager {
   public:
@@ -85,8 +86,9 @@ class TarnManager : virtual public ITarnManager {
     int removeTarnMsgManager() override;
 
     /**
-     * The command family: sends cmd and the arguments in their order through invoke().
-     * A status of -1 is the one failure; every other status is a success.
+     * The command family: sends cmd and the arguments in their order through invoke(). Any thread
+     * may call; a call blocks until the service has answered. A status of -1 is the one failure;
+     * every other status is a success. What a reply lacks reads as 0, false or empty.
      *
      * Int returns the status, or -1.
      */
@@ -98,7 +100,7 @@ class TarnManager : virtual public ITarnManager {
     int exeCmdSet_Int(int cmd, int a, int b, int c);
     int exeCmdSet_Int(int cmd, const Parcel& args);
 
-    /** Bool returns the boolean behind the status, or false. */
+    /** Bool returns the boolean behind the status (any number but 0 is true), or false. */
     bool exeCmdSet_Bool(int cmd);
     bool exeCmdSet_Bool(int cmd, int a);
     bool exeCmdSet_Bool(int cmd, bool b);
@@ -110,9 +112,9 @@ class TarnManager : virtual public ITarnManager {
     std::string exeCmdSet_Str(int cmd, int a);
 
     /**
-     * Parcel returns 0 and replaces out's contents with what follows the status, or returns -1
-     * and leaves out alone. A reply without even a status leaves out alone too and returns 0.
-     * A null out discards the reply.
+     * Parcel replaces out's contents with what follows the status, at position 0, and returns 0 for
+     * every status but -1; on a failure it returns -1 and leaves out alone. A reply without even a
+     * status leaves out alone too and returns 0. A null out discards the reply.
      */
     int exeCmdSet_Parcel(int cmd, Parcel* out);
     int exeCmdSet_Parcel(int cmd, const Parcel& args, Parcel* out);
@@ -120,13 +122,16 @@ class TarnManager : virtual public ITarnManager {
     int exeCmdSet_Parcel(int cmd, int a, int b, Parcel* out);
 
     /**
-     * Array sends the count and the values and returns the status, or -1. With no values (null,
-     * or count below 1) it sends nothing and returns 0.
+     * Array sends the count and the values and returns the status, or -1; what follows the status
+     * is discarded. With no values (null, or count below 1) it sends nothing and returns 0.
      */
     int exeCmdSet_Array(int cmd, int* values, int count);
 
   protected:
-    /** A manager on a transport of the caller's, or on none: every command then fails. */
+    /**
+     * A manager on a transport of the caller's, or on none (null): then every command fails and the
+     * operations for events return -1, those for listeners 0, all without a log line.
+     */
     explicit TarnManager(const sp<HwTarnClient>& client);
 
   private:

@@ -4,7 +4,7 @@
 
 namespace android {
 
-/** An input source of the panel; the values are the service's. */
+/** An input source of the panel; values are service-defined. */
 enum _TarnEnumInputSourceId_ : int32_t {};
 
 }  // namespace android
