@@ -5,16 +5,17 @@
 namespace android {
 
 /**
- * The level of the AI noise suppression, on the service's scale.
+ * The level of the AI noise suppression, on a service-defined scale.
  *
- * Every call blocks for one exchange with the service; any thread may call.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns what its method says and logs an error line.
  */
 class IAiNoiseCtrl : public virtual RefBase {
   public:
-    /** Sets the level. Mind the sense: false when the command was done, true when it failed. */
+    /** Passes level on unchecked. Inverted: false when done, true when the call failed. */
     virtual bool setAiNoise(float level) = 0;
 
-    /** Returns the level, 0 when the command failed. */
+    /** The level, or 0 when the call failed, which can't be told from a level of 0. */
     virtual float getAiNoise() = 0;
 
     virtual ~IAiNoiseCtrl() = default;

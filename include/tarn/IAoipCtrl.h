@@ -8,40 +8,41 @@ namespace android {
 /**
  * The audio-over-IP unit: calls, volume, firmware and link.
  *
- * Every call blocks for one exchange with the service; any thread may call. Arguments are not
- * checked: call states and volumes are service-defined. An int result is the service's status
- * word, -1 when the command failed.
+ * Calls block until the service has answered; any thread may call. An int result is the service's
+ * status word, or -1 when the call failed (see ITarnManager). Arguments are passed on unchecked.
  */
 class IAoipCtrl : public virtual RefBase {
   public:
-    /** Tells the unit the state of the call. */
+    /** Tells the unit the state of the call, a service-defined number. */
     virtual int setCallStatus(int status) = 0;
 
-    /** Sets the unit's volume. */
+    /** Sets the unit's volume, on a service-defined scale. */
     virtual int setVolume(int volume) = 0;
 
-    /** Raises the unit's volume by one step. */
+    /** Raises the unit's volume by a service-defined step. */
     virtual int volumeUp() = 0;
 
-    /** Lowers the unit's volume by one step. */
+    /** Lowers the unit's volume by a service-defined step. */
     virtual int volumeDown() = 0;
 
-    /** Mutes the unit. */
+    /** Mutes the unit; unmute() undoes it. */
     virtual int mute() = 0;
 
-    /** Unmutes the unit. */
+    /** Undoes mute(). */
     virtual int unmute() = 0;
 
-    /** Asks the unit to list its devices. Always returns "{}"; the list is not read back. */
+    /**
+     * Sends its command, but reads no list back: always returns "{}", also when the call failed.
+     */
     virtual String16 listDevices() = 0;
 
-    /** Upgrades the unit's firmware; both texts are passed on unchanged, in this order. */
+    /** Upgrades the unit's firmware; the meaning of both texts is service-defined. */
     virtual int upgradeFirmware(const String16& first, const String16& second) = 0;
 
-    /** Returns the status of the unit's link. */
+    /** State of the unit's link, a service-defined number. */
     virtual int getLocalStatus() = 0;
 
-    /** Runs the unit's AT test. */
+    /** Runs the unit's AT test; the result is a service-defined number. */
     virtual int testAT() = 0;
 
     virtual ~IAoipCtrl() = default;

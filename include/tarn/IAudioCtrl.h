@@ -7,190 +7,192 @@
 
 namespace android {
 
-/** One loudspeaker channel; the values are the service's. */
+/** One loudspeaker channel; values are service-defined. */
 enum _EnumChannelType_ : int32_t {};
 
 /**
  * The board's sound: volume, equaliser, routing, microphone and sound-card switches.
  *
- * Every call blocks for one exchange with the service; any thread may call. Arguments are not
- * checked: scales, modes and indices are service-defined. An int result is the service's status
- * word, -1 when the command failed; a bool result is false when the command failed.
+ * Commands block until the service has answered; any thread may call. A failed call (see
+ * ITarnManager) returns -1 or false, unless noted. An int result is the service's status word: a
+ * getter's value or a setter's outcome; a bool result is the service's answer. A value of -1 can't
+ * be told from a failure. Arguments are passed on unchecked. Scales, modes and the numbers of
+ * bands, amplifiers and outputs are service-defined.
  */
 class IAudioCtrl : public virtual RefBase {
   public:
-    /** Returns the master volume. */
+    /** Master volume, on a service-defined scale. */
     virtual int getVolume() = 0;
 
-    /** Sets the master volume. */
+    /** Sets the master volume, on a service-defined scale. */
     virtual int setVolume(int volume) = 0;
 
-    /** Returns the equaliser mode. */
+    /** Equaliser mode, service-defined. */
     virtual int getEQMode() = 0;
 
-    /** Sets the equaliser mode. */
+    /** Sets the equaliser mode, service-defined. */
     virtual int setEQMode(int mode) = 0;
 
-    /** Sets one user equaliser band of the DSP. */
+    /** Sets one user equaliser band of the DSP; band numbers and values are service-defined. */
     virtual int setDspUserEqParam(int band, int value) = 0;
 
-    /** Returns one user equaliser band of the DSP. */
+    /** Value of one user equaliser band of the DSP, on a service-defined scale. */
     virtual int getDspUserEqParam(int band) = 0;
 
-    /** Tells whether the amplifier's I2C bus is handed over to the SoC. */
+    /** True when the SoC has the amplifier's I2C bus. */
     virtual bool isI2cSwitchToSoc() = 0;
 
-    /** Hands the amplifier's I2C bus over to the SoC, or back; true when the service says so. */
+    /** Hands the amplifier's I2C bus over to the SoC (true) or back (false). */
     virtual bool enableI2cSwitchToSoc(bool on) = 0;
 
-    /** Returns the mute state of one amplifier. */
+    /** Mute state of one amplifier, service-defined. */
     virtual int getAmpMute(int amplifier) = 0;
 
-    /** Mutes or unmutes one amplifier. */
+    /** Sets the mute state of one amplifier; mute is a service-defined number. */
     virtual int setAmpMute(int amplifier, int mute) = 0;
 
-    /** Returns the switch state of the amplifier's dynamic range control. */
+    /** Switch state of the amplifier's dynamic range control: -1 is a failure, not on. */
     virtual int isDrcEnable() = 0;
 
-    /** Switches the amplifier's dynamic range control. */
+    /** Switches the amplifier's dynamic range control on or off. */
     virtual int enableDrc(bool on) = 0;
 
-    /** Returns the switch state of the SoC's dynamic range control. */
+    /** As isDrcEnable(), of the SoC's dynamic range control. */
     virtual int isSocDrcEnable() = 0;
 
-    /** Switches the SoC's dynamic range control. */
+    /** Switches the SoC's dynamic range control on or off. */
     virtual int enableSocDrc(bool on) = 0;
 
-    /** Tells whether an OTG sound card is present. */
+    /** True when an OTG sound card is present. */
     virtual bool isExistOTGCard() = 0;
 
-    /** Returns the left-right balance. */
+    /** Left-right balance, on a service-defined scale. */
     virtual int getBalance() = 0;
 
-    /** Sets the left-right balance. */
+    /** Sets the left-right balance, on a service-defined scale. */
     virtual int setBalance(int balance) = 0;
 
-    /** Returns the treble level. */
+    /** Treble level, on a service-defined scale. */
     virtual int getTreble() = 0;
 
-    /** Sets the treble level. */
+    /** Sets the treble level, on a service-defined scale. */
     virtual int setTreble(int treble) = 0;
 
-    /** Returns the bass level. */
+    /** Bass level, on a service-defined scale. */
     virtual int getBass() = 0;
 
-    /** Sets the bass level. */
+    /** Sets the bass level, on a service-defined scale. */
     virtual int setBass(int bass) = 0;
 
-    /** Returns the output mode. */
+    /** Output mode, service-defined. */
     virtual int getAudioOutMode() = 0;
 
-    /** Sets the output mode. */
+    /** Sets the output mode, service-defined. */
     virtual int setAudioOutMode(int mode) = 0;
 
-    /** Returns the sound mode. */
+    /** Sound mode, service-defined. */
     virtual int getSoundMode() = 0;
 
-    /** Sets the sound mode. */
+    /** Sets the sound mode, service-defined. */
     virtual int setSoundMode(int mode) = 0;
 
-    /** Tells whether automatic echo cancellation is on. */
+    /** True when automatic echo cancellation is on. */
     virtual bool getAutomaticEchoCancel() = 0;
 
-    /** Switches automatic echo cancellation. */
+    /** Switches automatic echo cancellation on or off. */
     virtual int setAutomaticEchoCancel(bool on) = 0;
 
-    /** Returns the meeting speaker's volume mode. */
+    /** Volume mode of the meeting speaker, service-defined. */
     virtual int getMeetSpkVolMode() = 0;
 
-    /** Sets the meeting speaker's volume mode. */
+    /** Sets the volume mode of the meeting speaker, service-defined. */
     virtual int setMeetSpkVolMode(int mode) = 0;
 
-    /** Switches the line output; the number is passed on unchanged. */
+    /** Switches the line output; enabled is a service-defined number. */
     virtual bool setAudioLineOutEnabled(int enabled) = 0;
 
-    /** Switches the internal audio path; the number is passed on unchanged. */
+    /** Switches the internal audio path; enabled is a service-defined number. */
     virtual bool setAudioPathInternalEnabled(int enabled) = 0;
 
-    /** Switches the S/PDIF output; the number is passed on unchanged. */
+    /** Switches the S/PDIF output; enabled is a service-defined number. */
     virtual bool setSPDIFOutEnabled(int enabled) = 0;
 
-    /** Tells whether a microphone is available. */
+    /** True when a microphone is available. The name is spelt so. */
     virtual bool isMicrophoneAvaliable() = 0;
 
-    /** Returns the service's flag for an OPS 5K source. */
+    /** The service's flag for an OPS 5K source. */
     virtual bool isOps5kSource() = 0;
 
-    /** Tells whether the OTG microphone is on. */
+    /** True when the OTG microphone is on. */
     virtual bool getOtgMicState() = 0;
 
-    /** Switches the OTG microphone; true when the service says so. */
+    /** Switches the OTG microphone on or off. */
     virtual bool setOtgMicState(bool on) = 0;
 
     /**
-     * Posts an event towards the service through the manager; no command is sent.
-     * Returns what ITarnManager::postEvent() returns.
+     * Sends no command, but posts an event towards the service; event is service-defined. As
+     * ITarnManager::postEvent(), whose result it returns: 0 or -1.
      */
     virtual int postAudioEvent(int event, Parcel& data) = 0;
 
-    /** Returns the profile of the subwoofer output. */
+    /** Profile of the subwoofer output, service-defined. */
     virtual int getSubwooferOutProfile() = 0;
 
-    /** Sets the profile of the subwoofer output. */
+    /** Sets the profile of the subwoofer output, service-defined. */
     virtual int setSubwooferOutProfile(int profile) = 0;
 
-    /** Starts the automatic equaliser calibration. */
+    /** Starts the automatic equaliser calibration; how its end is told is service-defined. */
     virtual int startAIEQCalibration() = 0;
 
-    /** Returns the gain of one output. */
+    /** Gain of one output, in a service-defined unit. */
     virtual int getAudioGain(int output) = 0;
 
-    /** Sets the gain of one output. */
+    /** Sets the gain of one output, in a service-defined unit. */
     virtual int setAudioGain(int output, int gain) = 0;
 
-    /** Returns the switch state of one output. */
+    /** Switch state of one output: -1 is a failure, not on. */
     virtual int getAudioOutEnableStatus(int output) = 0;
 
-    /** Switches one output; true when the service says so. */
+    /** Switches one output on or off. */
     virtual bool setAudioOutEnableStatus(int output, bool on) = 0;
 
-    /** Mutes or unmutes the treble of one channel. */
+    /** Sets the treble mute of one channel; mute is a service-defined number. */
     virtual int setTrebleOneChannelMute(_EnumChannelType_ channel, int mute) = 0;
 
-    /** Mutes or unmutes the bass of one channel. */
+    /** Sets the bass mute of one channel; mute is a service-defined number. */
     virtual int setBassOneChannelMute(_EnumChannelType_ channel, int mute) = 0;
 
-    /** Tells whether the sound card of an output is built in. */
+    /** True when the sound card of an output is built in. */
     virtual bool isBuildinSoundCard(int output) = 0;
 
-    /** Tells whether the line output is connected; a failed command reads as connected. */
+    /** True when the status is not 0, so a failed call reads as a connected line output. */
     virtual bool getLineOutConnectStatus() = 0;
 
-    /** Switches the hearing assistance; true when the service says so. */
+    /** Switches the hearing assistance on or off. */
     virtual bool setHearingAssistanceMode(bool on) = 0;
 
-    /** Tells whether the hearing assistance is on. */
+    /** True when the hearing assistance is on. */
     virtual bool getHearingAssistanceMode() = 0;
 
-    /** Returns the delay of one output, in the service's unit. */
+    /** Delay of one output, in a service-defined unit. */
     virtual int getAudioDelay(int output) = 0;
 
-    /** Sets the delay of one output, in the service's unit. */
+    /** Sets the delay of one output, in a service-defined unit. */
     virtual int setAudioDelay(int output, int delay) = 0;
 
-    /** Switches the voice enhancement; true when the service says so. */
+    /** Switches the voice enhancement on or off. */
     virtual bool setPeopleVoiceEnhance(bool on) = 0;
 
-    /** Tells whether the voice enhancement is on. */
+    /** True when the voice enhancement is on. */
     virtual bool getPeopleVoiceEnhance() = 0;
 
-    /** Returns the switch state of the line output's volume control. */
+    /** Switch state of the line output's volume control: -1 is a failure, not on. */
     virtual int getLineOutVolumeCtrlEnable() = 0;
 
-    /** Switches the line output's volume control. */
+    /** Switches the line output's volume control on or off. */
     virtual int setLineOutVolumeCtrlEnable(bool on) = 0;
 
-    /** Tells whether the line input is connected. */
+    /** True when the line input is connected. */
     virtual bool getLineInConnectStatus() = 0;
 
     virtual ~IAudioCtrl() = default;

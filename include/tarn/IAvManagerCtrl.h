@@ -7,7 +7,10 @@
 
 namespace android {
 
-/** The metadata header of the HDMI output; the meaning of its items is the service's. */
+/**
+ * The metadata header of the HDMI output: eight numbers, sent in this order; meanings are
+ * service-defined. The name is spelt so.
+ */
 struct _EunmAvCtrlHdmiout_ {
     int32_t item1 = 0;
     int32_t item2 = 0;
@@ -19,7 +22,9 @@ struct _EunmAvCtrlHdmiout_ {
     int32_t item8 = 0;
 };
 
-/** The current audio-video signal; the meaning of its items is the service's. */
+/**
+ * The current audio-video signal. Fields in the order of the reply; meanings are service-defined.
+ */
 struct AvSignalFormat {
     int32_t item1 = 0;
     int32_t item2 = 0;
@@ -43,251 +48,254 @@ struct AvSignalFormat {
  * The external audio-video unit: its DSP, codec board, microphone array and camera, the HDMI
  * output's metadata and the signal format.
  *
- * Every call blocks for one exchange with the service; any thread may call. Arguments are not
- * checked: scales, modes and numbers are service-defined. An int result is the service's status
- * word, -1 when the command failed; a bool result is false when the command failed.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns -1, false or an empty text, unless noted. An int result is the service's status word: a
+ * getter's value or a setter's outcome; a bool result is the service's answer. A value of -1 can't
+ * be told from a failure. Arguments are passed on unchecked. Scales, modes and the numbers of
+ * channels, devices, algorithms and presets are service-defined. The controller logs nothing of its
+ * own.
  */
 class IAvManagerCtrl : public virtual RefBase {
   public:
-    /** Initialises the unit. */
+    /** Initialises the unit; the outcome is service-defined. */
     virtual int init() = 0;
 
-    /** Releases the unit. */
+    /** Releases the unit; the outcome is service-defined. */
     virtual int release() = 0;
 
     /**
-     * Sends metadata for the HDMI output: the header and an array of bytes. A negative length sends
-     * no array at all; otherwise null data sends the array's length as -1, or as 0 when it is 0.
+     * Sends metadata for the HDMI output: the header, then length bytes of data. A negative length
+     * sends the header alone; null data sends an array of length -1, or an empty one when length is
+     * 0.
      *
      * @param header must not be null.
-     * @param data   length bytes; not written to. May be null when length is 0.
+     * @param data   length bytes; not written to. May be null.
      */
     virtual int send_metadata_process(_EunmAvCtrlHdmiout_* header, unsigned char* data,
                                       int length) = 0;
 
-    /** Sets the volume of one DSP channel. */
+    /** Sets the volume of one DSP channel, on a service-defined scale. */
     virtual int setDspVolume(int channel, int volume) = 0;
 
-    /** Returns the volume of one DSP channel. */
+    /** Volume of one DSP channel, on a service-defined scale. */
     virtual int getDspVolume(int channel) = 0;
 
-    /** Mutes or unmutes one DSP channel. */
+    /** Mutes (true) or unmutes (false) one DSP channel. */
     virtual int setDspMute(int channel, bool mute) = 0;
 
-    /** Tells whether one DSP channel is muted. */
+    /** True when the DSP channel is muted. */
     virtual bool getDspMute(int channel) = 0;
 
-    /** Mutes or unmutes the DSP's amplifier. */
+    /** Mutes (true) or unmutes (false) the DSP's amplifier. */
     virtual int setDspAmpMute(bool mute) = 0;
 
-    /** Tells whether the DSP's amplifier is muted. */
+    /** True when the DSP's amplifier is muted. */
     virtual bool getDspAmpMute() = 0;
 
-    /** Sets the left-right balance; true when the service says so. */
+    /** Sets the DSP's left-right balance, on a service-defined scale. */
     virtual bool setDspBalance(int balance) = 0;
 
-    /** Returns the left-right balance. */
+    /** The DSP's left-right balance, on a service-defined scale. */
     virtual int getDspBalance() = 0;
 
-    /** Returns the status of one DSP channel. */
+    /** Status of one DSP channel, service-defined. */
     virtual int getDspPerStat(int channel) = 0;
 
-    /** Sets the sound mode; true when the service says so. */
+    /** Sets the DSP's sound mode, service-defined. */
     virtual bool setDspSoundMode(int mode) = 0;
 
-    /** Returns the sound mode. */
+    /** The DSP's sound mode, service-defined. */
     virtual int getDspSoundMode() = 0;
 
-    /** Sets the treble level; true when the service says so. */
+    /** Sets the DSP's treble level, on a service-defined scale. */
     virtual bool setDspTreble(int treble) = 0;
 
-    /** Returns the treble level. */
+    /** The DSP's treble level, on a service-defined scale. */
     virtual int getDspTreble() = 0;
 
-    /** Sets the bass level; true when the service says so. */
+    /** Sets the DSP's bass level, on a service-defined scale. */
     virtual bool setDspBass(int bass) = 0;
 
-    /** Returns the bass level. */
+    /** The DSP's bass level, on a service-defined scale. */
     virtual int getDspBass() = 0;
 
     /** Initialises the codec board; both numbers are service-defined. */
     virtual int init_codecBoard(int first, int second) = 0;
 
-    /** Releases the codec board. */
+    /** Undoes init_codecBoard(). */
     virtual int deinit_codecBoard() = 0;
 
-    /** Connects the codec board; true when the service says so. */
+    /** Connects the codec board. */
     virtual bool connect_codecBoard() = 0;
 
-    /** Disconnects the codec board; true when the service says so. */
+    /** Undoes connect_codecBoard(). */
     virtual bool disconnect_codecBoard() = 0;
 
-    /** Selects the codec board's output device; true when the service says so. */
+    /** Selects the codec board's output device, a service-defined number. */
     virtual bool setOutputDevice(int device) = 0;
 
-    /** Returns the codec board's output device. */
+    /** The codec board's output device, a service-defined number. */
     virtual int getOutputDevice() = 0;
 
-    /** Powers the codec board down; true when the service says so. */
+    /** Powers the codec board down. */
     virtual bool setPowerDown() = 0;
 
-    /** Switches the DSP's USB audio; true when the service says so. */
+    /** Switches the DSP's USB audio on or off. */
     virtual bool setDspUsbEnable(bool on) = 0;
 
-    /** Tells whether the DSP's USB audio is on. */
+    /** True when the DSP's USB audio is on. */
     virtual bool getDspUsbEnable() = 0;
 
-    /** Sets the speaker output mode; true when the service says so. */
+    /** Sets the speaker output mode, service-defined. */
     virtual bool setSpkOutPutMode(int mode) = 0;
 
-    /** Returns the speaker output mode. */
+    /** Speaker output mode, service-defined. */
     virtual int getSpkOutPutMode() = 0;
 
-    /** Selects the microphone array's current algorithm; true when the service says so. */
+    /** Makes an algorithm the microphone array's current one. */
     virtual bool setMicAlgorithm(int algorithm) = 0;
 
-    /** Returns the microphone array's current algorithm. */
+    /** Number of the microphone array's current algorithm, service-defined. */
     virtual int getMicAlgorithm() = 0;
 
-    /** Switches one algorithm of the microphone array; true when the service says so. */
+    /** Switches one algorithm of the microphone array on or off, by its number. */
     virtual bool setMicAlgorithm(int algorithm, bool on) = 0;
 
-    /** Tells whether one algorithm of the microphone array is on. */
+    /** True when that algorithm of the microphone array is on. */
     virtual bool getMicAlgorithm(int algorithm) = 0;
 
-    /** Sets the parameter of one algorithm; true when the service says so. */
+    /** Sets an algorithm's parameter; value is service-defined. */
     virtual bool setMicAlgorithmParameters(int algorithm, int value) = 0;
 
-    /** Returns the parameter of one algorithm. */
+    /** An algorithm's parameter, service-defined. */
     virtual int getMicAlgorithmParameters(int algorithm) = 0;
 
-    /** Mutes or unmutes the microphone array; true when the service says so. */
+    /** Mutes (true) or unmutes (false) the microphone array. */
     virtual bool setMicMute(bool mute) = 0;
 
-    /** Tells whether the microphone array is muted. */
+    /** True when the microphone array is muted. */
     virtual bool getMicMute() = 0;
 
-    /** Sets the microphone array's volume; true when the service says so. */
+    /** Sets the microphone array's volume, on a service-defined scale. */
     virtual bool setMicVolume(int volume) = 0;
 
-    /** Returns the microphone array's volume. */
+    /** The microphone array's volume, on a service-defined scale. */
     virtual int getMicVolume() = 0;
 
-    /** Tells whether the microphone array is available. */
+    /** True when the microphone array is available; whether it is on is isMicEnabled(). */
     virtual bool isMicAvailable() = 0;
 
-    /** Switches the microphone array; true when the service says so. */
+    /** Switches the microphone array on or off. */
     virtual bool enableMic(bool on) = 0;
 
-    /** Tells whether the microphone array is on. */
+    /** True when the microphone array is on. */
     virtual bool isMicEnabled() = 0;
 
-    /** Returns the unit's serial number; empty when the command failed. */
+    /** The unit's serial number. */
     virtual String16 getSN() = 0;
 
-    /** Zooms the camera in by one step; true when the service says so. */
+    /** Zooms the camera in; this and the moves below go by service-defined steps. */
     virtual bool setCameraZoomIn() = 0;
 
-    /** Zooms the camera out by one step; true when the service says so. */
+    /** Zooms the camera out. */
     virtual bool setCameraZoomOut() = 0;
 
-    /** Tilts the camera up by one step; true when the service says so. */
+    /** Tilts the camera up. */
     virtual bool setCameraMoveUp() = 0;
 
-    /** Tilts the camera down by one step; true when the service says so. */
+    /** Tilts the camera down. */
     virtual bool setCameraMoveDown() = 0;
 
-    /** Pans the camera left by one step; true when the service says so. */
+    /** Pans the camera left. */
     virtual bool setCameraMoveLeft() = 0;
 
-    /** Pans the camera right by one step; true when the service says so. */
+    /** Pans the camera right. */
     virtual bool setCameraMoveRight() = 0;
 
-    /** Switches the camera's automatic framing; true when the service says so. */
+    /** Switches the camera's automatic framing on or off. */
     virtual bool setCameraAutoFramingMode(bool on) = 0;
 
-    /** Stores the camera's position under a preset's number; true when the service says so. */
+    /** Stores the camera's position under a preset number. */
     virtual bool setCameraPresetPosition(int preset) = 0;
 
-    /** Returns the camera's preset position. */
+    /** The camera's preset number, service-defined. */
     virtual int getCameraPresetPosition() = 0;
 
-    /** Moves the camera to a preset position; true when the service says so. */
+    /** Moves the camera to a preset position. */
     virtual bool gotoCameraPresetPosition(int preset) = 0;
 
-    /** Deletes a preset position; true when the service says so. */
+    /** Deletes a preset position. */
     virtual bool delCameraPresetPosition(int preset) = 0;
 
-    /** Tells whether the camera's automatic framing is on. */
+    /** True when the camera's automatic framing is on. */
     virtual bool getCameraAutoFramingMode() = 0;
 
-    /** Tells whether the camera tracks the speaker. */
+    /** True when the camera tracks the speaker. */
     virtual bool getCameraSpeakerTrackingMode() = 0;
 
-    /** Switches the camera's speaker tracking; true when the service says so. */
+    /** Switches the camera's speaker tracking on or off. */
     virtual bool setCameraSpeakerTrackingMode(bool on) = 0;
 
-    /** Switches the moving of the camera. */
+    /** Sets the unit's move-camera flag; its effect is service-defined. */
     virtual int setMoveCam(bool on) = 0;
 
-    /** Tells whether the moving of the camera is on. */
+    /** True when the unit's move-camera flag is on. */
     virtual bool getMoveCam() = 0;
 
-    /** Passes DOA data on, a service-defined number. */
+    /** Passes DOA data on: one service-defined number. */
     virtual int transferDoaData(int data) = 0;
 
-    /** Sets the camera's pan-tilt-zoom mode. */
+    /** Sets the camera's pan-tilt-zoom mode, service-defined. */
     virtual int setCameraPtzMode(int mode) = 0;
 
-    /** Returns the camera's pan-tilt-zoom mode. */
+    /** The camera's pan-tilt-zoom mode, service-defined. */
     virtual int getCameraPtzMode() = 0;
 
     /**
-     * Returns the bytes of the DSP's self-test, in a buffer of the library's that every caller
-     * shares: its address is always the same, the next call overwrites it, and calls on several
-     * threads may mix their bytes. It is larger than any result that the device's transport can
-     * carry; how many bytes the service sent is not handed on.
+     * Returns the bytes of the DSP's self-test, or null when the service answers that there is no
+     * result. How many bytes there are is not handed on.
      *
-     * Null only when the service answers that the test gave no result. In every other case, also
-     * when the command itself failed, the buffer is returned; it keeps its former bytes when the
-     * reply has none, or gives a length that is negative, beyond the reply or beyond the buffer.
+     * The library owns the buffer, one for all callers: its address never changes, the next call
+     * overwrites it, and calls on several threads may mix their bytes. It takes any result that the
+     * transport can carry. A failed call returns it too, and so does a reply with no bytes or with
+     * a length that is negative, beyond the reply or beyond the buffer: the former bytes stay.
      */
     virtual unsigned char* getDspTestResult() = 0;
 
-    /** Switches the camera's status updates; true when the service says so. */
+    /** Switches the camera's status updates on or off. */
     virtual bool setCameraStatusUpdate(bool on) = 0;
 
-    /** Returns the identity of the DSP's OTA module; empty when the command failed. */
+    /** Identity of the DSP's OTA module, as service-defined text. */
     virtual String16 getDspOtaModule() = 0;
 
-    /** Returns the current signal format; all zero when the command failed. */
+    /** The current signal format; all zero and false when the call failed. */
     virtual AvSignalFormat get_av_signal_format() = 0;
 
-    /** Resets the camera's zoom; true when the service says so. */
+    /** Resets the camera's zoom; see setCameraZoomIn(). */
     virtual bool setCameraZoomReset() = 0;
 
-    /** Sets the camera's picture-in-picture mode. */
+    /** Sets the camera's picture-in-picture mode, service-defined. */
     virtual int setCameraPipMode(int mode) = 0;
 
-    /** Returns the camera's picture-in-picture mode. */
+    /** The camera's picture-in-picture mode, service-defined. */
     virtual int getCameraPipMode() = 0;
 
-    /** Sets the state of the camera's super-resolution. */
+    /** Sets the state of the camera's super-resolution, a service-defined number. */
     virtual int setCameraAisrStatus(int status) = 0;
 
-    /** Returns the state of the camera's super-resolution. */
+    /** State of the camera's super-resolution, a service-defined number. */
     virtual int getCameraAisrStatus() = 0;
 
-    /** Sets the camera's high dynamic range mode. */
+    /** Sets the camera's high dynamic range mode, service-defined. */
     virtual int setCameraHdr(int mode) = 0;
 
-    /** Returns the camera's high dynamic range mode. */
+    /** The camera's high dynamic range mode, service-defined. */
     virtual int getCameraHdr() = 0;
 
-    /** Sets the camera's de-fog mode. */
+    /** Sets the camera's de-fog mode, service-defined. */
     virtual int setCameraDeFogMode(int mode) = 0;
 
-    /** Returns the camera's de-fog mode. */
+    /** The camera's de-fog mode, service-defined. */
     virtual int getCameraDeFogMode() = 0;
 
     virtual ~IAvManagerCtrl() = default;

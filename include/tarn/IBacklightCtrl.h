@@ -5,44 +5,45 @@
 namespace android {
 
 /**
- * The panel's brightness and its limits; all levels are on the service's scale and are not checked.
+ * The panel's brightness and its limits.
  *
- * Every call blocks for one exchange with the service; any thread may call. An int result is the
- * service's status word, -1 when the command failed; a bool result is false when it failed.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns -1 or false. An int result is the service's status word: a getter's value or a setter's
+ * outcome. All levels are on a service-defined scale and passed on unchecked.
  */
 class IBacklightCtrl : public virtual RefBase {
   public:
-    /** Returns the screen brightness. */
+    /** Screen brightness; the backlight's real level is getScreenRealBrightness(). */
     virtual int getScreenBrightness() = 0;
 
-    /** Sets the screen brightness. */
+    /** Sets the screen brightness; the library does not keep it within the limits. */
     virtual int setScreenBrightness(int brightness) = 0;
 
-    /** Returns the highest brightness that can be set. */
+    /** Highest brightness that can be set. */
     virtual int getScreenMaxBrightness() = 0;
 
-    /** Sets the highest brightness that can be set. */
+    /** Sets the highest brightness that can be set; see getMaxBrightnessSetEnable(). */
     virtual int setScreenMaxBrightness(int brightness) = 0;
 
-    /** Returns the lowest brightness that can be set. */
+    /** Lowest brightness that can be set. */
     virtual int getScreenMinBrightness() = 0;
 
     /** Sets the lowest brightness that can be set. */
     virtual int setScreenMinBrightness(int brightness) = 0;
 
-    /** Returns the level that the backlight really runs at. */
+    /** Level that the backlight really runs at. */
     virtual int getScreenRealBrightness() = 0;
 
     /** Sets the level that the backlight really runs at. */
     virtual int setScreenRealBrightness(int brightness) = 0;
 
-    /** Returns the customer's lower limit of the backlight. */
+    /** The customer's lower limit of the backlight; read-only. */
     virtual int getCustomerMinBacklight() = 0;
 
-    /** Returns the customer's upper limit of the backlight. */
+    /** The customer's upper limit of the backlight; read-only. */
     virtual int getCustomerMaxBacklight() = 0;
 
-    /** Tells whether the highest brightness may be set. */
+    /** The service's flag for whether the highest brightness may be set. */
     virtual bool getMaxBrightnessSetEnable() = 0;
 
     virtual ~IBacklightCtrl() = default;

@@ -6,20 +6,21 @@
 
 namespace android {
 
-/** A device with light effects; the values are the service's. */
+/** A device with light effects; values are service-defined. */
 enum _EnumLightDeviceType : int32_t {};
 
-/** A light effect; the values are the service's. */
+/** A light effect; values are service-defined. */
 enum _EnumLightEffectMode : int32_t {};
 
 /**
  * The light effects of the board's light devices.
  *
- * Every call blocks for one exchange with the service; any thread may call.
+ * Calls block until the service has answered; any thread may call. A bool result is the service's
+ * answer, or false when the call failed (see ITarnManager).
  */
 class ILightEffectCtrl : public virtual RefBase {
   public:
-    /** Sets the effect of one device; true when the service says so, false when it failed. */
+    /** Gives one device an effect; both are passed on unchecked. */
     virtual bool setLightEffectMode(_EnumLightDeviceType device, _EnumLightEffectMode mode) = 0;
 
     virtual ~ILightEffectCtrl() = default;

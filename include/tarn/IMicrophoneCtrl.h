@@ -8,7 +8,9 @@
 
 namespace android {
 
-/** One microphone as the service describes it; the texts are UTF-8, the meanings its own. */
+/**
+ * One microphone. Fields in the order of the reply; meanings are service-defined. Texts are UTF-8.
+ */
 struct EntityMicrophone {
     int32_t value0 = 0;
     int32_t value1 = 0;
@@ -24,23 +26,24 @@ struct EntityMicrophone {
 };
 
 /**
- * The microphones of the board.
+ * The built-in microphones.
  *
- * Every call blocks for one exchange with the service; any thread may call. Microphone numbers
- * are service-defined and not checked. A bool result is false when the command failed.
+ * Calls block until the service has answered; any thread may call. A bool result is the service's
+ * answer, or false when the call failed (see ITarnManager). Microphone numbers are service-defined
+ * and passed on unchecked.
  */
 class IMicrophoneCtrl : public virtual RefBase {
   public:
     /**
-     * Asks for the microphones and empties *list, which stays empty. Always returns 1; list must
-     * not be null.
+     * Gives no data: sends its command, empties *list, reads no records and always returns 1. list
+     * must not be null. An answer of false, or a failed call, logs an error line.
      */
     virtual int getFwMicrophoneList(std::vector<EntityMicrophone>* list) = 0;
 
-    /** Tells whether a built-in microphone is enabled. */
+    /** True when that built-in microphone is enabled. */
     virtual bool isBuildInMicEnabled(int microphone) = 0;
 
-    /** Enables or disables a built-in microphone; true when the service says so. */
+    /** Enables or disables a built-in microphone. */
     virtual bool setBuildInMicEnabled(int microphone, bool enabled) = 0;
 
     virtual ~IMicrophoneCtrl() = default;
