@@ -9,14 +9,17 @@
 
 namespace android {
 
-/** What the service tells about one camera; the meaning of the numbers is its own. */
+/** One camera. Fields in the order of the reply; meanings are service-defined. */
 struct TarnCameraInfo {
     std::string text0;  // UTF-8
     int32_t value0 = 0;
     int32_t value1 = 0;
 };
 
-/** One camera's firmware; the meaning of its fields is the service's. Texts are UTF-8. */
+/**
+ * One camera's firmware. Fields in the order of the reply; meanings are service-defined. Texts are
+ * UTF-8.
+ */
 struct EntityFwCamera {
     int32_t value0 = 0;
     int32_t value1 = 0;
@@ -35,43 +38,44 @@ struct EntityFwCamera {
 /**
  * The panel's cameras.
  *
- * Every call blocks for one exchange with the service; any thread may call. Camera numbers and
- * types are service-defined and not checked. A bool result is false, a text empty, when the
- * command failed.
+ * Calls block until the service has answered; any thread may call. Unless noted, a failed call (see
+ * ITarnManager) returns false or an empty text, and a bool result is the service's answer. Reading
+ * a name, an information record or a serial number also logs an error line when it fails. Camera
+ * numbers and types are service-defined and passed on unchecked.
  */
 class ICameraCtrl : public virtual RefBase {
   public:
-    /** Tells whether the cameras are enabled altogether. */
+    /** True when the cameras as a whole are enabled; single types: isCameraEnabled(). */
     virtual bool getCameraEnable() = 0;
 
-    /** Enables or disables the cameras altogether; true when the service says so. */
+    /** Enables or disables the cameras as a whole. */
     virtual bool setCameraEnable(bool enabled) = 0;
 
-    /** Returns a camera's device name. */
+    /** A camera's device name. */
     virtual String16 getCameraDeviceName(int camera) = 0;
 
-    /** Fills info and returns true; on failure info stays as it was. */
+    /** Fills info and returns true; when the call failed info stays as it was. */
     virtual bool getCameraDeviceInfo(int camera, TarnCameraInfo& info) = 0;
 
-    /** Tells whether the cameras of a type are enabled. */
+    /** True when the cameras of that type are enabled. */
     virtual bool isCameraEnabled(int fwCameraType) = 0;
 
-    /** Enables or disables the cameras of a type; true when the service says so. */
+    /** Enables or disables the cameras of a type. */
     virtual bool setCameraEnabled(int fwCameraType, bool enabled) = 0;
 
     /**
-     * Asks for the cameras' firmware and empties *out, which stays empty. Always true; out must
-     * not be null.
+     * Gives no data: sends its command, empties *out, reads no records and always returns true. out
+     * must not be null. An answer of false, or a failed call, logs an error line.
      */
     virtual bool getFwCameraList(std::vector<EntityFwCamera>* out) = 0;
 
     /**
-     * Maps a camera identifier to a device node, both UTF-8 and neither null; true when the
-     * service's answer is false.
+     * Maps a camera identifier to a device node. Inverted: true when the service answers false,
+     * false when it answers true or the call failed. Both texts are UTF-8 and must not be null.
      */
     virtual bool setCameraIdDeviceMap(const char* id, const char* device) = 0;
 
-    /** Returns a camera's serial number. */
+    /** A camera's serial number. */
     virtual String16 getCameraDeviceSn(int camera) = 0;
 
     virtual ~ICameraCtrl() = default;

@@ -8,7 +8,10 @@
 
 namespace android {
 
-/** One touch device; the meaning of its fields is the service's. Texts are UTF-8. */
+/**
+ * One touch device. Fields in the order of the reply; meanings are service-defined. Texts are
+ * UTF-8.
+ */
 struct EntityFwTouch {
     int32_t value0 = 0;
     int32_t value1 = 0;
@@ -23,7 +26,10 @@ struct EntityFwTouch {
     bool flag2 = false;
 };
 
-/** One driver of a touch device; the meaning of its fields is the service's. Texts are UTF-8. */
+/**
+ * One driver of a touch device. Fields in the order of the reply; meanings are service-defined.
+ * Texts are UTF-8.
+ */
 struct EntityFwTouchDriver {
     int32_t value0 = 0;
     int32_t value1 = 0;
@@ -33,7 +39,10 @@ struct EntityFwTouchDriver {
     std::string text1;
 };
 
-/** A touch device with its driver; the shorts are the low 16 bits of the service's numbers. */
+/**
+ * A touch device with its driver. Fields in the order of the reply; meanings are service-defined.
+ * Texts are UTF-8. The shorts are the low 16 bits of the service's 32-bit numbers.
+ */
 struct TouchFwDataList {
     int16_t short0 = 0;
     int16_t short1 = 0;
@@ -51,9 +60,9 @@ struct TouchFwDataList {
 /**
  * Which touch frames the service knows, with their drivers and firmware. Read-only.
  *
- * Every call blocks for one exchange with the service; any thread may call. Each method empties
- * *out, fills it and returns true; when the command failed *out is empty and the result false.
- * out must not be null.
+ * Calls block until the service has answered; any thread may call. Each method replaces the
+ * contents of *out and returns true; when the call failed (see ITarnManager) *out is empty and the
+ * result false. out must not be null.
  */
 class IFwTouchCtrl : public virtual RefBase {
   public:

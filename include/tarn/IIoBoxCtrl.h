@@ -8,7 +8,10 @@
 
 namespace android {
 
-/** One I/O box's firmware; the meaning of its fields is the service's. Texts are UTF-8. */
+/**
+ * One I/O box's firmware. Fields in the order of the reply; meanings are service-defined. Texts are
+ * UTF-8.
+ */
 struct EntityFwIoBox {
     int32_t value0 = 0;
     int32_t value1 = 0;
@@ -25,17 +28,22 @@ struct EntityFwIoBox {
 };
 
 /**
- * The external I/O extension boxes. Every call blocks for one exchange with the service; any
- * thread may call.
+ * The external I/O extension boxes.
+ *
+ * Calls block until the service has answered; any thread may call. What a failed call (see
+ * ITarnManager) returns is said at each method; it also logs an error line.
  */
 class IIoBoxCtrl : public virtual RefBase {
   public:
-    /** Returns a box's connection state; 2 when it is unknown, as on failure. */
+    /**
+     * A box's connection state: 2 is unknown, also when the call failed; the rest is
+     * service-defined, as is box.
+     */
     virtual int getConnectStatus(int box) = 0;
 
     /**
-     * Asks for the boxes' firmware and empties *out, which stays empty. Always true; out must not
-     * be null.
+     * Gives no data: sends its command, empties *out, reads no records and always returns true. out
+     * must not be null. An answer of false logs an error line as well.
      */
     virtual bool getFwIoBoxList(std::vector<EntityFwIoBox>* out) = 0;
 

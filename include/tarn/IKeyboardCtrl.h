@@ -6,19 +6,19 @@
 namespace android {
 
 /**
- * Asks the service which keyboards are there.
+ * Which keyboards are there.
  *
- * Every call blocks for one exchange with the service; any thread may call. A command fails when
- * the service is missing, dead or answers -1; any other transport error reads as an answer of 0.
+ * Calls block until the service has answered; any thread may call. What a failed call (see
+ * ITarnManager) returns differs between the two methods. Arguments are passed on unchecked.
  */
 class IKeyboardCtrl : public virtual RefBase {
   public:
-    /** Tells whether the keyboard of that name is present; false on failure. */
+    /** True when a keyboard of that name is present; false also when the call failed. */
     virtual bool getKeyboardByName(String16 name) = 0;
 
     /**
-     * Tells whether the keyboard with that pair of service-defined identifiers is present. False
-     * only when the service answers 0: a failed command reads as present.
+     * True when the status is not 0, so a failed call reads as a present keyboard. Both identifiers
+     * are service-defined.
      */
     virtual bool getKeyboardByID(int id0, int id1) = 0;
 

@@ -9,14 +9,16 @@ namespace android {
 
 /**
  * Which applications the service treats as landscape applications, by package name in UTF-8.
- * Every call blocks for one exchange with the service; any thread may call.
+ *
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns false or an empty list and logs an error line.
  */
 class ILandscapeCtrl : public virtual RefBase {
   public:
-    /** Replaces the list; true when the service says so, false on failure. */
+    /** Replaces the whole list; an empty one is sent too. Returns the service's answer. */
     virtual bool setLandscapeAppList(std::vector<std::string> apps) = 0;
 
-    /** Returns the list; empty on failure. */
+    /** The list, in the order of the reply. */
     virtual std::vector<std::string> getLandscapeAppList() = 0;
 
     virtual ~ILandscapeCtrl() = default;
