@@ -7,14 +7,12 @@ namespace android {
 /**
  * The anion (negative-ion) generator.
  *
- * Any thread may call; every call blocks for one exchange with the service.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns -1.
  */
 class IAnionCtrl : public virtual RefBase {
   public:
-    /**
-     * Switches the anion generator; status is service-defined and not checked. Returns the
-     * service's status word, -1 when the command failed.
-     */
+    /** status is service-defined and passed on unchecked. Returns the service's status word. */
     virtual int setAnionStatus(int status) = 0;
 
     virtual ~IAnionCtrl() = default;

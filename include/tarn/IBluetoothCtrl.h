@@ -7,15 +7,15 @@ namespace android {
 /**
  * Wake-up by Bluetooth Low Energy.
  *
- * Any thread may call; every call blocks for one exchange with the service. The result is false
- * when the command failed.
+ * Calls block until the service has answered; any thread may call. A bool result is the service's
+ * answer, or false when the call failed (see ITarnManager).
  */
 class IBluetoothCtrl : public virtual RefBase {
   public:
-    /** Tells whether Bluetooth Low Energy may wake the board up. */
+    /** True when Bluetooth Low Energy may wake the board up. */
     virtual bool isBleWakeup() = 0;
 
-    /** Switches wake-up by Bluetooth Low Energy; true when the service says so. */
+    /** Allows (true) or forbids (false) the wake-up. */
     virtual bool setBleWakeup(bool on) = 0;
 
     virtual ~IBluetoothCtrl() = default;

@@ -9,10 +9,13 @@
 
 namespace android {
 
-/** A kind of software key; the values are the service's. */
+/** A kind of software key; values are service-defined. */
 enum _EnumBurnKeyType : int32_t {};
 
-/** One supported kind of key; the meaning of its fields is the service's. Texts are UTF-8. */
+/**
+ * One supported kind of key. Fields in the order of the reply; meanings are service-defined. Texts
+ * are UTF-8.
+ */
 struct EntitySwKey {
     int32_t keyId = 0;
     std::string keyText1;
@@ -23,29 +26,31 @@ struct EntitySwKey {
 };
 
 /**
- * The software keys in the board's secure storage. Keys pass through unchecked.
+ * The software keys in the board's secure storage.
  *
- * Every call blocks for one exchange with the service; any thread may call. A setter is true
- * when the service's status is not 0: the -1 of a failed command is true as well.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns an empty text; of the bool results, getSupportBurnKeyList() is then false, but
+ * setBurnKey() and setCleanBurnKey() are true. Keys are passed on unchecked, in a service-defined
+ * form.
  */
 class IBurnKeyCtrl : public virtual RefBase {
   public:
     /**
-     * Replaces the contents of *list with the supported kinds; empty and false on failure. list
-     * must not be null.
+     * Replaces the contents of *list with the supported kinds and returns true; when the call
+     * failed *list is empty, and an error line is logged. list must not be null.
      */
     virtual bool getSupportBurnKeyList(std::vector<EntitySwKey>* list) = 0;
 
-    /** Writes a key. */
+    /** Writes a key. True when the status is not 0, so also when the call failed. */
     virtual bool setBurnKey(_EnumBurnKeyType type, String16 key) = 0;
 
-    /** Erases a key. */
+    /** Erases a key. True when the status is not 0, so also when the call failed. */
     virtual bool setCleanBurnKey(_EnumBurnKeyType type) = 0;
 
-    /** Returns a key; empty on failure. */
+    /** The key as it is stored. */
     virtual String16 getBurnKey(_EnumBurnKeyType type) = 0;
 
-    /** Returns a key's version; empty on failure. */
+    /** The key's version, as service-defined text. */
     virtual String16 getBurnKeyVersion(_EnumBurnKeyType type) = 0;
 
     virtual ~IBurnKeyCtrl() = default;

@@ -7,18 +7,16 @@ namespace android {
 /**
  * The super-root debug state of the board.
  *
- * Every call blocks for one exchange with the service; any thread may call.
+ * Calls block until the service has answered; any thread may call. A bool result is the service's
+ * answer, or false when the call failed (see ITarnManager).
  */
 class IDebugCtrl : public virtual RefBase {
   public:
-    /** Tells whether super-root is on; false when the command failed. */
+    /** True when super-root is on. */
     virtual bool getSuperRootState() = 0;
 
     /**
-     * Hands a state text to the service, which defines its meaning.
-     *
-     * @param state UTF-8, not null.
-     * @return what the service answers; false when the command failed.
+     * Passes a state text on unchecked; its meaning is service-defined. UTF-8, must not be null.
      */
     virtual bool setSuperRootState(const char* state) = 0;
 

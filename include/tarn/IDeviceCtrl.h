@@ -7,103 +7,86 @@
 
 namespace android {
 
-/** A USB power state; the values are the service's. */
+/** A USB power state; values are service-defined. */
 enum _EnumUsbPowerStatus : int32_t {};
 
-/** How the USB switch follows the input source; the values are the service's. */
+/** How the USB switch follows the input source; values are service-defined. */
 enum _EnumUsbSWFollowConfig : int32_t {};
 
 /**
  * The board's devices: lists and names, the shared USB hub, device and USB power, the NFC tag.
  *
- * Any thread may call; every call blocks for one exchange with the service. Arguments are not
- * checked: their meaning is the service's. Unless said otherwise, an int result is the service's
- * status word, -1 when the command failed; a bool result is false when the command failed.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns -1, false or an empty text. An int result is the service's status word (a getter's value
+ * or a setter's outcome), except in the USB switches; a bool result is the service's answer.
+ * Arguments are passed on unchecked. The numbers of devices, hosts and states are service-defined.
+ *
+ * The USB switches move a part of the shared hub to a host. A setter returns the first number
+ * behind the status, whose meaning is service-defined; a getter returns the second one, the host.
  */
 class IDeviceCtrl : public virtual RefBase {
   public:
-    /** Returns the list of devices, as one service-defined number. */
+    /** The list of devices as one service-defined number. */
     virtual int getDeviceList() = 0;
 
-    /** Returns the second list of devices, as one service-defined number. */
+    /** The second list of devices as one service-defined number. */
     virtual int getSecondDeviceList() = 0;
 
-    /** Returns the third list of devices, as one service-defined number. */
+    /** The third list of devices as one service-defined number. */
     virtual int getThirdDeviceList() = 0;
 
-    /** Returns the board's name; empty when the command failed. */
+    /**
+     * The board's name. A failed call also logs an error line, which names
+     * CMD_AT_CFG_CTRL_READ_WVKEYBOX.
+     */
     virtual String16 getBoardName() = 0;
 
-    /** Returns the model's name; empty when the command failed. */
+    /** The model's name. A failed call also logs an error line. */
     virtual String16 getModelName() = 0;
 
-    /**
-     * Switches the side port to a host. Returns the first integer of the reply, -1 when the
-     * command failed.
-     */
+    /** Moves the side port to a host. */
     virtual int setUsbSwitchForSide(int host) = 0;
 
-    /**
-     * Returns the host that the side port is switched to: the second integer of the reply, -1
-     * when the command failed.
-     */
+    /** Host of the side port. */
     virtual int getUsbSwitchForSide() = 0;
 
-    /**
-     * Switches all ports to a host. Returns the first integer of the reply, -1 when the command
-     * failed.
-     */
+    /** Moves all ports to a host. */
     virtual int setUsbSwitchForAll(int host) = 0;
 
-    /**
-     * Returns the host that all ports are switched to: the second integer of the reply, -1 when
-     * the command failed.
-     */
+    /** Host of all ports. */
     virtual int getUsbSwitchForAll() = 0;
 
-    /**
-     * Switches the touch input to a host. Returns the first integer of the reply, -1 when the
-     * command failed.
-     */
+    /** Moves the touch input to a host. */
     virtual int setUsbSwitchForTouchIn(int host) = 0;
 
-    /**
-     * Returns the host that the touch input is switched to: the second integer of the reply, -1
-     * when the command failed.
-     */
+    /** Host of the touch input. */
     virtual int getUsbSwitchForTouchIn() = 0;
 
-    /**
-     * Switches the picture-in-picture touch path to a host. Returns the first integer of the
-     * reply, -1 when the command failed.
-     */
+    /** Moves the picture-in-picture touch path to a host. */
     virtual int setUsbSwitchForPipTouch(int host) = 0;
 
-    /**
-     * Returns the host that the picture-in-picture touch path is switched to: the second integer
-     * of the reply, -1 when the command failed.
-     */
+    /** Host of the picture-in-picture touch path. */
     virtual int getUsbSwitchForPipTouch() = 0;
 
-    /** Powers one device on or off; both numbers are service-defined. */
+    /** Powers one device on or off; device and state are service-defined numbers. */
     virtual int ctrlDevicePower(int device, int state) = 0;
 
-    /** Returns the USB power status. */
+    /** USB power state, a service-defined number. */
     virtual int getUsbPowerStatus() = 0;
 
-    /** Sets the USB power status; true when the service says so. */
+    /** Sets the USB power state. */
     virtual bool setUsbPowerStatus(_EnumUsbPowerStatus status) = 0;
 
-    /** Returns the message of the NFC tag; empty when the command failed. */
+    /** Message of the NFC tag. */
     virtual String16 getNfcTagMsg() = 0;
 
-    /** Writes the message of the NFC tag; true when the service says so. */
+    /** Writes the message of the NFC tag. */
     virtual bool setNfcTagMsg(String16 msg) = 0;
 
-    /** Sets how the USB switch follows the input source; true when the service says so. */
+    /** Sets how the USB switch follows the input source. */
     virtual bool setUsbSwFollowConfig(_EnumUsbSWFollowConfig config) = 0;
 
-    /** Returns how the USB switch follows the input source. */
+    /** How the USB switch follows the input source, a service-defined number. */
     virtual int getUsbSwFollowConfig() = 0;
 
     virtual ~IDeviceCtrl() = default;

@@ -7,8 +7,8 @@
 #include <vector>
 
 /**
- * One MCU firmware target; the meaning of its fields is the service's. Texts are UTF-8 and end
- * with a NUL. The layout is part of the interface.
+ * One MCU firmware target. Fields in the order of the reply; meanings are service-defined. Texts
+ * are UTF-8 and end with a NUL. The layout is part of the interface.
  */
 struct EntityFwInfoMcu {
     int32_t intField1 = 0;
@@ -28,36 +28,40 @@ namespace android {
 /**
  * Upgrades of the board's firmware targets, and what the service knows about each of them.
  *
- * Every call blocks for one exchange with the service; any thread may call. Firmware types are
- * service-defined and not checked. A text is empty when the command failed.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns false or an empty text. type is the service-defined number of a target and passed on
+ * unchecked; the form of the texts is service-defined.
  */
 class IFwUpgrade : public virtual RefBase {
   public:
-    /** Starts the upgrade of a target from an image file; true when the service says so. */
+    /**
+     * Starts the upgrade of a target; returns the service's answer. path is passed on as text, the
+     * image file is not read here.
+     */
     virtual bool setFirmwareUpgrade(int type, String16 path) = 0;
 
-    /** Returns the name of the image file to upgrade a target with. */
+    /** Name of the image file to upgrade a target with. */
     virtual String16 getMcuBinNameToUp(int type) = 0;
 
-    /** Returns the version that a target runs. */
+    /** Version that a target runs. */
     virtual String16 getFwVersion(int type) = 0;
 
-    /** Returns a target's OTA key. */
+    /** A target's OTA key. */
     virtual String16 getFwOtakey(int type) = 0;
 
-    /** Returns the firmware information of all Type-C targets as one text. */
+    /** Firmware information of all Type-C targets, in one text. */
     virtual String16 getFwInfoTypecList() = 0;
 
     /**
-     * Appends the MCU firmware targets to list and returns true; false, with list as it was, when
-     * the command failed. A text of the service's that does not fit its field aborts the process.
+     * Appends the MCU firmware targets to list, which is not emptied first, and returns true; when
+     * the call failed list stays as it was. A text that does not fit its field aborts the process.
      */
     virtual bool getFwMcuList(std::vector<EntityFwInfoMcu>& list) = 0;
 
-    /** Returns the version that a target would be upgraded to. */
+    /** Version that a target would be upgraded to. */
     virtual String16 getFwTargetVersion(int type) = 0;
 
-    /** Returns the path of the image that a target would be upgraded from. */
+    /** Path of the image file that a target would be upgraded from. */
     virtual String16 getFwTargetBinPath(int type) = 0;
 
     virtual ~IFwUpgrade() = default;

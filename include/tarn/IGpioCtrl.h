@@ -6,33 +6,38 @@
 
 namespace android {
 
-/** A pin's level or direction: 0 or 1. */
+/**
+ * A pin's level or direction: 0 or 1, passed on unchecked; which direction is which is
+ * service-defined.
+ */
 using TARN_BOOL = int32_t;
 
 /**
  * The board's GPIO pins.
  *
- * Every call blocks for one exchange with the service; any thread may call. Pin numbers are
- * service-defined and not checked. The out-parameters must not be null.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns -1. The setters return the service's status word. The getters return 0 and fill the
+ * number behind the pointer, which must not be null and is 0 after a failure. Pin numbers are
+ * service-defined and passed on unchecked.
  */
 class IGpioCtrl : public virtual RefBase {
   public:
-    /** Makes a pin an input. Returns the service's status, -1 when the command failed. */
+    /** Makes a pin an input. */
     virtual int setGpioDirInput(unsigned int gpio) = 0;
 
-    /** Makes a pin an output. Returns the service's status, -1 when the command failed. */
+    /** Makes a pin an output. */
     virtual int setGpioDirOutput(unsigned int gpio) = 0;
 
-    /** Reads a pin's direction. Returns 0; -1 when the command failed, and *dir is 0 then. */
+    /** A pin's direction. */
     virtual int getGpioDirBit(unsigned int gpio, TARN_BOOL* dir) = 0;
 
-    /** Sets a pin's output level. Returns the service's status, -1 when the command failed. */
+    /** Sets a pin's output level. */
     virtual int writeGpioBit(unsigned int gpio, TARN_BOOL value) = 0;
 
-    /** Reads a pin's level. Returns 0; -1 when the command failed, and *value is 0 then. */
+    /** A pin's level; readGpioOutBit() reads the output level. */
     virtual int readGpioBit(unsigned int gpio, TARN_BOOL* value) = 0;
 
-    /** Reads a pin's output level. Returns 0; -1 when the command failed, and *value is 0 then. */
+    /** A pin's output level. */
     virtual int readGpioOutBit(unsigned int gpio, TARN_BOOL* value) = 0;
 
     virtual ~IGpioCtrl() = default;
