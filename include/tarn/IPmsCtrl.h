@@ -9,24 +9,27 @@
 namespace android {
 
 /**
- * Power management: what woke the board and what may wake it.
+ * Power management: what woke the board, what may wake it, and asset data.
  *
- * Every call blocks for one exchange with the service; any thread may call. Codes of wake-up
- * sources are service-defined. An int result is the service's status word, -1 when the command
- * failed.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns -1, false or an empty text. An int result is the service's status word. Arguments are
+ * passed on unchecked.
  */
 class IPmsCtrl : public virtual RefBase {
   public:
-    /** Returns what woke the board. */
+    /** Returns what woke the board, a service-defined code. */
     virtual int getWakeupSrc() = 0;
 
-    /** Returns what woke the board, as the boot loader recorded it. */
+    /** Returns what woke the board as the boot loader recorded it, a service-defined code. */
     virtual int getWakeupSrcFromUboot() = 0;
 
-    /** Returns asset data; both arguments are service-defined. Empty when the command failed. */
+    /** Returns asset data as text; a, b and the text's form are service-defined. */
     virtual String16 readAssetData(int a, int b) = 0;
 
-    /** Chooses the input sources that may wake the board; false when the command failed. */
+    /**
+     * Sets the input sources that may wake the board; an empty list is sent too. Returns the
+     * service's answer.
+     */
     virtual bool setPmsWakeupSources(const std::vector<_TarnEnumInputSourceId_>& sources) = 0;
 
     virtual ~IPmsCtrl() = default;

@@ -30,85 +30,95 @@ enum _EnumProjectId_ : int32_t {
  * The board's project identity: which panel product it is built into, and what the service keeps
  * for that product.
  *
- * Every call blocks for one exchange with the service; any thread may call. An int result is the
- * service's status word, -1 when the command failed; a text is empty when the command failed.
+ * Calls block until the service has answered; any thread may call. Unless noted, a failed call (see
+ * ITarnManager) returns -1, false or an empty text, an int result is the service's status word, and
+ * a bool result is the service's answer.
  *
- * The operations that take a Parcel replace its contents with a configuration set, whose layout is
- * service-defined, at position 0, and return 0; they return -1 and leave it alone when the command
- * failed.
+ * The operations that take a Parcel replace its contents with a configuration set, at position 0
+ * and in a service-defined layout, and return 0. When the call failed they return -1 and leave it
+ * as it was; an empty reply leaves it too, but returns 0.
  */
 class IProjectId : public virtual RefBase {
   public:
-    /** Selects the project, 0 to 13; any other index gives -1 and sends nothing. */
+    /** Selects the project, 0 to 13. Any other sends nothing, logs an error line, returns -1. */
     virtual int setProjectIdByIndex(_EnumProjectId_ index) = 0;
 
-    /** Returns the project, 0 to 13; 0 when the command failed or gave another index. */
+    /**
+     * Returns the project, 0 to 13. For any other answer, and when the call failed, it returns 0
+     * and logs an error line.
+     */
     virtual _EnumProjectId_ getProjectIdIndex() = 0;
 
-    /** Returns the upper end of the project's backlight range. */
+    /** Returns the upper end of the project's backlight range; scale service-defined. */
     virtual int getProjectIdBacklightMax() = 0;
 
-    /** Returns the lower end of the project's backlight range. */
+    /** Returns the lower end of the project's backlight range, on the same scale. */
     virtual int getProjectIdBacklightMin() = 0;
 
-    /** Fetches the brightness, contrast, saturation and hue configuration. */
+    /** Reads the configuration of brightness, contrast, saturation and hue. */
     virtual int getProjectIdPqBcshCfgs(Parcel* cfgs) = 0;
 
-    /** Fetches the white balance configuration. */
+    /** Reads the configuration of the white balance. */
     virtual int getProjectIdPqWBCfgs(Parcel* cfgs) = 0;
 
-    /** Fetches the SPG configuration. */
+    /** Reads the SPG configuration. */
     virtual int getProjectIdPqSPGCfgs(Parcel* cfgs) = 0;
 
-    /** Returns whether the project's configuration file has been parsed. */
+    /** Returns whether the INI file is parsed, a service-defined number. The name is spelt so. */
     virtual int getProjectIdIniPraserDone() = 0;
 
-    /** Fetches the DBC configuration. */
+    /** Reads the configuration of DBC, dynamic backlight control. */
     virtual int getProjectIdDbcCfgs(Parcel* cfgs) = 0;
 
-    /** Fetches the DCR configuration. */
+    /** Reads the configuration of DCR, dynamic contrast by backlight. */
     virtual int getProjectIdDcrCfgs(Parcel* cfgs) = 0;
 
-    /** Fetches the boot logo configuration. */
+    /** Reads the configuration of the boot logo. */
     virtual int getProjectIdLogoCfgs(Parcel* cfgs) = 0;
 
-    /** Fetches the boot video configuration. */
+    /** Reads the configuration of the boot video. */
     virtual int getProjectIdBootVideoCfgs(Parcel* cfgs) = 0;
 
-    /** Fetches the boot animation configuration. */
+    /** Reads the configuration of the boot animation. */
     virtual int getProjectIdBootAnimationCfgs(Parcel* cfgs) = 0;
 
-    /** Sets the replace state; the states are service-defined. */
+    /** Sets the replace state; states are service-defined. */
     virtual int setProjectIdReplaceState(int state) = 0;
 
-    /** Returns the replace state. */
+    /** Returns the replace state, one as setProjectIdReplaceState() takes it. */
     virtual int getProjectIdReplaceState() = 0;
 
-    /** Copies the project's file to the boot video. */
+    /** Has the service copy the project's file to the boot video. */
     virtual int CopyPidfileToBootvideo() = 0;
 
-    /** Returns the path of a boot logo found on a USB disk; empty when there is none. */
+    /** Returns the path of a boot logo on a USB disk. Failed calls log an error line. */
     virtual String16 findUdiskLogoPath() = 0;
 
-    /** Returns the path of a boot animation found on a USB disk; empty when there is none. */
+    /** Returns the path of a boot animation on a USB disk. Failed calls log an error line. */
     virtual String16 findUdiskAnimationPath() = 0;
 
-    /** Returns the path of a boot video found on a USB disk; empty when there is none. */
+    /** Returns the path of a boot video on a USB disk. Failed calls log an error line. */
     virtual String16 findUdiskBootVideoPath() = 0;
 
-    /** Presets the application black list. Returns 0, or -1 for any other answer. */
+    /**
+     * Presets the application black list. Returns 0 when the status is 0; for any other it returns
+     * -1 and logs an error line.
+     */
     virtual int presetApkBlackList() = 0;
 
-    /** Presets the EDID file. Returns 0, or -1 for any other answer. */
+    /**
+     * Presets the EDID file. Returns 0 when the status is 0; for any other it returns -1 and logs
+     * an error line.
+     */
     virtual int presetEdidFile() = 0;
 
-    /** Tells whether the fixed eye-protection picture is on; false when the command failed. */
+    /** True when the fixed eye-protection picture is on. */
     virtual bool getEyePqFixedEnable() = 0;
 
-    /** Returns the setting of the fixed eye-protection picture. */
+    /** Returns the setting of the fixed eye-protection picture, as service-defined text. */
     virtual String16 getEyePqFixedValue() = 0;
 
-    /** Returns the Wi-Fi country code. */
+    /** Returns the Wi-Fi country code as text. */
     virtual String16 getWifiCountryCode() = 0;
 
     virtual ~IProjectId() = default;

@@ -7,20 +7,21 @@ namespace android {
 /**
  * The suspend and fake-standby states of the board.
  *
- * Every call blocks for one exchange with the service; any thread may call.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns -1 or false; otherwise an int result is 0, and a bool result is the service's answer.
  */
 class ISuspendCtrl : public virtual RefBase {
   public:
-    /** Tells whether the board is suspended; false when the command failed. */
+    /** True when the board is in the suspend state. */
     virtual bool getSuspendStatus() = 0;
 
-    /** Enters or leaves the suspend state. Returns 0, or -1 when the command failed. */
+    /** Enters the suspend state with true, leaves it with false. */
     virtual int setSuspendStatus(bool on) = 0;
 
-    /** Tells whether the board is in fake standby; false when the command failed. */
+    /** True when the board is in fake standby. The name is spelt so. */
     virtual bool getFakeStandyStatus() = 0;
 
-    /** Enters or leaves fake standby. Returns 0, or -1 when the command failed. */
+    /** Enters fake standby with true, leaves it with false. */
     virtual int setFakeStandyStatus(bool on) = 0;
 
     virtual ~ISuspendCtrl() = default;
