@@ -7,13 +7,16 @@
 
 namespace android {
 
-/** An HDCP version; the values are the service's. */
+/** An HDCP version; the values are service-defined. */
 enum _EnumHdcpVersion : int32_t {};
 
-/** An aspect mode; the values are the service's. */
+/** An aspect mode; the values are service-defined. */
 enum _EnumAspect_ : int32_t {};
 
-/** One preset colour-temperature entry; the meaning of the values is the service's. */
+/**
+ * One preset colour-temperature entry. Fields in the order of the reply, behind a leading number
+ * that is dropped; meanings are service-defined.
+ */
 struct PresetColorTempValues {
     int32_t first = 0;
     int32_t second = 0;
@@ -24,14 +27,14 @@ struct PresetColorTempValues {
  * The panel's picture quality: dynamic backlight, white balance, basic picture settings, display
  * zones, HDCP version and aspect mode.
  *
- * Every call blocks for one exchange with the service; any thread may call. Arguments are not
- * checked: scales, units and modes are service-defined. Unless said otherwise, an int result is
- * the service's status word, -1 when the command failed; a bool result is false when the command
- * failed.
+ * Calls block until the service has answered; any thread may call. Unless noted, a failed call (see
+ * ITarnManager) returns -1 or false, an int result is the service's status word, and a bool result
+ * is the service's answer. Arguments are passed on unchecked; scales, units and modes are
+ * service-defined.
  */
 class IPQCtrl : public virtual RefBase {
   public:
-    /** Tells whether dynamic contrast by backlight (DCR) is on. */
+    /** True when DCR, dynamic contrast by backlight, is on. */
     virtual bool getDCREnable() = 0;
 
     /** Returns the highest backlight level that DCR uses. */
@@ -40,13 +43,13 @@ class IPQCtrl : public virtual RefBase {
     /** Returns the lowest backlight level that DCR uses. */
     virtual int getDcrMinBacklight() = 0;
 
-    /** Returns the time of one DCR step, in the service's unit. */
+    /** Returns the time of one DCR step; unit service-defined. */
     virtual int getDcrStepTime() = 0;
 
-    /** Returns the size of one DCR step. */
+    /** Returns the size of one DCR step; scale service-defined. */
     virtual int getDcrStepValue() = 0;
 
-    /** Switches DCR; true when the service says so. */
+    /** Switches DCR. */
     virtual bool setDCREnable(bool on) = 0;
 
     /** Sets the highest backlight level that DCR uses. */
@@ -55,140 +58,142 @@ class IPQCtrl : public virtual RefBase {
     /** Sets the lowest backlight level that DCR uses. */
     virtual int setDcrMinBacklight(int level) = 0;
 
-    /** Sets the time of one DCR step, in the service's unit. */
+    /** Sets the time of one DCR step, in the unit of getDcrStepTime(). */
     virtual int setDcrStepTime(int time) = 0;
 
-    /** Sets the size of one DCR step. */
+    /** Sets the size of one DCR step, on the scale of getDcrStepValue(). */
     virtual int setDcrStepValue(int value) = 0;
 
-    /** Tells whether dynamic backlight control (DBC) is on. */
+    /** True when DBC, dynamic backlight control, is on. */
     virtual bool getDBCEnable() = 0;
 
-    /** Switches DBC; true when the service says so. */
+    /** Switches DBC. */
     virtual bool setDBCEnable(bool on) = 0;
 
-    /** Returns the stored white-balance gain of red. */
+    /** Returns the stored white-balance gain of red; scale service-defined. */
     virtual int getPQRGain() = 0;
 
-    /** Sets and stores the white-balance gain of red. */
+    /** Sets and stores the white-balance gain of red; setPQRGainWithoutSave() does not store. */
     virtual int setPQRGain(int gain) = 0;
 
-    /** Returns the stored white-balance gain of green. */
+    /** As getPQRGain(), for green. */
     virtual int getPQGGain() = 0;
 
-    /** Sets and stores the white-balance gain of green. */
+    /** As setPQRGain(), for green. */
     virtual int setPQGGain(int gain) = 0;
 
-    /** Returns the stored white-balance gain of blue. */
+    /** As getPQRGain(), for blue. */
     virtual int getPQBGain() = 0;
 
-    /** Sets and stores the white-balance gain of blue. */
+    /** As setPQRGain(), for blue. */
     virtual int setPQBGain(int gain) = 0;
 
-    /** Returns the colour temperature. */
+    /** Returns the colour temperature; scale service-defined. */
     virtual int getColorTemp() = 0;
 
-    /** Sets the colour temperature. */
+    /** Sets the colour temperature, on the same scale. */
     virtual int setColorTemp(int colorTemp) = 0;
 
-    /** Returns the saturation. */
+    /** Returns the saturation; scale service-defined. */
     virtual int getSaturation() = 0;
 
-    /** Sets the saturation. */
+    /** Sets the saturation, on the same scale. */
     virtual int setSaturation(int saturation) = 0;
 
-    /** Returns the sharpness. */
+    /** Returns the sharpness; scale service-defined. */
     virtual int getSharpness() = 0;
 
-    /** Sets the sharpness. */
+    /** Sets the sharpness, on the same scale. */
     virtual int setSharpness(int sharpness) = 0;
 
-    /** Returns the contrast. */
+    /** Returns the contrast; scale service-defined. */
     virtual int getContrast() = 0;
 
-    /** Sets the contrast. */
+    /** Sets the contrast, on the same scale. */
     virtual int setContrast(int contrast) = 0;
 
-    /** Returns the hue. */
+    /** Returns the hue; scale service-defined. */
     virtual int getHue() = 0;
 
-    /** Sets the hue. */
+    /** Sets the hue, on the same scale. */
     virtual int setHue(int hue) = 0;
 
-    /** Returns the picture mode. */
+    /** Returns the picture mode; modes are service-defined. */
     virtual int getPictureMode() = 0;
 
-    /** Sets the picture mode. */
+    /** Sets the picture mode, one as getPictureMode() returns it. */
     virtual int setPictureMode(int mode) = 0;
 
-    /** Returns the gamma mode. */
+    /** Returns the gamma mode; modes are service-defined. */
     virtual int getGammaMode() = 0;
 
-    /** Sets the gamma mode. */
+    /** Sets the gamma mode, one as getGammaMode() returns it. */
     virtual int setGammaMode(int mode) = 0;
 
-    /** Returns the brightness. */
+    /** Returns the picture's brightness, not the backlight's; scale service-defined. */
     virtual int getBrightness() = 0;
 
-    /** Sets the brightness. */
+    /** Sets the picture's brightness, on the same scale. */
     virtual int setBrightness(int brightness) = 0;
 
-    /** Returns the applied white-balance gain of red. */
+    /** Returns the applied white-balance gain of red, stored or not. */
     virtual int getPQRGainWithoutSave() = 0;
 
     /** Applies a white-balance gain of red without storing it. */
     virtual int setPQRGainWithoutSave(int gain) = 0;
 
-    /** Returns the applied white-balance gain of green. */
+    /** As getPQRGainWithoutSave(), for green. */
     virtual int getPQGGainWithoutSave() = 0;
 
-    /** Applies a white-balance gain of green without storing it. */
+    /** As setPQRGainWithoutSave(), for green. */
     virtual int setPQGGainWithoutSave(int gain) = 0;
 
-    /** Returns the applied white-balance gain of blue. */
+    /** As getPQRGainWithoutSave(), for blue. */
     virtual int getPQBGainWithoutSave() = 0;
 
-    /** Applies a white-balance gain of blue without storing it. */
+    /** As setPQRGainWithoutSave(), for blue. */
     virtual int setPQBGainWithoutSave(int gain) = 0;
 
-    /** Writes a preset colour-temperature entry; the five numbers are passed on in their order. */
+    /** Writes a preset colour-temperature entry: five service-defined numbers in their order. */
     virtual int setPresetColorTempMode(int a, int b, int c, int d, int e) = 0;
 
-    /** Returns the preset colour-temperature entry of two numbers; all 0 on failure. */
+    /**
+     * Returns the preset entry of two service-defined numbers; all 0 when the call failed. Every
+     * call logs an error line.
+     */
     virtual PresetColorTempValues getPresetColorTempMode(int a, int b) = 0;
 
-    /** Resets the white balance. */
+    /** Resets the white balance to service-defined gains. */
     virtual int resetWhiteBalance() = 0;
 
-    /** Returns the index of the eye-care picture mode to be saved; 3 when the command failed. */
+    /**
+     * Returns the index of the eye-care picture mode to be saved; 3 when the call failed. Every
+     * call logs warnings.
+     */
     virtual int getEyePQModeIndexToSave() = 0;
 
-    /** Tells whether the tiling of video display zones is on. */
+    /** True when the tiling of video display zones is on. */
     virtual bool getVideoDisplayZoneTilingEnable() = 0;
 
-    /** Switches the tiling of video display zones; the number is passed on unchanged. */
+    /** Switches the tiling of video display zones; enabled is a number, sent as it is. */
     virtual bool setVideoDisplayZoneTilingEnable(int enabled) = 0;
 
-    /** Tells whether the compensation of video display zones is on. */
+    /** True when the compensation of video display zones is on. */
     virtual bool getVideoDisplayZoneCompEnable() = 0;
 
-    /** Switches the compensation of video display zones; the number is passed on unchanged. */
+    /** Switches the compensation of video display zones; enabled is a number, sent as it is. */
     virtual bool setVideoDisplayZoneCompEnable(int enabled) = 0;
 
-    /**
-     * Asks the service for the HDCP version, but discards the answer.
-     *
-     * @return source itself, also when the command failed.
-     */
+    /** Always returns source: it is not sent, and the service's answer is dropped. */
     virtual int getHDCPVersion(_TarnEnumInputSourceId_ source) = 0;
 
-    /** Sets the HDCP version of an input source; true when the service says so. */
+    /** Sets the HDCP version of one input source. */
     virtual bool setHDCPVersion(_TarnEnumInputSourceId_ source, _EnumHdcpVersion version) = 0;
 
-    /** Returns the aspect mode. */
+    /** Returns the aspect mode, an _EnumAspect_. */
     virtual int getAspectMode() = 0;
 
-    /** Sets the aspect mode; true when the status is not 0, so also when the command failed. */
+    /** Sets the aspect mode. True when the status is not 0, so also when the call failed. */
     virtual bool setAspectMode(_EnumAspect_ mode) = 0;
 
     virtual ~IPQCtrl() = default;

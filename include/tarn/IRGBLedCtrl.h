@@ -6,52 +6,53 @@
 
 namespace android {
 
-/** What the voice assistant's LED shows; the values are the service's. */
+/** What the voice assistant's LED shows; the values are service-defined. */
 enum _EnumVaLedState_ : int32_t {};
 
 /**
  * The RGB status LEDs.
  *
- * Every call blocks for one exchange with the service; any thread may call. State and LED numbers
- * are service-defined and not checked. Unless a method says otherwise, an int result is the
- * service's status word, -1 when the command failed, and a bool result is false when it failed.
+ * Calls block until the service has answered; any thread may call. Unless noted, a failed call (see
+ * ITarnManager) returns -1 or false, an int result is the service's status word, and a bool result
+ * is the service's answer. Arguments are passed on unchecked; states and LED numbers are
+ * service-defined.
  */
 class IRGBLedCtrl : public virtual RefBase {
   public:
-    /** Shows a power state. */
+    /** Shows a power state of the board. */
     virtual int setPowerState(int state) = 0;
 
     /** Shows that an infrared signal came in. */
     virtual int setIRInputState() = 0;
 
-    /** Shows a Bluetooth state. */
+    /** Shows a state of Bluetooth. */
     virtual int setBluetoothState(int state) = 0;
 
-    /** Shows a microphone state. */
+    /** Shows a state of the microphones. */
     virtual int setMicrophoneState(int state) = 0;
 
-    /** Sets the enable state of the power LED. */
+    /** Sets the enable state of the power LED; whether 0 is off is service-defined. */
     virtual int setPowerLedEnableState(int state) = 0;
 
-    /** Shows the state of an over-the-air update. */
+    /** Shows a state of the over-the-air upgrade. */
     virtual int setLedOtaState(int state) = 0;
 
-    /** Shows the state of a diagnosis. */
+    /** Shows a state of the diagnosis. */
     virtual int setDiagnosisState(int state) = 0;
 
-    /** Shows a standby state. */
+    /** Shows a state of standby. */
     virtual int setPowerStandbyState(int state) = 0;
 
-    /** Switches one LED on; true when the service says so. */
+    /** Switches one LED on; setLedOff() switches it off. */
     virtual bool setLedOn(int led) = 0;
 
-    /** Switches one LED off; true when the service says so. */
+    /** Switches one LED off. */
     virtual bool setLedOff(int led) = 0;
 
-    /** Shows a state of the voice assistant; true when the service says so. */
+    /** Shows a state of the voice assistant. */
     virtual bool setVaLedState(_EnumVaLedState_ state) = 0;
 
-    /** Returns the state of the voice assistant's LED, 0 when the reply carries none. */
+    /** Returns what the voice assistant's LED shows; 0 when the call failed or told none. */
     virtual int getVaLedState() = 0;
 
     virtual ~IRGBLedCtrl() = default;

@@ -6,7 +6,10 @@
 
 namespace android {
 
-/** The two angles of the sound screen, in the service's unit. */
+/**
+ * The two angles of the sound screen, in the order of the reply; meanings and unit are
+ * service-defined.
+ */
 struct SoundScreenAngle {
     int32_t first = 0;
     int32_t second = 0;
@@ -15,17 +18,18 @@ struct SoundScreenAngle {
 /**
  * The angles of the sound screen.
  *
- * Every call blocks for one exchange with the service; any thread may call.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * logs an error line.
  */
 class ISoundScreenAngleCtrl : public virtual RefBase {
   public:
     /**
-     * Sets both angles. Mind the sense: true when the status is not 0, so also when the command
-     * failed.
+     * Sets both angles, passed on unchecked. True when the status is not 0, so also when the call
+     * failed; such a status logs an error line.
      */
     virtual bool setSoundScreenAngle(int first, int second) = 0;
 
-    /** Returns both angles, zeros when the command failed. */
+    /** Returns both angles, or two zeros when the call failed. */
     virtual SoundScreenAngle getSoundScreenAngle() = 0;
 
     virtual ~ISoundScreenAngleCtrl() = default;

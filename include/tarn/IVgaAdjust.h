@@ -5,17 +5,18 @@
 namespace android {
 
 /**
- * Picture adjustment of the VGA input: one value per item, both service-defined and not checked.
+ * Picture adjustment of the VGA input: one value for each item.
  *
- * Every call blocks for one exchange with the service; any thread may call. A result is the
- * service's status word, -1 when the command failed.
+ * Calls block until the service has answered; any thread may call. Every result is the service's
+ * status word, -1 when the call failed (see ITarnManager). Arguments are passed on unchecked; items
+ * and the scales of their values are service-defined.
  */
 class IVgaAdjust : public virtual RefBase {
   public:
-    /** Sets the value of one adjustment item. */
+    /** Sets the value of one item. */
     virtual int setvgaAdjustData(int item, int value) = 0;
 
-    /** Returns the value of one adjustment item. */
+    /** Returns the value of one item; a value of -1 can't be told from a failure. */
     virtual int getvgaAdjustData(int item) = 0;
 
     virtual ~IVgaAdjust() = default;
