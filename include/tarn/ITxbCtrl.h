@@ -6,38 +6,38 @@
 
 namespace android {
 
-/** A key of the TXB board; the values are the service's. */
+/** A key of the TXB board; the values are service-defined. */
 enum _EnumTxbKeyType_ : int32_t {};
 
-/** A material that the TXB board tells apart; the values are the service's. */
+/** A material that the TXB board tells apart; the values are service-defined. */
 enum _EnumTxbMaterialType_ : int32_t {};
 
 /**
  * The TXB pen and sensor board.
  *
- * Every call blocks for one exchange with the service; any thread may call. A command fails when
- * the service is missing, dead or answers -1; any other transport error reads as an answer of 0.
- * The send methods are false only when the service answers 0: a failed command, -1, reads as true.
- * An array with count below 1 or without values is not sent and counts as answered with 0.
+ * Calls block until the service has answered; any thread may call. The send methods are true when
+ * the status is not 0, so also when the call failed (see ITarnManager). An array with count below 1
+ * or null values is not sent and counts as a status of 0. Arguments are passed on unchecked;
+ * numbers, units and states are service-defined.
  */
 class ITxbCtrl : public virtual RefBase {
   public:
-    /** Sends a key code. */
+    /** Sends a key. */
     virtual bool sendTxbKeycode(_EnumTxbKeyType_ key) = 0;
 
-    /** Sends a type of material. */
+    /** Sends a kind of material. */
     virtual bool sendTxbMaterial(_EnumTxbMaterialType_ material) = 0;
 
     /** Sends signal amplitudes, count of them; values is only read. */
     virtual bool sendTxbSignalAmplitude(int* values, int count) = 0;
 
-    /** Returns the mute state of the sensors, -1 on failure. */
+    /** Returns the mute state of the sensors, -1 when the call failed. */
     virtual int getTxbSensorMuteState() = 0;
 
-    /** Mutes or unmutes a sensor; true when the service says so, false on failure. */
+    /** Mutes or unmutes one sensor. Returns the service's answer, false when the call failed. */
     virtual bool setTxbSensorMuteState(int sensor, bool mute) = 0;
 
-    /** Sends coordinates of the pen. */
+    /** Sends the coordinates of the pen. */
     virtual bool sendTxbPenCoord(int x, int y) = 0;
 
     /**
@@ -45,11 +45,11 @@ class ITxbCtrl : public virtual RefBase {
      *
      * @param out receives them; must not be null and must hold as many ints as the service sends,
      *            which nothing bounds.
-     * @return their number; -1 on failure, and out stays as it was.
+     * @return their number; -1 when the call failed, which leaves out as it was.
      */
     virtual int getTxbSensorSelfTestState(int* out) = 0;
 
-    /** Sets self-test states, count of them; true exactly when the service answers 0. */
+    /** Sets self-test states, count of them; values is only read. True when the status is 0. */
     virtual bool setTxbSensorSelfTestState(int* values, int count) = 0;
 
     virtual ~ITxbCtrl() = default;
