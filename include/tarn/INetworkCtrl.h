@@ -6,114 +6,113 @@
 namespace android {
 
 /**
- * The board's wired network, wake-on-LAN, VLAN and network sharing.
+ * The board's network: Ethernet ports, the microcontroller's address, wake-up over the network,
+ * VLAN, LLDP and network sharing.
  *
- * Any thread may call; every call blocks for one exchange with the service. Arguments are not
- * checked: their meaning is the service's. An int result is the service's status word, -1 when the
- * command failed; unless said otherwise, a bool result is false when the command failed.
- * Addresses travel as text and are not parsed here.
+ * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
+ * returns -1, false or an empty text, unless noted. An int result is the service's status word;
+ * unless noted, a bool result is the service's answer. Arguments are passed on unchecked: addresses
+ * travel as text and are not parsed.
  */
 class INetworkCtrl : public virtual RefBase {
   public:
-    /** Switches one Ethernet port. */
+    /** Switches one Ethernet port; port numbers are service-defined. */
     virtual int SetEthernetEnable(int port, bool on) = 0;
 
-    /** Switches NAT on one Ethernet port. */
+    /** Switches address translation (NAT) on one Ethernet port. */
     virtual int SetEthernetNatEnable(int port, bool on) = 0;
 
-    /**
-     * Returns the signal strength of one antenna as text that the service formats; empty when the
-     * command failed.
-     */
+    /** Returns the signal strength of one antenna as text; number and form are service-defined. */
     virtual String16 getAntennaRssi(int antenna) = 0;
 
-    /** Sets the link rate of one Ethernet port. */
+    /** Sets the link rate of one port; its unit is service-defined. */
     virtual int setEthernetRate(int port, int rate) = 0;
 
-    /** Returns the link rate of one Ethernet port. */
+    /** Returns the link rate of one port, in the unit of setEthernetRate(). */
     virtual int getEthernetRate(int port) = 0;
 
-    /** Switches the microcontroller's DHCP client. */
+    /** Switches the DHCP client of the board's microcontroller. */
     virtual int setMcuDhcpEnable(bool on) = 0;
 
-    /** Sets the microcontroller's static address. Every call writes an error line to the log. */
+    /** Sets the microcontroller's static address. Every call logs an error line. */
     virtual int setMcuDhcpIp(String16 ip) = 0;
 
-    /** Sets the microcontroller's gateway. */
+    /** Sets the microcontroller's gateway address. */
     virtual int setMcuDhcpGw(String16 gateway) = 0;
 
     /** Sets the microcontroller's network mask. */
     virtual int setMcuDhcpMsk(String16 mask) = 0;
 
-    /** Switches wake-on-LAN; true when the service says so. */
+    /** Switches wake-on-LAN; SetWOLPCOnlyEnable() is for the PC module alone. */
     virtual bool SetWOLEnable(bool on) = 0;
 
-    /** Tells whether wake-on-LAN is on. */
+    /** True when wake-on-LAN is on. */
     virtual bool GetWOLEnable() = 0;
 
-    /** Switches wake-on-wireless; true when the service says so. */
+    /** Switches wake-on-wireless. */
     virtual bool SetWOWEnable(bool on) = 0;
 
-    /** Tells whether wake-on-wireless is on. */
+    /** True when wake-on-wireless is on. */
     virtual bool GetWOWEnable() = 0;
 
-    /** Returns the Wi-Fi dongle's service-defined status. */
+    /** Returns the status of the Wi-Fi dongle; what true means is service-defined. */
     virtual bool getWifiDongleStatus() = 0;
 
-    /** Lets the microcontroller control the monitor network; true when the service says so. */
+    /** Lets the microcontroller control the monitor network, or takes that back. */
     virtual bool setMcuToControlMonitorNetwork(bool on) = 0;
 
-    /** Disables the AP's USB device, or enables it with false; true when the service says so. */
+    /** True disables the AP's USB device, false enables it. */
     virtual bool disableApUsbDevice(bool disable) = 0;
 
-    /** Sets the VLAN identifier and priority. */
+    /** Sets VLAN identifier and priority in one command; each has a getter of its own. */
     virtual int setVlanParams(int vid, int priority) = 0;
 
-    /** Returns the VLAN identifier. */
+    /** Returns the VLAN identifier that setVlanParams() sets. */
     virtual int getVlanParamsVid() = 0;
 
-    /** Returns the VLAN priority. */
+    /** Returns the VLAN priority that setVlanParams() sets. */
     virtual int getVlanParamsVidPriority() = 0;
 
-    /** Switches VLAN; true for any status but 0, a failed command included. */
+    /** Switches VLAN. True when the status is not 0, so also when the call failed. */
     virtual bool setVlanEnable(bool on) = 0;
 
-    /** Tells whether VLAN is on; true for any status but 0, a failed command included. */
+    /**
+     * Sends the same command as setVlanEnable(), without an argument. True when the status is not
+     * 0, so also when the call failed.
+     */
     virtual bool getVlanEnable() = 0;
 
-    /**
-     * Runs a traceroute to target; true when the service says so. The output is not returned.
-     */
+    /** Runs a traceroute to target. Its output is not returned, only the service's answer. */
     virtual bool getTracerouteMessage(String16 target) = 0;
 
-    /** Sets the LLDP parameters. */
+    /** Sets the LLDP parameters, one number in a service-defined encoding. */
     virtual int setLldpParams(int params) = 0;
 
-    /** Returns the LLDP parameters. */
+    /** Returns the LLDP parameters in the same encoding. */
     virtual int getLldpParams() = 0;
 
-    /** Sets the direction of network sharing; true when the service says so. */
+    /** Sets the direction of network sharing; which one is true is service-defined. */
     virtual bool setSharingDirection(bool direction) = 0;
 
-    /** Returns the direction of network sharing. */
+    /** Returns the direction that setSharingDirection() sets. */
     virtual bool getSharingDirection() = 0;
 
-    /** Switches sharing from Android to the PC module; true when the service says so. */
+    /** Switches sharing of Android's network with the PC module. */
     virtual bool setAndroidToPcSharing(bool on) = 0;
 
-    /** Tells whether Android shares its network with the PC module. */
+    /** True when Android shares its network with the PC module. */
     virtual bool getAndroidToPcSharing() = 0;
 
-    /** Switches sharing over the hotspot; true when the service says so. */
+    /** Switches sharing of the network over the hotspot. */
     virtual bool setHotspotSharing(bool on) = 0;
 
-    /** Tells whether the network is shared over the hotspot. */
+    /** True when the network is shared over the hotspot. */
     virtual bool getHotspotSharing() = 0;
 
-    /** Switches wake-on-LAN for the PC module only; true when the service says so. */
+    /** Switches wake-on-LAN for the PC module alone. */
     virtual bool SetWOLPCOnlyEnable(bool on) = 0;
 
-    /** Tells whether wake-on-LAN is on for the PC module only. */
+    /** True when wake-on-LAN is on for the PC module alone. */
     virtual bool GetWOLPCOnlyEnable() = 0;
 
     virtual ~INetworkCtrl() = default;

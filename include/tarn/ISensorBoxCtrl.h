@@ -8,7 +8,10 @@
 
 namespace android {
 
-/** One sensor box's firmware; the meaning of its fields is the service's. Texts are UTF-8. */
+/**
+ * One sensor box's firmware. Fields in the order of the reply; meanings are service-defined. Texts
+ * are UTF-8.
+ */
 struct EntitySensorBox {
     int32_t value0 = 0;
     std::string text0;
@@ -21,12 +24,16 @@ struct EntitySensorBox {
     bool flag2 = false;
 };
 
-/** The external sensor boxes. */
+/**
+ * The external sensor boxes.
+ *
+ * Calls block until the service has answered; any thread may call.
+ */
 class ISensorBoxCtrl : public virtual RefBase {
   public:
     /**
-     * Asks for the boxes' firmware and empties *out, which stays empty. Always true; out must not
-     * be null. Blocks for one exchange with the service; any thread may call.
+     * Asks for the boxes' firmware, but reads no list back: *out is empty afterwards, the result
+     * always true. A failed call (see ITarnManager) logs an error line. out must not be null.
      */
     virtual bool getFwSensorBoxList(std::vector<EntitySensorBox>* out) = 0;
 
