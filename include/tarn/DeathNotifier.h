@@ -4,10 +4,10 @@
 
 namespace android {
 
-/** Drops the process's reference to "tarn.service" when that dies. */
+/** Drops the process's reference to "tarn.service" when the service dies. */
 class DeathNotifier : public IBinder::DeathRecipient {
   public:
-    /** Called on a binder thread; the next use of the service looks it up again. */
+    /** Called on a binder thread of the process; the next use of the service looks it up again. */
     void binderDied(const wp<IBinder>& who) override;
 };
 

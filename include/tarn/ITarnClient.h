@@ -19,7 +19,9 @@ class ITarnClient : public IInterface {
     /** The object itself where it lives in this process, else a new proxy; null for null. */
     static sp<ITarnClient> asInterface(const sp<IBinder>& binder);
 
-    /** Replaces the default implementation; false, and nothing changed, for null. */
+    /**
+     * Replaces what getDefaultImpl() returns, which nothing else uses. Null changes nothing: false.
+     */
     static bool setDefaultImpl(const sp<ITarnClient>& impl);
     static sp<ITarnClient> getDefaultImpl();
 
@@ -29,12 +31,13 @@ class ITarnClient : public IInterface {
     virtual const String16& getInterfaceDescriptor() const;
 
     /**
-     * Delivers one notification; towards another process it is sent one-way.
+     * Delivers one notification. To another process it is sent one-way and arrives on a binder
+     * thread there; in the same process it is a plain call.
      *
      * @param msgType service-defined number.
      * @param data    the bytes, or null.
-     * @param size    number of bytes. A receiver in another process may see up to three bytes
-     *                more, the padding of the last word.
+     * @param size    number of bytes. A receiver in another process may see up to three bytes more,
+     *                the padding of the last word.
      * @param ext     not transmitted to another process.
      */
     virtual void notify(unsigned int msgType, void* data, unsigned int size, void* ext) = 0;
@@ -44,7 +47,11 @@ class ITarnClient : public IInterface {
     };
 };
 
-/** The receiving side. All notifications of a process are delivered one at a time. */
+/**
+ * The receiving side; called on binder threads of the process. What comes from other processes is
+ * delivered one at a time in the whole process; without the right interface token it gets
+ * PERMISSION_DENIED.
+ */
 class BnTarnClient : public BnInterface<ITarnClient> {
   public:
     status_t onTransact(uint32_t code, const Parcel& data, Parcel* reply,
@@ -52,13 +59,13 @@ class BnTarnClient : public BnInterface<ITarnClient> {
 
   protected:
     /**
-     * Takes the buffer that came in the transaction being served: notify() owns it, calls this
-     * first and frees data with delete[] of uint8_t where the answer is true, which it is once for
-     * each such buffer. The buffer of a caller in this process stays the caller's: false.
+     * Tells notify() whether it must free data. True once, for the buffer that came in the
+     * transaction being served on this thread: free it with delete[] as a uint8_t array. False for
+     * any other buffer, which stays its caller's.
      */
     static bool takeBuffer(const void* data);
 
-    /** Held for the whole of every transaction. */
+    /** Held for the whole of every transaction, notify() included. */
     static Mutex mNotifyLock;
 };
 

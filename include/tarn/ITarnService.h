@@ -8,7 +8,7 @@
 namespace android {
 
 /**
- * The service that is published as "tarn.service".
+ * The service that is published as "tarn.service": clients connect, to be notified, and invoke.
  *
  * The meta-interface is written out by hand: the platform's macro differs between releases.
  */
@@ -20,7 +20,9 @@ class ITarnService : public IInterface {
     /** The object itself where it lives in this process, else a new proxy; null for null. */
     static sp<ITarnService> asInterface(const sp<IBinder>& binder);
 
-    /** Replaces the default implementation; false, and nothing changed, for null. */
+    /**
+     * Replaces what getDefaultImpl() returns, which nothing else uses. Null changes nothing: false.
+     */
     static bool setDefaultImpl(const sp<ITarnService>& impl);
     static sp<ITarnService> getDefaultImpl();
 
@@ -29,12 +31,16 @@ class ITarnService : public IInterface {
 
     virtual const String16& getInterfaceDescriptor() const;
 
-    /** Registers a client for notifications under its process id. Returns the service's answer. */
+    /**
+     * Registers a client for notifications under its process id. Returns the service's answer, 0
+     * when the service was not reached: no sign of success. A proxy logs an error line each time.
+     */
     virtual int connect(int pid, const sp<ITarnClient>& client) = 0;
 
     /**
-     * Carries a payload of the caller's own to the service. data begins with the interface token
-     * "android.ITarnService", which the caller writes. Returns the transaction's status.
+     * Carries a payload of the caller's own to the service and waits for its answer. data begins
+     * with the interface token "android.ITarnService", which the caller writes. Returns the
+     * transaction's status.
      */
     virtual status_t invoke(const Parcel& data, Parcel* reply) = 0;
 
@@ -44,7 +50,10 @@ class ITarnService : public IInterface {
     };
 };
 
-/** The receiving side; called on binder threads, several at once. */
+/**
+ * The receiving side; called on binder threads of the process, several at once. A call without the
+ * right interface token gets PERMISSION_DENIED.
+ */
 class BnTarnService : public BnInterface<ITarnService> {
   public:
     status_t onTransact(uint32_t code, const Parcel& data, Parcel* reply,

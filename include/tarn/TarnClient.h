@@ -11,48 +11,59 @@ namespace android {
 class ITarnClientCallback : public virtual RefBase {
   public:
     /**
-     * Called on a binder thread, one notification at a time in the process.
+     * Receives one notification. When the service is in another process, this is called on a binder
+     * thread of the process, and the next notification is delivered when it has returned. When the
+     * service is in this process, it is called on the thread that raises the notification, and must
+     * not raise another one.
      *
      * @param msgType service-defined number.
      * @param data    the bytes; valid during the call only.
-     * @param size    number of bytes, up to three more than were sent.
+     * @param size    number of bytes; from another process up to three more than were sent.
      * @param ext     null for a notification from another process.
      */
     virtual void notify(unsigned int msgType, void* data, unsigned int size, void* ext) = 0;
 };
 
 /**
- * The process's reference to "tarn.service": waits, if need be for ever, until the service is
- * published, links to its death and registers the client with it. The reference is dropped when
- * the service dies; a caller that may see that happen uses a TarnClient instead.
+ * Returns the process's reference to "tarn.service". Where there is none yet, it waits until the
+ * service is published, for ever if need be, links to its death and registers client with it; when
+ * the reference is there already, client is not registered. The reference is dropped when the
+ * service dies: a caller that may see that happen uses a TarnClient instead. Any thread may call.
  */
 const sp<ITarnService>& getTarnService(const ITarnClient* client);
 
-/** An application's client of "tarn.service". It finds a restarted service by itself. */
+/**
+ * An application's client of "tarn.service"; any thread may call. Hold it in an sp<> from the
+ * start.
+ *
+ * Each call finds the service by itself, a restarted one too. The client whose call found it is
+ * registered with it; every other one gets its notifications only after a connect() of its own.
+ */
 class TarnClient : public BnTarnClient {
   public:
     /** @param callback where notifications go; null drops them. */
     explicit TarnClient(const sp<ITarnClientCallback>& callback = nullptr);
     ~TarnClient() override;
 
-    /** Registers with the service; waits until there is one. Always 0. */
+    /** Registers with the service; waits until there is one. Always returns 0. */
     int connect();
 
     /**
-     * Carries data, which begins with the interface token "android.ITarnService", to the service;
-     * waits until there is one. Returns the service's status.
+     * Carries data, which begins with the interface token "android.ITarnService", to the service
+     * and waits for its answer, before that until there is a service. Returns the service's or the
+     * transport's status.
      */
     status_t invoke(const Parcel& data, Parcel* reply);
 
     /**
-     * Hands a notification to the callback; called on a binder thread. It owns the buffer of a
+     * Hands a notification to the callback; see there for the thread. It owns the buffer of a
      * notification from another process: a derived class that overrides it takes the buffer with
      * takeBuffer() or calls this one.
      */
     void notify(unsigned int msgType, void* data, unsigned int size, void* ext) override;
 
   protected:
-    /** Replaces the callback. Waits for a notification that is being delivered. */
+    /** Replaces the callback, after a notification being delivered: do not call it from there. */
     void setCallback(const sp<ITarnClientCallback>& callback);
 
     /** A derived class fills it before the first notification, later with setCallback(). */

@@ -9,8 +9,8 @@ namespace android {
 class TarnCreator {
   public:
     /**
-     * The process's manager, created on the first call; never null, never deleted by the library.
-     * Any thread may call. Succeeds without a hardware service too; see isTarnReady().
+     * Returns the process's manager, created on the first call: never null, owned by the library
+     * and never deleted. Any thread may call. It needs no hardware service; see isTarnReady().
      */
     static ITarnManager* create();
 

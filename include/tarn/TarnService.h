@@ -7,28 +7,38 @@
 
 namespace android {
 
-/** The platform side of the published service; null before instantiate() and after its end. */
+/**
+ * The platform side of the published service; null before instantiate(), after deinstantiate() and
+ * after the service's end.
+ */
 extern ITarnPlatform* sTarnPlatform;
 
 /**
- * The service of "tarn.service": keeps its clients for ever, each once, and fans every
- * notification of its platform side out to all of them.
+ * The service of "tarn.service": keeps its clients for ever, each once and dead ones too, and sends
+ * every notification of its platform side to all of them.
+ *
+ * Clients in other processes call it on binder threads of this process, several at once. Any thread
+ * may call its platform side; notifications go out one at a time, on the thread that raises them.
  */
 class TarnService : public BnTarnService, public ITarnPlatform {
   public:
-    /** Creates a service and publishes it as "tarn.service"; sTarnPlatform is its other side. */
+    /**
+     * Creates a service and publishes it as "tarn.service", not for isolated processes;
+     * sTarnPlatform is its platform side. When it can't be published it is gone again, and
+     * sTarnPlatform null.
+     */
     static void instantiate();
 
-    /** Forgets the platform side; the service stays published. */
+    /** Sets sTarnPlatform to null; the service stays published. */
     static void deinstantiate();
 
     TarnService();
     ~TarnService() override;
 
-    /** Registers a client, recognised by its binder. Always -1, which clients don't test. */
+    /** Registers a client, recognised by its binder. Always returns -1, which is no failure. */
     int connect(int pid, const sp<ITarnClient>& client) override;
 
-    /** Always -1. */
+    /** Does nothing; always returns -1. */
     status_t invoke(const Parcel& data, Parcel* reply) override;
 
     int initTv() const override;
