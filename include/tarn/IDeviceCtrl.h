@@ -35,10 +35,7 @@ class IDeviceCtrl : public virtual RefBase {
     /** The third list of devices as one service-defined number. */
     virtual int getThirdDeviceList() = 0;
 
-    /**
-     * The board's name. A failed call also logs an error line, which names
-     * CMD_AT_CFG_CTRL_READ_WVKEYBOX.
-     */
+    /** The board's name. A failed call also logs an error line, which names another command. */
     virtual String16 getBoardName() = 0;
 
     /** The model's name. A failed call also logs an error line. */
