@@ -52,202 +52,79 @@ namespace android {
 
 namespace {
 
-/** The controller in *slot, created on the first call; the manager keeps the strong reference. */
+/** The controller in *slot, a strong reference to an Interface; made on the first call. */
 template <typename Controller, typename Interface>
-Interface* obtain(TarnManager* manager, sp<Interface>* slot, Mutex* lock) {
+void* fill(TarnManager* manager, void* slot) {
+    auto& controller = *static_cast<sp<Interface>*>(slot);
+    if (controller == nullptr) controller = new Controller(sp<TarnManager>(manager));
+    return controller.get();
+}
+
+void* obtain(TarnManager* manager, Mutex* lock, void* (*fillSlot)(TarnManager*, void*),
+             void* slot) {
     AutoMutex guard(*lock);
-    if (*slot == nullptr) *slot = new Controller(sp<TarnManager>(manager));
-    return slot->get();
+    return fillSlot(manager, slot);
 }
 
 }  // namespace
 
-ISystemCtrl* TarnManager::getSystemCtrl() {
-    return obtain<SystemCtrl>(this, &mSystemCtrl, &mSystemCtrlLock);
-}
+// clang-format off
+#define ACCESSOR(name, Controller, lock)                                                     \
+    I##Controller* TarnManager::name() {                                                     \
+        return static_cast<I##Controller*>(                                                  \
+                obtain(this, &lock, fill<Controller, I##Controller>, &m##Controller));       \
+    }
 
-IProjectId* TarnManager::getProjectId() {
-    return obtain<ProjectId>(this, &mProjectId, &mProjectIdLock);
-}
+//       accessor                    controller             created under
+ACCESSOR(getSystemCtrl,              SystemCtrl,            mSystemCtrlLock)
+ACCESSOR(getProjectId,               ProjectId,             mProjectIdLock)
+ACCESSOR(getEasyTouch,               EasyTouch,             mEasyTouchLock)
+ACCESSOR(getPropertiesCtrl,          PropertiesCtrl,        mPropertiesCtrlLock)
+ACCESSOR(getSourceCtrl,              SourceCtrl,            mSourceCtrlLock)
+ACCESSOR(getDeviceCtrl,              DeviceCtrl,            mDeviceCtrlLock)
+ACCESSOR(getDevicePortCtrl,          DevicePortCtrl,        mDevicePortCtrlLock)
+ACCESSOR(getNetworkCtrl,             NetworkCtrl,           mNetworkCtrlLock)
+ACCESSOR(getBluetoothCtrl,           BluetoothCtrl,         mBluetoothCtrlLock)
+ACCESSOR(getAtCfgControl,            AtCfgControl,          mAtCfgControlLock)
+ACCESSOR(getKeyboardCtrl,            KeyboardCtrl,          mKeyboardCtrlLock)
+ACCESSOR(getAvManagerCtrl,           AvManagerCtrl,         mAvManagerCtrlLock)
+ACCESSOR(getFwUpgrade,               FwUpgrade,             mFwUpgradeLock)
+ACCESSOR(getRs232Ctrl,               Rs232Ctrl,             mRs232CtrlLock)
+ACCESSOR(getRGBLedCtrl,              RGBLedCtrl,            mRGBLedCtrlLock)
+ACCESSOR(getAudioCtrl,               AudioCtrl,             mAudioCtrlLock)
+ACCESSOR(getTouchCtrl,               TouchCtrl,             mTouchCtrlLock)
+ACCESSOR(getTeaDspCtrl,              TeaDspCtrl,            mTeaDspCtrlLock)
+ACCESSOR(getAnionCtrl,               AnionCtrl,             mAnionCtrlLock)
+ACCESSOR(getBacklightCtrl,           BacklightCtrl,         mBacklightCtrlLock)
+ACCESSOR(getVgaAdjust,               VgaAdjust,             mVgaAdjustLock)
+ACCESSOR(getCameraCtrl,              CameraCtrl,            mCameraCtrlLock)
+ACCESSOR(getSensorBoxCtrl,           SensorBoxCtrl,         mCameraCtrlLock)  // shared
+ACCESSOR(getIoBoxCtrl,               IoBoxCtrl,             mCameraCtrlLock)  // shared
+ACCESSOR(getTxbCtrl,                 TxbCtrl,               mTxbCtrlLock)
+ACCESSOR(getGpioCtrl,                GpioCtrl,              mGpioCtrlLock)
+ACCESSOR(getXbugCtrl,                XbugCtrl,              mXbugCtrlLock)
+ACCESSOR(getRemoteCtrl,              RemoteCtrl,            mRemoteCtrlLock)
+ACCESSOR(getPmsCtrl,                 PmsCtrl,               mPmsCtrlLock)
+ACCESSOR(getExtendDisplayCtrl,       ExtendDisplayCtrl,     mExtendDisplayCtrlLock)
+ACCESSOR(getPQCtrol,                 PQCtrl,                mPQCtrlLock)  // spelled so
+ACCESSOR(getPcModuleCtrl,            PcModuleCtrl,          mPcModuleCtrlLock)
+ACCESSOR(getSmartPenModeCtrl,        SmartPenModeCtrl,      mSmartPenModeCtrlLock)
+ACCESSOR(getMicrophoneCtrl,          MicrophoneCtrl,        mMicrophoneCtrlLock)
+ACCESSOR(getBurnKeyCtrl,             BurnKeyCtrl,           mBurnKeyCtrlLock)
+ACCESSOR(getBurnMacCtrl,             BurnMacCtrl,           mBurnMacCtrlLock)
+ACCESSOR(getFwTouchCtrl,             FwTouchCtrl,           mFwTouchCtrlLock)
+ACCESSOR(getLandscapeCtrl,           LandscapeCtrl,         mLandscapeCtrlLock)
+ACCESSOR(getBitmotionCtrl,           BitmotionCtrl,         mBitmotionCtrlLock)
+ACCESSOR(getSoundScreenAngleCtrl,    SoundScreenAngleCtrl,  mSoundScreenAngleCtrlLock)
+ACCESSOR(getAiNoiseCtrl,             AiNoiseCtrl,           mAiNoiseCtrlLock)
+ACCESSOR(getAoipCtrl,                AoipCtrl,              mAoipCtrlLock)
+ACCESSOR(getLightEffectCtrl,         LightEffectCtrl,       mLightEffectCtrlLock)
+ACCESSOR(getUwbCtrl,                 UwbCtrl,               mUwbCtrlLock)
+ACCESSOR(getSuspendCtrl,             SuspendCtrl,           mSuspendCtrlLock)
+ACCESSOR(getSerialCtrl,              SerialCtrl,            mCameraCtrlLock)  // shared
+ACCESSOR(getDebugCtrl,               DebugCtrl,             mDebugCtrlLock)
 
-IEasyTouch* TarnManager::getEasyTouch() {
-    return obtain<EasyTouch>(this, &mEasyTouch, &mEasyTouchLock);
-}
-
-IPropertiesCtrl* TarnManager::getPropertiesCtrl() {
-    return obtain<PropertiesCtrl>(this, &mPropertiesCtrl, &mPropertiesCtrlLock);
-}
-
-ISourceCtrl* TarnManager::getSourceCtrl() {
-    return obtain<SourceCtrl>(this, &mSourceCtrl, &mSourceCtrlLock);
-}
-
-IDeviceCtrl* TarnManager::getDeviceCtrl() {
-    return obtain<DeviceCtrl>(this, &mDeviceCtrl, &mDeviceCtrlLock);
-}
-
-IDevicePortCtrl* TarnManager::getDevicePortCtrl() {
-    return obtain<DevicePortCtrl>(this, &mDevicePortCtrl, &mDevicePortCtrlLock);
-}
-
-INetworkCtrl* TarnManager::getNetworkCtrl() {
-    return obtain<NetworkCtrl>(this, &mNetworkCtrl, &mNetworkCtrlLock);
-}
-
-IBluetoothCtrl* TarnManager::getBluetoothCtrl() {
-    return obtain<BluetoothCtrl>(this, &mBluetoothCtrl, &mBluetoothCtrlLock);
-}
-
-IAtCfgControl* TarnManager::getAtCfgControl() {
-    return obtain<AtCfgControl>(this, &mAtCfgControl, &mAtCfgControlLock);
-}
-
-IKeyboardCtrl* TarnManager::getKeyboardCtrl() {
-    return obtain<KeyboardCtrl>(this, &mKeyboardCtrl, &mKeyboardCtrlLock);
-}
-
-IAvManagerCtrl* TarnManager::getAvManagerCtrl() {
-    return obtain<AvManagerCtrl>(this, &mAvManagerCtrl, &mAvManagerCtrlLock);
-}
-
-IFwUpgrade* TarnManager::getFwUpgrade() {
-    return obtain<FwUpgrade>(this, &mFwUpgrade, &mFwUpgradeLock);
-}
-
-IRs232Ctrl* TarnManager::getRs232Ctrl() {
-    return obtain<Rs232Ctrl>(this, &mRs232Ctrl, &mRs232CtrlLock);
-}
-
-IRGBLedCtrl* TarnManager::getRGBLedCtrl() {
-    return obtain<RGBLedCtrl>(this, &mRGBLedCtrl, &mRGBLedCtrlLock);
-}
-
-IAudioCtrl* TarnManager::getAudioCtrl() {
-    return obtain<AudioCtrl>(this, &mAudioCtrl, &mAudioCtrlLock);
-}
-
-ITouchCtrl* TarnManager::getTouchCtrl() {
-    return obtain<TouchCtrl>(this, &mTouchCtrl, &mTouchCtrlLock);
-}
-
-ITeaDspCtrl* TarnManager::getTeaDspCtrl() {
-    return obtain<TeaDspCtrl>(this, &mTeaDspCtrl, &mTeaDspCtrlLock);
-}
-
-IAnionCtrl* TarnManager::getAnionCtrl() {
-    return obtain<AnionCtrl>(this, &mAnionCtrl, &mAnionCtrlLock);
-}
-
-IBacklightCtrl* TarnManager::getBacklightCtrl() {
-    return obtain<BacklightCtrl>(this, &mBacklightCtrl, &mBacklightCtrlLock);
-}
-
-IVgaAdjust* TarnManager::getVgaAdjust() {
-    return obtain<VgaAdjust>(this, &mVgaAdjust, &mVgaAdjustLock);
-}
-
-ICameraCtrl* TarnManager::getCameraCtrl() {
-    return obtain<CameraCtrl>(this, &mCameraCtrl, &mCameraCtrlLock);
-}
-
-ISensorBoxCtrl* TarnManager::getSensorBoxCtrl() {
-    return obtain<SensorBoxCtrl>(this, &mSensorBoxCtrl, &mCameraCtrlLock);
-}
-
-IIoBoxCtrl* TarnManager::getIoBoxCtrl() {
-    return obtain<IoBoxCtrl>(this, &mIoBoxCtrl, &mCameraCtrlLock);
-}
-
-ITxbCtrl* TarnManager::getTxbCtrl() {
-    return obtain<TxbCtrl>(this, &mTxbCtrl, &mTxbCtrlLock);
-}
-
-IGpioCtrl* TarnManager::getGpioCtrl() {
-    return obtain<GpioCtrl>(this, &mGpioCtrl, &mGpioCtrlLock);
-}
-
-IXbugCtrl* TarnManager::getXbugCtrl() {
-    return obtain<XbugCtrl>(this, &mXbugCtrl, &mXbugCtrlLock);
-}
-
-IRemoteCtrl* TarnManager::getRemoteCtrl() {
-    return obtain<RemoteCtrl>(this, &mRemoteCtrl, &mRemoteCtrlLock);
-}
-
-IPmsCtrl* TarnManager::getPmsCtrl() {
-    return obtain<PmsCtrl>(this, &mPmsCtrl, &mPmsCtrlLock);
-}
-
-IExtendDisplayCtrl* TarnManager::getExtendDisplayCtrl() {
-    return obtain<ExtendDisplayCtrl>(this, &mExtendDisplayCtrl, &mExtendDisplayCtrlLock);
-}
-
-IPQCtrl* TarnManager::getPQCtrol() {
-    return obtain<PQCtrl>(this, &mPQCtrl, &mPQCtrlLock);
-}
-
-IPcModuleCtrl* TarnManager::getPcModuleCtrl() {
-    return obtain<PcModuleCtrl>(this, &mPcModuleCtrl, &mPcModuleCtrlLock);
-}
-
-ISmartPenModeCtrl* TarnManager::getSmartPenModeCtrl() {
-    return obtain<SmartPenModeCtrl>(this, &mSmartPenModeCtrl, &mSmartPenModeCtrlLock);
-}
-
-IMicrophoneCtrl* TarnManager::getMicrophoneCtrl() {
-    return obtain<MicrophoneCtrl>(this, &mMicrophoneCtrl, &mMicrophoneCtrlLock);
-}
-
-IBurnKeyCtrl* TarnManager::getBurnKeyCtrl() {
-    return obtain<BurnKeyCtrl>(this, &mBurnKeyCtrl, &mBurnKeyCtrlLock);
-}
-
-IBurnMacCtrl* TarnManager::getBurnMacCtrl() {
-    return obtain<BurnMacCtrl>(this, &mBurnMacCtrl, &mBurnMacCtrlLock);
-}
-
-IFwTouchCtrl* TarnManager::getFwTouchCtrl() {
-    return obtain<FwTouchCtrl>(this, &mFwTouchCtrl, &mFwTouchCtrlLock);
-}
-
-ILandscapeCtrl* TarnManager::getLandscapeCtrl() {
-    return obtain<LandscapeCtrl>(this, &mLandscapeCtrl, &mLandscapeCtrlLock);
-}
-
-IBitmotionCtrl* TarnManager::getBitmotionCtrl() {
-    return obtain<BitmotionCtrl>(this, &mBitmotionCtrl, &mBitmotionCtrlLock);
-}
-
-ISoundScreenAngleCtrl* TarnManager::getSoundScreenAngleCtrl() {
-    return obtain<SoundScreenAngleCtrl>(this, &mSoundScreenAngleCtrl, &mSoundScreenAngleCtrlLock);
-}
-
-IAiNoiseCtrl* TarnManager::getAiNoiseCtrl() {
-    return obtain<AiNoiseCtrl>(this, &mAiNoiseCtrl, &mAiNoiseCtrlLock);
-}
-
-IAoipCtrl* TarnManager::getAoipCtrl() {
-    return obtain<AoipCtrl>(this, &mAoipCtrl, &mAoipCtrlLock);
-}
-
-ILightEffectCtrl* TarnManager::getLightEffectCtrl() {
-    return obtain<LightEffectCtrl>(this, &mLightEffectCtrl, &mLightEffectCtrlLock);
-}
-
-IUwbCtrl* TarnManager::getUwbCtrl() {
-    return obtain<UwbCtrl>(this, &mUwbCtrl, &mUwbCtrlLock);
-}
-
-ISuspendCtrl* TarnManager::getSuspendCtrl() {
-    return obtain<SuspendCtrl>(this, &mSuspendCtrl, &mSuspendCtrlLock);
-}
-
-ISerialCtrl* TarnManager::getSerialCtrl() {
-    return obtain<SerialCtrl>(this, &mSerialCtrl, &mCameraCtrlLock);
-}
-
-IDebugCtrl* TarnManager::getDebugCtrl() {
-    return obtain<DebugCtrl>(this, &mDebugCtrl, &mDebugCtrlLock);
-}
+#undef ACCESSOR
+// clang-format on
 
 }  // namespace android
