@@ -21,6 +21,8 @@ int TarnLog(unsigned int level, const char* tag, const char* function, int line,
     va_start(args, format);
     vsnprintf(message, sizeof(message), format, args);
     va_end(args);
-    tarn::test::logCalls().push_back({level, tag != nullptr, function, line, message});
+    std::optional<std::string> givenTag;
+    if (tag != nullptr) givenTag = tag;
+    tarn::test::logCalls().push_back({level, givenTag, function, line, message});
     return tag == nullptr ? -1 : 0;
 }

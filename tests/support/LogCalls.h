@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,21 +9,11 @@ namespace tarn::test {
 /** One call of TarnLog. */
 struct LogCall {
     unsigned int level;
-    bool hasTag;
+    std::optional<std::string> tag;  // none: a null tag
     std::string function;
     int line;
     std::string message;
 };
-
-inline bool operator==(const LogCall& a, const LogCall& b) {
-    return a.level == b.level && a.hasTag == b.hasTag && a.function == b.function &&
-           a.line == b.line && a.message == b.message;
-}
-
-inline void PrintTo(const LogCall& call, std::ostream* out) {
-    *out << call.level << (call.hasTag ? " tagged" : " untagged") << " [" << call.function << ":"
-         << call.line << "] " << call.message;
-}
 
 /**
  * The calls of TarnLog in this program, filtered or not; clear it before a test. The program that

@@ -7,6 +7,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "tests/support/LogCalls.h"
 #include "tests/support/RecordingManager.h"
 
 namespace tarn::test {
@@ -51,11 +52,48 @@ std::string hexOf(const Bytes& bytes) {
     return text.empty() ? "nothing" : text;
 }
 
+/** Notes how far the log was when each command came. */
+class WireManager : public RecordingManager {
+  public:
+    int invoke(const android::Parcel& request, android::Parcel* reply) override {
+        mLinesBefore.push_back(logCalls().size());
+        return RecordingManager::invoke(request, reply);
+    }
+
+    void startCase() {
+        clear();
+        mLinesBefore.clear();
+        logCalls().clear();
+    }
+
+    std::vector<LoggedLine> logged() const {
+        std::vector<LoggedLine> lines;
+        size_t commands = 0;
+        for (const LogCall& call : logCalls()) {
+            while (commands < mLinesBefore.size() && mLinesBefore[commands] <= lines.size()) {
+                commands++;
+            }
+            lines.push_back({call, commands});
+        }
+        return lines;
+    }
+
+  private:
+    std::vector<size_t> mLinesBefore;  // of the log, for each command
+};
+
 class Replayer {
   public:
     Replayer(const Controller& controller, ReplayReport* report)
-        : mController(controller), mReport(report), mManager(keep(new RecordingManager)) {}
+        : mController(controller), mReport(report), mManager(keep(new WireManager)) {}
 
+    void run(const WireFile& file) {
+        mLogOfCreation = file.logOfCreation;
+        for (const WireCase& wireCase : file.cases) run(wireCase);
+        finish();
+    }
+
+  private:
     void run(const WireCase& wireCase) {
         const Method* method = find(wireCase);
         if (method == nullptr) {
@@ -65,7 +103,7 @@ class Replayer {
         }
         if (mOrder.empty() || mOrder.back() != method) mOrder.push_back(method);
         prepareReplies(wireCase);
-        mManager->clear();
+        mManager->startCase();
         Json::Value result;
         try {
             result = method->call(mManager.get(), wireCase.arguments);
@@ -74,6 +112,7 @@ class Replayer {
             return;
         }
         compare(wireCase, *method, result);
+        compareLog(wireCase);
         note(wireCase, *method);
     }
 
@@ -95,10 +134,9 @@ class Replayer {
         checkOrder();
     }
 
-  private:
     /** A manager and its controllers hold each other for ever; this keeps them in sight. */
-    static sp<RecordingManager> keep(RecordingManager* manager) {
-        static auto* kept = new std::vector<sp<RecordingManager>>;
+    static sp<WireManager> keep(WireManager* manager) {
+        static auto* kept = new std::vector<sp<WireManager>>;
         kept->emplace_back(manager);
         return kept->back();
     }
@@ -112,21 +150,21 @@ class Replayer {
 
     void prepareReplies(const WireCase& wireCase) {
         std::vector<Bytes> replies;
-        for (const Exchange& exchange : wireCase.exchanges) replies.push_back(exchange.reply);
+        for (const WireCommand& command : wireCase.commands) replies.push_back(command.reply);
         if (replies.empty()) replies.emplace_back();
         mManager->answerWith(replies);
     }
 
     void compare(const WireCase& wireCase, const Method& method, const Json::Value& result) {
         const std::vector<Bytes>& sent = mManager->requests();
-        if (sent.size() != wireCase.exchanges.size()) {
+        if (sent.size() != wireCase.commands.size()) {
             fail(wireCase, "sent " + std::to_string(sent.size()) + " commands instead of " +
-                                   std::to_string(wireCase.exchanges.size()));
+                                   std::to_string(wireCase.commands.size()));
         }
-        for (size_t i = 0; i < std::min(sent.size(), wireCase.exchanges.size()); i++) {
-            if (sent[i] != wireCase.exchanges[i].request) {
+        for (size_t i = 0; i < std::min(sent.size(), wireCase.commands.size()); i++) {
+            if (sent[i] != wireCase.commands[i].request) {
                 fail(wireCase, "sent " + hexOf(sent[i]) + " instead of " +
-                                       hexOf(wireCase.exchanges[i].request));
+                                       hexOf(wireCase.commands[i].request));
             }
         }
         if (result != wireCase.result) {
@@ -140,17 +178,26 @@ class Replayer {
         }
     }
 
+    /** The first call of a method creates the controller. */
+    void compareLog(const WireCase& wireCase) {
+        std::vector<ExpectedLine> expected;
+        expected.swap(mLogOfCreation);
+        expected.insert(expected.end(), wireCase.log.begin(), wireCase.log.end());
+        const std::string difference = test::compareLog(expected, mManager->logged());
+        if (!difference.empty()) fail(wireCase, difference);
+    }
+
     void note(const WireCase& wireCase, const Method& method) {
         mReport->cases++;
         Kinds& kinds = mKinds[&method];
         for (const Bytes& request : mManager->requests()) {
             mReport->codesSent.insert(firstWord(request));
         }
-        for (const Exchange& exchange : wireCase.exchanges) {
+        for (const WireCommand& command : wireCase.commands) {
             kinds.sends = true;
-            if (exchange.reply.empty()) {
+            if (command.reply.empty()) {
                 kinds.empty = true;
-            } else if (firstWord(exchange.reply) == -1) {
+            } else if (firstWord(command.reply) == -1) {
                 kinds.failure = true;
             } else {
                 kinds.success = true;
@@ -173,7 +220,8 @@ class Replayer {
 
     const Controller& mController;
     ReplayReport* mReport;
-    sp<RecordingManager> mManager;
+    std::vector<ExpectedLine> mLogOfCreation;
+    sp<WireManager> mManager;
     std::map<const Method*, Kinds> mKinds;
     std::vector<const Method*> mOrder;
 };
@@ -184,12 +232,8 @@ ReplayReport replay(const Controller& controller, const std::string& directory) 
     ReplayReport report;
     report.controller = controller.className;
     try {
-        Replayer replayer(controller, &report);
-        for (const WireCase& wireCase :
-             readWireFile(directory + "/" + controller.className + ".wire")) {
-            replayer.run(wireCase);
-        }
-        replayer.finish();
+        Replayer(controller, &report)
+                .run(readWireFile(directory + "/" + controller.className + ".wire"));
     } catch (const std::runtime_error& error) {
         report.methods = controller.methods.size();
         report.failures.push_back(error.what());
