@@ -1,5 +1,5 @@
 # The implementation classes of all controllers: each has a source of that name in modules/ and in
-# registry/controllers/, its rows in protocol/ and a test in tests/unit/modules/.
+# registry/controllers/, its rows in protocol/ and its cases in tests/wire/.
 set(TARN_CONTROLLERS
   AiNoiseCtrl
   AnionCtrl

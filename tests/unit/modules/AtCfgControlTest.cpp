@@ -1,23 +1,16 @@
 #include <gtest/gtest.h>
-#include <tarn/TarnLog.h>
 
 #include <string>
 #include <thread>
 
 #include "modules/AtCfgControl.h"
-#include "tests/support/LogMatchers.h"
-#include "tests/support/LogWatchingManager.h"
+#include "tests/support/RecordingManager.h"
 
 using android::Parcel;
 using android::sp;
-using android::String16;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using namespace tarn::test;
 
 namespace {
-
-constexpr const char* kTag = "Zunt@AtCfgControl";
 
 /** A store in which every text is its own name, for any number of threads. */
 class EchoingManager : public android::TarnManager {
@@ -37,65 +30,10 @@ class EchoingManager : public android::TarnManager {
 
 class AtCfgControl : public testing::Test {
   protected:
-    sp<LogWatchingManager> manager = new LogWatchingManager;
+    sp<RecordingManager> manager = new RecordingManager;
     sp<android::AtCfgControl> config = new android::AtCfgControl(manager);
     char key[4] = "key";
 };
-
-TEST_F(AtCfgControl, LogsNothingWhenAllGoesWell) {
-    manager->answer(words({0, 0, 0}));
-    const sp<android::AtCfgControl> another = new android::AtCfgControl(manager);
-    another->readWidevinevKey();
-    another->installWidevineKey(String16("k"));
-    another->deleteWidevineKey();
-    another->readAttestationKey();
-    another->installAttestationKey(String16("k"));
-    another->deleteAttestationKey();
-    EXPECT_THAT(manager->log.lines(), IsEmpty());
-}
-
-TEST_F(AtCfgControl, LogsTheNameOfTheCommandThatFailed) {
-    manager->answer(words({-1, 1, 1}));
-    EXPECT_EQ(config->readWidevinevKey(), String16());
-    EXPECT_FALSE(config->installWidevineKey(String16("k")));
-    EXPECT_EQ(config->readAttestationKey(), String16());
-    EXPECT_FALSE(config->installAttestationKey(String16("k")));
-    EXPECT_THAT(manager->log.lines(),
-                ElementsAre(Logged(TARN_LOG_ERROR, kTag, "readWidevinevKey",
-                                   "exeCmdSet_Parcel:CMD_AT_CFG_CTRL_READ_WVKEYBOX error!\n"),
-                            Logged(TARN_LOG_ERROR, kTag, "installWidevineKey",
-                                   "exeCmdSet_Parcel:CMD_AT_CFG_CTRL_INSTALL_WVKEYBOX error!\n"),
-                            Logged(TARN_LOG_ERROR, kTag, "readAttestationKey",
-                                   "exeCmdSet_Parcel:CMD_AT_CFG_CTRL_READ_ATTESTATIONKEY error!\n"),
-                            Logged(TARN_LOG_ERROR, kTag, "installAttestationKey",
-                                   "exeCmdSet_Parcel:CMD_AT_CFG_CTRL_INSTALL_ATTESTATIONKEY "
-                                   "error!\n")));
-}
-
-TEST_F(AtCfgControl, LogsNoOtherFailure) {
-    manager->answer(words({-1}));
-    config->deleteWidevineKey();
-    config->deleteAttestationKey();
-    config->setString(key, key);
-    config->getString(key);
-    config->setInteger(key, 1);
-    config->getInteger(key);
-    EXPECT_THAT(manager->log.lines(), IsEmpty());
-}
-
-TEST_F(AtCfgControl, TellsAStoredMinusOneNotFromAFailure) {
-    manager->answer(words({0, -1}));
-    EXPECT_EQ(config->getInteger(key), -1);
-    manager->answer(words({-1, 5}));
-    EXPECT_EQ(config->getInteger(key), -1);
-    manager->answer(words({-5, 5}));
-    EXPECT_EQ(config->getInteger(key), 5);
-}
-
-TEST_F(AtCfgControl, GivesAStoredTextAsUtf8) {
-    manager->answer(Reply(0).s16("\xC3\xBC \xE2\x82\xAC \xF0\x9F\x98\x80"));
-    EXPECT_STREQ(config->getString(key), "\xC3\xBC \xE2\x82\xAC \xF0\x9F\x98\x80");
-}
 
 TEST_F(AtCfgControl, GivesAnEmptyTextAndNeverNullOnFailure) {
     for (const Bytes& reply : {words({-1}), words({0}), Bytes()}) {
@@ -110,15 +48,6 @@ TEST_F(AtCfgControl, ForgetsTheFormerTextOnFailure) {
     EXPECT_STREQ(config->getString(key), "former");
     manager->answer(words({-1}));
     EXPECT_STREQ(config->getString(key), "");
-}
-
-TEST_F(AtCfgControl, ReportsTheStoresFailureAsTrue) {
-    manager->answer(words({-1}));
-    EXPECT_TRUE(config->setString(key, key));
-    EXPECT_TRUE(config->setInteger(key, 1));
-    manager->answer(words({0}));
-    EXPECT_FALSE(config->setString(key, key));
-    EXPECT_FALSE(config->setInteger(key, 1));
 }
 
 TEST(AtCfgControlTexts, StayValidWhenAnotherThreadAsks) {

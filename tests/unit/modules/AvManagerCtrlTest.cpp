@@ -1,26 +1,18 @@
 #include <gtest/gtest.h>
-#include <utils/String8.h>
 
-#include <cstring>
 #include <limits>
 #include <numeric>
-#include <string>
 #include <vector>
 
 #include "modules/AvManagerCtrl.h"
-#include "tests/support/LogCapture.h"
 #include "tests/support/RecordingManager.h"
 
 using android::_EunmAvCtrlHdmiout_;
-using android::AvSignalFormat;
 using android::IAvManagerCtrl;
 using android::sp;
-using android::String8;
 using tarn::test::Bytes;
 using tarn::test::hex;
-using tarn::test::LogCapture;
 using tarn::test::RecordingManager;
-using tarn::test::Reply;
 using tarn::test::words;
 
 namespace {
@@ -50,31 +42,9 @@ Bytes copyOf(const unsigned char* buffer, size_t size) {
     return Bytes(buffer, buffer + size);
 }
 
-/** The sixteen items of a format, in order. */
-std::vector<int32_t> itemsOf(const AvSignalFormat& f) {
-    return {f.item1, f.item2,  f.item3,  f.item4,  f.item5,  f.item6,  f.item7,  f.item8,
-            f.item9, f.item10, f.item11, f.item12, f.item13, f.item14, f.item15, f.item16};
-}
-
-bool isFlag(int item) {
-    return (item >= 4 && item <= 6) || item == 10 || item >= 15;
-}
-
 }  // namespace
 
 using AvManagerCtrlMetadata = AvManagerCtrl;
-
-TEST_F(AvManagerCtrlMetadata, CarriesTheHeaderInOrderAndThenTheBytes) {
-    _EunmAvCtrlHdmiout_ header{1, -2, 3, 4, 5, 6, 7, -8};
-    unsigned char data[] = {0xaa, 0xbb, 0xcc};
-    manager->answer(words({17}));
-
-    EXPECT_EQ(av->send_metadata_process(&header, data, 3), 17);
-
-    EXPECT_EQ(manager->requests().at(0),
-              hex("03120000 01000000 feffffff 03000000 04000000 05000000 06000000 07000000 "
-                  "f8ffffff 03000000 aabbcc00"));
-}
 
 TEST_F(AvManagerCtrlMetadata, OfLengthZeroStillCarriesTheHeaderAndTheLength) {
     _EunmAvCtrlHdmiout_ header{1, 2, 3, 4, 5, 6, 7, 8};
@@ -95,89 +65,6 @@ TEST_F(AvManagerCtrlMetadata, OfNegativeLengthReadsNoBytes) {
     av->send_metadata_process(&header, data, -1);
 
     EXPECT_EQ(manager->requests().at(0), words({0x1203, 1, 2, 3, 4, 5, 6, 7, 8}));
-}
-
-TEST_F(AvManagerCtrl, MutesAChannelWithItsNumberAndThenTheFlag) {
-    av->setDspMute(3, true);
-    av->setDspMute(3, false);
-
-    EXPECT_EQ(manager->requests().at(0), words({0x1206, 3, 1}));
-    EXPECT_EQ(manager->requests().at(1), words({0x1206, 3, 0}));
-}
-
-TEST_F(AvManagerCtrl, TellsTheCurrentAlgorithmFromOneByNumber) {
-    manager->answer(words({0, 1}));
-
-    av->setMicAlgorithm(4);
-    av->getMicAlgorithm();
-    av->setMicAlgorithm(4, false);
-    av->getMicAlgorithm(4);
-
-    EXPECT_EQ(manager->requests(), (std::vector<Bytes>{words({0x121E, 4}), words({0x121F}),
-                                                       words({0x1222, 4, 0}), words({0x1223, 4})}));
-}
-
-TEST_F(AvManagerCtrl, SkipsTheIntegerBeforeTheAlgorithmParametersResult) {
-    manager->answer(words({0, 0, 1}));
-    EXPECT_TRUE(av->setMicAlgorithmParameters(1, 2));
-
-    manager->answer(words({0, 1, 0}));
-    EXPECT_FALSE(av->setMicAlgorithmParameters(1, 2));
-
-    manager->answer(words({0, -1, 1}));
-    EXPECT_TRUE(av->setMicAlgorithmParameters(1, 2));
-
-    manager->answer(words({-1, 1, 1}));
-    EXPECT_FALSE(av->setMicAlgorithmParameters(1, 2));
-}
-
-TEST_F(AvManagerCtrl, ReadsSerialNumberAndOtaModuleBeyondAscii) {
-    manager->answer(Reply(0).s16("S\xc3\xa9rie 7"));
-    EXPECT_STREQ(String8(av->getSN()).c_str(), "S\xc3\xa9rie 7");
-    EXPECT_STREQ(String8(av->getDspOtaModule()).c_str(), "S\xc3\xa9rie 7");
-}
-
-TEST_F(AvManagerCtrl, ReadsATextThatIsCutOffAsEmpty) {
-    manager->answer(words({0, 100, 0x00410041}));
-    EXPECT_EQ(av->getSN().size(), 0u);
-    EXPECT_EQ(av->getDspOtaModule().size(), 0u);
-}
-
-TEST_F(AvManagerCtrl, ReadsEveryItemOfASignalFormatFromItsOwnPlace) {
-    for (int item = 1; item <= 16; item++) {
-        std::vector<int32_t> reply(17, 0);
-        reply.at(item) = 5;
-        manager->answer(words(reply));
-
-        std::vector<int32_t> expected(16, 0);
-        expected.at(item - 1) = isFlag(item) ? 1 : 5;
-        EXPECT_EQ(itemsOf(av->get_av_signal_format()), expected) << "item" << item;
-    }
-}
-
-TEST_F(AvManagerCtrl, KeepsNegativeItemsOfASignalFormat) {
-    manager->answer(words(std::vector<int32_t>(17, -2)));
-
-    const AvSignalFormat format = av->get_av_signal_format();
-
-    EXPECT_EQ(format.item1, -2);
-    EXPECT_TRUE(format.item4);
-    EXPECT_EQ(format.item14, -2);
-    EXPECT_TRUE(format.item16);
-}
-
-TEST_F(AvManagerCtrl, GivesASignalFormatOfZerosWhenTheServiceIsDead) {
-    manager->answer(words(std::vector<int32_t>(17, -1)));
-    EXPECT_EQ(itemsOf(av->get_av_signal_format()), std::vector<int32_t>(16, 0));
-}
-
-TEST_F(AvManagerCtrl, FillsASignalFormatWithZerosBehindAShortReply) {
-    manager->answer(words({0, 7, 8}));
-
-    std::vector<int32_t> expected(16, 0);
-    expected[0] = 7;
-    expected[1] = 8;
-    EXPECT_EQ(itemsOf(av->get_av_signal_format()), expected);
 }
 
 using AvManagerCtrlTestResult = AvManagerCtrl;
@@ -269,18 +156,4 @@ TEST_F(AvManagerCtrlTestResult, IsNotOverrunByALongerReplyOfAnotherTransport) {
         EXPECT_EQ(av->getDspTestResult(), buffer);
         EXPECT_EQ(copyOf(buffer, 4), hex("71727374"));
     }
-}
-
-TEST_F(AvManagerCtrl, LogsNothing) {
-    LogCapture log;
-    manager->answer(words({-1}));
-
-    av->init();
-    av->setMicAlgorithmParameters(1, 2);
-    av->getSN();
-    av->getDspOtaModule();
-    av->getDspTestResult();
-    av->get_av_signal_format();
-
-    EXPECT_TRUE(log.lines().empty());
 }

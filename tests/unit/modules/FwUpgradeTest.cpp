@@ -1,40 +1,15 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <signal.h>
-#include <tarn/TarnLog.h>
 
-#include <cstddef>
 #include <string>
-#include <type_traits>
 
 #include "modules/FwUpgrade.h"
-#include "tests/support/LogMatchers.h"
-#include "tests/support/LogWatchingManager.h"
+#include "tests/support/RecordingManager.h"
 
 using android::sp;
-using android::String16;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::SizeIs;
 using namespace tarn::test;
-
-static_assert(sizeof(EntityFwInfoMcu) == 1108);
-static_assert(alignof(EntityFwInfoMcu) == 4);
-static_assert(std::is_trivially_copyable_v<EntityFwInfoMcu>);
-static_assert(offsetof(EntityFwInfoMcu, intField1) == 0);
-static_assert(offsetof(EntityFwInfoMcu, intField2) == 4);
-static_assert(offsetof(EntityFwInfoMcu, strField1) == 8);
-static_assert(offsetof(EntityFwInfoMcu, intField3) == 264);
-static_assert(offsetof(EntityFwInfoMcu, strField2) == 268);
-static_assert(offsetof(EntityFwInfoMcu, intField4) == 524);
-static_assert(offsetof(EntityFwInfoMcu, strField3) == 528);
-static_assert(offsetof(EntityFwInfoMcu, strField4) == 784);
-static_assert(offsetof(EntityFwInfoMcu, shortStrField) == 1040);
-static_assert(offsetof(EntityFwInfoMcu, intField5) == 1104);
-static_assert(sizeof(EntityFwInfoMcu::strField1) == 256);
-static_assert(sizeof(EntityFwInfoMcu::strField2) == 256);
-static_assert(sizeof(EntityFwInfoMcu::strField3) == 256);
-static_assert(sizeof(EntityFwInfoMcu::strField4) == 256);
-static_assert(sizeof(EntityFwInfoMcu::shortStrField) == 64);
 
 namespace {
 
@@ -59,7 +34,7 @@ class FwUpgrade : public testing::Test {
         return list;
     }
 
-    sp<LogWatchingManager> manager = new LogWatchingManager;
+    sp<RecordingManager> manager = new RecordingManager;
     sp<android::FwUpgrade> fwUpgrade = new android::FwUpgrade(manager);
 };
 
@@ -71,21 +46,6 @@ class FwUpgradeDeathTest : public FwUpgrade {
         EXPECT_EXIT(fwUpgrade->getFwMcuList(list), testing::KilledBySignal(SIGABRT), "");
     }
 };
-
-TEST_F(FwUpgrade, ReadsATargetFieldByField) {
-    const auto list = listOf(replyWith({"one", "t\xC3\xBC", "", "four", "short"}));
-    ASSERT_THAT(list, SizeIs(1));
-    EXPECT_EQ(list[0].intField1, 11);
-    EXPECT_EQ(list[0].intField2, -12);
-    EXPECT_STREQ(list[0].strField1, "one");
-    EXPECT_EQ(list[0].intField3, 13);
-    EXPECT_STREQ(list[0].strField2, "t\xC3\xBC");
-    EXPECT_EQ(list[0].intField4, -14);
-    EXPECT_STREQ(list[0].strField3, "");
-    EXPECT_STREQ(list[0].strField4, "four");
-    EXPECT_STREQ(list[0].shortStrField, "short");
-    EXPECT_EQ(list[0].intField5, 15);
-}
 
 TEST_F(FwUpgrade, FillsWhatATextLeavesOfItsFieldWithZeros) {
     const auto list = listOf(replyWith({"one", "", "", "", ""}));
@@ -118,50 +78,11 @@ TEST_F(FwUpgrade, LeavesTheListAloneForACountOfZeroOrLess) {
     }
 }
 
-TEST_F(FwUpgrade, LeavesTheListAloneAndLogsNothingWhenTheServiceIsDead) {
+TEST_F(FwUpgrade, LeavesTheListAloneWhenTheServiceIsDead) {
     manager->answer(words({-1, 1}));
     std::vector<EntityFwInfoMcu> list(3);
     EXPECT_FALSE(fwUpgrade->getFwMcuList(list));
     EXPECT_THAT(list, SizeIs(3));
-    EXPECT_THAT(manager->log.lines(), IsEmpty());
-}
-
-TEST_F(FwUpgrade, AppendsZeroTargetsBehindTheEndOfAShortReply) {
-    manager->answer(words({0, 500, 8}));
-    std::vector<EntityFwInfoMcu> list;
-    EXPECT_TRUE(fwUpgrade->getFwMcuList(list));
-    ASSERT_THAT(list, SizeIs(500));
-    EXPECT_EQ(list[0].intField1, 8);
-    EXPECT_EQ(list[499].intField1, 0);
-    EXPECT_STREQ(list[499].strField1, "");
-}
-
-TEST_F(FwUpgrade, LogsTheCountAfterTheCommand) {
-    manager->answer(words({0, -3}));
-    std::vector<EntityFwInfoMcu> list;
-    fwUpgrade->getFwMcuList(list);
-    EXPECT_EQ(manager->linesBefore, 0u);
-    EXPECT_THAT(manager->log.lines(),
-                ElementsAre(Logged(TARN_LOG_DEBUG, "Zunt@FwUpgrade", "getFwMcuList",
-                                   "getFwMcuList list_num = -3")));
-}
-
-TEST_F(FwUpgrade, LogsNothingElse) {
-    manager->answer(words({-1}));
-    fwUpgrade->setFirmwareUpgrade(1, String16("p"));
-    fwUpgrade->getMcuBinNameToUp(1);
-    fwUpgrade->getFwVersion(1);
-    fwUpgrade->getFwOtakey(1);
-    fwUpgrade->getFwInfoTypecList();
-    fwUpgrade->getFwTargetVersion(1);
-    fwUpgrade->getFwTargetBinPath(1);
-    EXPECT_THAT(manager->log.lines(), IsEmpty());
-}
-
-TEST_F(FwUpgrade, SendsThePathBeforeTheType) {
-    fwUpgrade->setFirmwareUpgrade(3, String16("ab"));
-    EXPECT_THAT(manager->requests(),
-                ElementsAre(hex("010e0000 02000000 61006200 00000000 03000000")));
 }
 
 TEST_F(FwUpgrade, TakesTextsThatJustFit) {

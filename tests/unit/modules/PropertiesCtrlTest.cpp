@@ -28,26 +28,4 @@ TEST_F(PropertiesCtrl, ReturnsMinusOneAndLeavesTheBufferAloneEvenWhenTheServiceA
     }
 }
 
-TEST_F(PropertiesCtrl, AsksTheServiceWithKeyAndDefault) {
-    properties->property_get("ab", nullptr, "c");
-    EXPECT_EQ(manager->requests().back(),
-              hex("08080000 02000000 61006200 00000000 01000000 63000000"));
-}
-
-TEST_F(PropertiesCtrl, SurvivesATextThatClaimsMoreThanTheReplyHolds) {
-    manager->answer(words({0, 0x7fffffff, 0x00410041}));
-    char value[PROPERTY_VALUE_MAX] = "old";
-    EXPECT_EQ(properties->property_get("a", value, "b"), -1);
-    EXPECT_STREQ(value, "old");
-}
-
-TEST_F(PropertiesCtrl, ReturnsZeroForEveryAnswerToASetAndMinusOneWhenTheServiceIsDead) {
-    for (const int status : {0, 5, -5}) {
-        manager->answer(words({status}));
-        EXPECT_EQ(properties->property_set("a", "b"), 0) << status;
-    }
-    manager->answer(words({-1}));
-    EXPECT_EQ(properties->property_set("a", "b"), -1);
-}
-
 }  // namespace

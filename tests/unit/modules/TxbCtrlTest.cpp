@@ -2,11 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "modules/TxbCtrl.h"
-#include "tests/support/LogCapture.h"
 #include "tests/support/RecordingManager.h"
 
 using namespace android;
-using tarn::test::LogCapture;
 using tarn::test::RecordingManager;
 using tarn::test::words;
 using testing::ElementsAre;
@@ -23,40 +21,12 @@ class TxbCtrl : public testing::Test {
     int mValues[3] = {4, -5, 6};
 };
 
-TEST_F(TxbCtrl, HasOppositeSensesForAmplitudesAndSelfTestStates) {
-    mManager->answer(words({0}));
-    EXPECT_FALSE(mTxb->sendTxbSignalAmplitude(mValues, 3));
-    EXPECT_TRUE(mTxb->setTxbSensorSelfTestState(mValues, 3));
-    mManager->answer(words({1}));
-    EXPECT_TRUE(mTxb->sendTxbSignalAmplitude(mValues, 3));
-    EXPECT_FALSE(mTxb->setTxbSensorSelfTestState(mValues, 3));
-    EXPECT_THAT(mManager->requests(),
-                ElementsAre(words({0x2603, 3, 4, -5, 6}), words({0x2607, 3, 4, -5, 6}),
-                            words({0x2603, 3, 4, -5, 6}), words({0x2607, 3, 4, -5, 6})));
-}
-
-TEST_F(TxbCtrl, CountsAFailedSendAsTrueWhenTheServiceIsDead) {
-    mManager->answer(words({-1}));
-    EXPECT_TRUE(mTxb->sendTxbKeycode(_EnumTxbKeyType_(1)));
-    EXPECT_TRUE(mTxb->sendTxbMaterial(_EnumTxbMaterialType_(1)));
-    EXPECT_TRUE(mTxb->sendTxbSignalAmplitude(mValues, 3));
-    EXPECT_TRUE(mTxb->sendTxbPenCoord(1, 2));
-    EXPECT_FALSE(mTxb->setTxbSensorSelfTestState(mValues, 3));
-    EXPECT_FALSE(mTxb->setTxbSensorMuteState(1, true));
-    EXPECT_EQ(mTxb->getTxbSensorMuteState(), -1);
-}
-
 TEST_F(TxbCtrl, SendsNoEmptyArray) {
     EXPECT_FALSE(mTxb->sendTxbSignalAmplitude(nullptr, 3));
     EXPECT_FALSE(mTxb->sendTxbSignalAmplitude(mValues, 0));
     EXPECT_TRUE(mTxb->setTxbSensorSelfTestState(nullptr, 3));
     EXPECT_TRUE(mTxb->setTxbSensorSelfTestState(mValues, -1));
     EXPECT_THAT(mManager->requests(), IsEmpty());
-}
-
-TEST_F(TxbCtrl, SendsCoordinatesAsAnArrayOfTwo) {
-    mTxb->sendTxbPenCoord(100, 200);
-    EXPECT_THAT(mManager->requests(), ElementsAre(words({0x2606, 2, 100, 200})));
 }
 
 TEST_F(TxbCtrl, ReadsSelfTestStatesAndTheirNumber) {
@@ -85,15 +55,6 @@ TEST_F(TxbCtrl, LeavesTheBufferAloneWhenTheServiceIsDead) {
     mManager->answer(words({-1, 3, 9, 9, 9}));
     EXPECT_EQ(mTxb->getTxbSensorSelfTestState(mValues), -1);
     EXPECT_THAT(mValues, ElementsAre(4, -5, 6));
-}
-
-TEST_F(TxbCtrl, LogsNothing) {
-    LogCapture log;
-    mManager->answer(words({-1}));
-    const sp<ITxbCtrl> another = new android::TxbCtrl(mManager);
-    another->sendTxbKeycode(_EnumTxbKeyType_(1));
-    another->getTxbSensorSelfTestState(mValues);
-    EXPECT_THAT(log.lines(), IsEmpty());
 }
 
 }  // namespace
