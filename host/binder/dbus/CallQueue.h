@@ -7,8 +7,8 @@
 #include <memory>
 #include <mutex>
 
-#include "../Carrier.h"
 #include "Peer.h"
+#include "host/binder/carrier/Carrier.h"
 
 namespace android::host::dbus {
 

@@ -10,12 +10,12 @@
 #include <string>
 #include <vector>
 
-#include "../Carrier.h"
 #include "BusLink.h"
 #include "CallQueue.h"
 #include "ObjectTable.h"
 #include "Peer.h"
 #include "Wire.h"
+#include "host/binder/carrier/Carrier.h"
 
 namespace android::host::dbus {
 

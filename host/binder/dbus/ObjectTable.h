@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
-#include "../Carrier.h"
 #include "Peer.h"
+#include "host/binder/carrier/Carrier.h"
 
 namespace android::host::dbus {
 

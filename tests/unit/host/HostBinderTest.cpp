@@ -17,7 +17,7 @@
 #include <thread>
 
 #include "host/HostServiceManager.h"
-#include "host/binder/Carrier.h"
+#include "host/binder/carrier/Carrier.h"
 
 namespace android {
 namespace {

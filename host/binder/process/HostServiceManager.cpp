@@ -14,7 +14,7 @@
 #include <mutex>
 #include <set>
 
-#include "Carrier.h"
+#include "host/binder/carrier/Carrier.h"
 
 namespace android {
 

@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-#include "ParcelObjectTable.h"
+#include "host/binder/parcel/ParcelObjectTable.h"
 
 namespace android::host {
 

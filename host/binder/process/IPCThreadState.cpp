@@ -11,9 +11,9 @@
 #include <condition_variable>
 #include <mutex>
 
-#include "Carrier.h"
-#include "ParcelObjectTable.h"
 #include "ServingGate.h"
+#include "host/binder/carrier/Carrier.h"
+#include "host/binder/parcel/ParcelObjectTable.h"
 
 namespace android {
 

@@ -14,8 +14,8 @@
 #include <system_error>
 #include <thread>
 
-#include "Carrier.h"
 #include "ServingGate.h"
+#include "host/binder/carrier/Carrier.h"
 
 namespace android {
 
