@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "host/binder/dbus/DBusCarrier.h"
-#include "host/binder/dbus/SessionBus.h"
+#include "host/binder/dbus/SessionCarrier.h"
 #include "tests/process/ProcessTest.h"
 
 namespace tarn::test {

@@ -11,7 +11,7 @@
 #include <cstdlib>
 #include <functional>
 
-#include "host/binder/dbus/Wire.h"
+#include "host/binder/dbus/MessageFormat.h"
 #include "tests/process/Desk.h"
 #include "tests/process/ProcessTest.h"
 

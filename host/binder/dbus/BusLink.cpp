@@ -12,7 +12,7 @@
 #include <exception>
 #include <utility>
 
-#include "Wire.h"
+#include "MessageFormat.h"
 
 namespace android::host::dbus {
 

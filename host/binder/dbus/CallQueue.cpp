@@ -9,7 +9,7 @@ namespace {
 // What a proxy costs, about.
 constexpr size_t kObjectCost = 256;
 
-size_t sizeOf(const Call& call) {
+size_t sizeOf(const BusCall& call) {
     return call.request.bytes.size() + call.request.objects.size() * kObjectCost;
 }
 
@@ -21,20 +21,20 @@ class Errand : public IncomingCall {
 
 }  // namespace
 
-Call::Call(sdbus::MethodCall received, std::shared_ptr<Peer> sender, Responder responder)
+BusCall::BusCall(sdbus::MethodCall received, std::shared_ptr<Peer> sender, Responder responder)
     : message(std::move(received)), caller(std::move(sender)), mResponder(std::move(responder)) {}
 
-Call::~Call() {
+BusCall::~BusCall() {
     if (!mAnswered && !isOneWay()) mResponder(*this, UNKNOWN_ERROR, Payload());
     if (mQueue != nullptr) mQueue->leaveLane(object);
 }
 
-void Call::answer(status_t status, Payload reply) {
+void BusCall::answer(status_t status, Payload reply) {
     mAnswered = true;
     mResponder(*this, status, std::move(reply));
 }
 
-bool CallQueue::admit(const Call& call) {
+bool CallQueue::admit(const BusCall& call) {
     Peer& caller = *call.caller;
     const size_t size = sizeOf(call);
     if (caller.waitingCalls >= kMaxWaitingCalls || caller.waitingBytes + size > kMaxWaitingBytes) {
@@ -45,7 +45,7 @@ bool CallQueue::admit(const Call& call) {
     return true;
 }
 
-void CallQueue::add(std::unique_ptr<Call> call) {
+void CallQueue::add(std::unique_ptr<BusCall> call) {
     std::lock_guard<std::mutex> lock(mLock);
     if (call->isOneWay()) {
         const auto [lane, opened] = mLanes.try_emplace(call->object);
@@ -57,7 +57,7 @@ void CallQueue::add(std::unique_ptr<Call> call) {
     makeReady(std::move(call));
 }
 
-void CallQueue::makeReady(std::unique_ptr<Call> call) {
+void CallQueue::makeReady(std::unique_ptr<BusCall> call) {
     if (call->isOneWay()) call->mQueue = this;
     mReady.push_back(std::move(call));
     mArrived.notify_one();
@@ -70,7 +70,7 @@ void CallQueue::leaveLane(uint64_t object) {
         mLanes.erase(lane);
         return;
     }
-    std::unique_ptr<Call> next = std::move(lane->second.front());
+    std::unique_ptr<BusCall> next = std::move(lane->second.front());
     lane->second.pop_front();
     makeReady(std::move(next));
 }
@@ -87,7 +87,7 @@ std::unique_ptr<IncomingCall> CallQueue::take() {
     if (mStopped) return nullptr;
     std::unique_ptr<IncomingCall> next = std::move(mReady.front());
     mReady.pop_front();
-    if (const auto* call = dynamic_cast<Call*>(next.get()); call != nullptr) {
+    if (const auto* call = dynamic_cast<BusCall*>(next.get()); call != nullptr) {
         call->caller->waitingCalls--;
         call->caller->waitingBytes -= sizeOf(*call);
     }

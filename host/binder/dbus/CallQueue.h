@@ -15,13 +15,13 @@ namespace android::host::dbus {
 class CallQueue;
 
 /** A transaction that came in over the bus. */
-class Call : public IncomingCall {
+class BusCall : public IncomingCall {
   public:
     /** Sends the reply. */
-    using Responder = std::function<void(Call&, status_t, Payload)>;
+    using Responder = std::function<void(BusCall&, status_t, Payload)>;
 
-    Call(sdbus::MethodCall received, std::shared_ptr<Peer> sender, Responder responder);
-    ~Call() override;
+    BusCall(sdbus::MethodCall received, std::shared_ptr<Peer> sender, Responder responder);
+    ~BusCall() override;
 
     void answer(status_t status, Payload reply) override;
     /** Leaves the call without an answer: its caller was sent an error. */
@@ -51,10 +51,10 @@ class CallQueue {
     static constexpr size_t kMaxWaitingBytes = 64 * 1024 * 1024;
 
     /** Counts a call against its caller's share; false if that is used up. */
-    static bool admit(const Call& call);
+    static bool admit(const BusCall& call);
 
     /** Puts a call that was admitted in line. */
-    void add(std::unique_ptr<Call> call);
+    void add(std::unique_ptr<BusCall> call);
     void addErrand(std::function<void()> errand);
 
     /** Waits for the next; null once the queue was stopped. */
@@ -64,15 +64,15 @@ class CallQueue {
     size_t size();
 
   private:
-    friend class Call;
+    friend class BusCall;
     void leaveLane(uint64_t object);
-    void makeReady(std::unique_ptr<Call> call);
+    void makeReady(std::unique_ptr<BusCall> call);
 
     std::mutex mLock;
     std::condition_variable mArrived;
     std::deque<std::unique_ptr<IncomingCall>> mReady;
     // By object: what waits behind the one-way call that is ready or being served.
-    std::map<uint64_t, std::deque<std::unique_ptr<Call>>> mLanes;
+    std::map<uint64_t, std::deque<std::unique_ptr<BusCall>>> mLanes;
     bool mStopped = false;
 };
 

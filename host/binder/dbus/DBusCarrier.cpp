@@ -12,7 +12,7 @@
 #include <optional>
 #include <utility>
 
-#include "ServiceName.h"
+#include "BusName.h"
 
 namespace android::host::dbus {
 
@@ -32,8 +32,8 @@ constexpr uint32_t kNowOwner = 1;
 constexpr uint32_t kAlreadyOwner = 4;
 
 // What a call's end on the link's thread must not destroy there.
-ObjectTable::Objects localObjectsOf(const Call& call) {
-    ObjectTable::Objects objects;
+SharedObjects::Objects localObjectsOf(const BusCall& call) {
+    SharedObjects::Objects objects;
     if (call.target != nullptr) objects.push_back(call.target);
     for (const Payload::Object& object : call.request.objects) {
         if (object.binder->localBinder() != nullptr) objects.push_back(object.binder);
@@ -137,7 +137,7 @@ Reference DBusCarrier::refer(const sp<IBinder>& binder, Peer& receiver,
         startPoolForCalls();
         return {0, "", mObjects.lend(local, receiver)};
     }
-    const ObjectTable::Remote remote = *mObjects.remote(binder->remoteBinder()->handle());
+    const SharedObjects::Remote remote = *mObjects.remote(binder->remoteBinder()->handle());
     if (remote.owner->name != receiver.name) grants->push_back({remote.owner, remote.object});
     return {0, remote.owner->name, remote.object};
 }
@@ -154,7 +154,7 @@ void DBusCarrier::send(const std::vector<Grant>& grants, const Peer& holder) {
 
 // Ends the holds that came with a message which was not sent.
 void DBusCarrier::takeBack(const Parcelled& parcelled, Peer& receiver) {
-    ObjectTable::Objects released;
+    SharedObjects::Objects released;
     for (const Reference& reference : parcelled.content.references) {
         if (!reference.owner.empty()) continue;
         mObjects.giveBack(reference.object, 1, receiver, &released);
@@ -166,7 +166,7 @@ DBusCarrier::Answer DBusCarrier::onAnswer(sdbus::MethodReply& reply, const sdbus
                                           const std::shared_ptr<Peer>& callee) {
     if (error != nullptr) {
         if (meansDeath(error->getName())) {
-            bury(callee);
+            peerDied(callee);
             return {DEAD_OBJECT, {}};
         }
         ALOGW("A transaction failed: %s", error->what());
@@ -208,10 +208,10 @@ void DBusCarrier::onCall(sdbus::MethodCall call) {
 }
 
 void DBusCarrier::onTransact(sdbus::MethodCall message, const std::shared_ptr<Peer>& caller) {
-    auto call = std::make_unique<Call>(std::move(message), caller,
-                                       [this](Call& answered, status_t status, Payload reply) {
-                                           respond(answered, status, std::move(reply));
-                                       });
+    auto call = std::make_unique<BusCall>(
+            std::move(message), caller, [this](BusCall& answered, status_t status, Payload reply) {
+                respond(answered, status, std::move(reply));
+            });
     sdbus::MethodCall received = call->message;
     received >> call->object >> call->code >> call->flags;
     call->flags &= ~static_cast<uint32_t>(IBinder::FLAG_ONEWAY);
@@ -243,7 +243,7 @@ void DBusCarrier::onRelease(sdbus::MethodCall& call, Peer& caller) {
     uint64_t object = 0;
     uint32_t count = 0;
     call >> object >> count;
-    ObjectTable::Objects released;
+    SharedObjects::Objects released;
     mObjects.giveBack(object, count, caller, &released);
     discard(std::move(released));
 }
@@ -281,7 +281,7 @@ void DBusCarrier::onLookup(sdbus::MethodCall& call, const std::shared_ptr<Peer>&
 
 // Answering, on the pool's threads.
 
-void DBusCarrier::respond(Call& call, status_t status, Payload reply) {
+void DBusCarrier::respond(BusCall& call, status_t status, Payload reply) {
     if (call.caller->dead) return;
     Parcelled parcelled;
     const status_t packed = pack(std::move(reply), *call.caller, &parcelled);
@@ -298,8 +298,8 @@ void DBusCarrier::respond(Call& call, status_t status, Payload reply) {
     takeBack(parcelled, *call.caller);
 }
 
-void DBusCarrier::refuse(Call& call, const char* error, const char* why) {
-    if (call.caller->mayComplain()) ALOGW("A call of process %d: %s", call.caller->pid, why);
+void DBusCarrier::refuse(BusCall& call, const char* error, const char* why) {
+    if (call.caller->mayLog()) ALOGW("A call of process %d: %s", call.caller->pid, why);
     call.abandon();
     sendError(call.message, error, why);
 }
@@ -335,11 +335,11 @@ sp<IBinder> DBusCarrier::resolve(const std::string& owner, uint64_t object,
     const int32_t handle =
             mObjects.receive(owner == sender->name ? sender : peerNamed(owner), object);
     const sp<IBinder> proxy = ProcessState::self()->getStrongProxyForHandle(handle);
-    giveBack(mObjects.letGo(handle));
+    giveBack(mObjects.unpin(handle));
     return proxy;
 }
 
-void DBusCarrier::giveBack(const std::optional<ObjectTable::Holds>& holds) {
+void DBusCarrier::giveBack(const std::optional<SharedObjects::Holds>& holds) {
     if (!holds.has_value() || holds->remote.owner->dead) return;
     try {
         sdbus::MethodCall call =
@@ -361,7 +361,7 @@ void DBusCarrier::release(int32_t handle) {
 
 // The destructor of an object may do anything, so the last reference goes on a pool thread. Each
 // object waits for it at most once, however often it was sent.
-void DBusCarrier::discard(ObjectTable::Objects objects) {
+void DBusCarrier::discard(SharedObjects::Objects objects) {
     if (objects.empty()) return;
     std::lock_guard<std::mutex> lock(mLock);
     if (mDiscarded.empty()) {
@@ -397,7 +397,7 @@ std::shared_ptr<Peer> DBusCarrier::peerNamed(const std::string& uniqueName) {
             [peer](sdbus::MethodReply& reply) { reply >> peer->uid; },
             [this, peer](const sdbus::Error* error) {
                 identified(*peer);
-                if (error != nullptr && meansDeath(error->getName())) bury(peer);
+                if (error != nullptr && meansDeath(error->getName())) peerDied(peer);
             });
     if (!asked) identified(*peer);
     return peer;
@@ -419,7 +419,7 @@ bool DBusCarrier::ask(const char* question, const Peer& peer,
 
 void DBusCarrier::identified(Peer& peer) {
     peer.identified = true;
-    for (std::unique_ptr<Call>& call : std::exchange(peer.unidentified, {})) {
+    for (std::unique_ptr<BusCall>& call : std::exchange(peer.unidentified, {})) {
         call->callingPid = peer.pid;
         call->callingUid = peer.uid;
         mQueue.add(std::move(call));
@@ -435,7 +435,7 @@ void DBusCarrier::onNameOwnerChanged(const std::string& name, const std::string&
             const auto found = mPeers.find(name);
             if (newOwner.empty() && found != mPeers.end()) gone = found->second;
         }
-        if (gone != nullptr) bury(gone);
+        if (gone != nullptr) peerDied(gone);
         return;
     }
     const auto service = serviceNameOf(name);
@@ -453,19 +453,19 @@ void DBusCarrier::onNameOwnerChanged(const std::string& name, const std::string&
     });
 }
 
-void DBusCarrier::bury(const std::shared_ptr<Peer>& peer) {
+void DBusCarrier::peerDied(const std::shared_ptr<Peer>& peer) {
     {
         std::lock_guard<std::mutex> lock(mLock);
         const auto found = mPeers.find(peer->name);
         if (found != mPeers.end() && found->second == peer) mPeers.erase(found);
     }
-    ObjectTable::Objects released;
-    const std::vector<int32_t> orphans = mObjects.bury(*peer, &released);
-    if (!orphans.empty()) startPoolForCalls();
-    for (const int32_t handle : orphans) {
+    SharedObjects::Objects released;
+    const std::vector<int32_t> handles = mObjects.peerDied(*peer, &released);
+    if (!handles.empty()) startPoolForCalls();
+    for (const int32_t handle : handles) {
         mQueue.addErrand([this, handle] {
             const sp<IBinder> proxy = ProcessState::self()->getStrongProxyForHandle(handle);
-            mObjects.letGo(handle);
+            mObjects.unpin(handle);
             if (proxy != nullptr) proxy->remoteBinder()->sendObituary();
         });
     }
@@ -478,7 +478,7 @@ void DBusCarrier::onDisconnected() {
         std::lock_guard<std::mutex> lock(mLock);
         for (const auto& known : mPeers) peers.push_back(known.second);
     }
-    for (const std::shared_ptr<Peer>& peer : peers) bury(peer);
+    for (const std::shared_ptr<Peer>& peer : peers) peerDied(peer);
 }
 
 // Every proxy is told of its owner's death, watched or not; a thread must be there to tell it.

@@ -12,9 +12,9 @@
 
 #include "BusLink.h"
 #include "CallQueue.h"
-#include "ObjectTable.h"
+#include "MessageFormat.h"
 #include "Peer.h"
-#include "Wire.h"
+#include "SharedObjects.h"
 #include "host/binder/carrier/Carrier.h"
 
 namespace android::host::dbus {
@@ -40,7 +40,7 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
 
     /** What is kept at the moment; for tests. */
     struct Counts {
-        ObjectTable::Counts objects;
+        SharedObjects::Counts objects;
         size_t peers;
         size_t waitingCalls;
     };
@@ -74,8 +74,8 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
     Answer onAnswer(sdbus::MethodReply& reply, const sdbus::Error* error,
                     const std::shared_ptr<Peer>& callee);
 
-    void respond(Call& call, status_t status, Payload reply);
-    void refuse(Call& call, const char* error, const char* why);
+    void respond(BusCall& call, status_t status, Payload reply);
+    void refuse(BusCall& call, const char* error, const char* why);
     void sendError(const sdbus::MethodCall& call, const char* error, const char* why);
 
     std::shared_ptr<Peer> peerNamed(const std::string& uniqueName);
@@ -83,7 +83,7 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
              std::function<void(sdbus::MethodReply&)> onReply,
              std::function<void(const sdbus::Error*)> then = nullptr);
     void identified(Peer& peer);
-    void bury(const std::shared_ptr<Peer>& peer);
+    void peerDied(const std::shared_ptr<Peer>& peer);
 
     status_t pack(Payload payload, Peer& receiver, Parcelled* out);
     void takeBack(const Parcelled& parcelled, Peer& receiver);
@@ -93,8 +93,8 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
     bool unpack(Content content, const std::shared_ptr<Peer>& sender, Payload* out);
     sp<IBinder> resolve(const std::string& owner, uint64_t object,
                         const std::shared_ptr<Peer>& sender);
-    void giveBack(const std::optional<ObjectTable::Holds>& holds);
-    void discard(ObjectTable::Objects objects);
+    void giveBack(const std::optional<SharedObjects::Holds>& holds);
+    void discard(SharedObjects::Objects objects);
 
     bool callBus(const sdbus::MethodCall& call, std::chrono::microseconds timeout,
                  std::function<void(sdbus::MethodReply&)> onReply,
@@ -104,7 +104,7 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
 
     BusLink mLink;
     const std::shared_ptr<BusLink::Destination> mBus;
-    ObjectTable mObjects;
+    SharedObjects mObjects;
     CallQueue mQueue;
 
     std::mutex mLock;  // guards what follows

@@ -10,12 +10,12 @@ Peer::Peer(BusLink& link, const std::string& uniqueName)
 
 Peer::~Peer() = default;
 
-bool Peer::mayComplain() {
+bool Peer::mayLog() {
     const auto now = std::chrono::steady_clock::now();
-    if (complained.time_since_epoch().count() != 0 && now - complained < std::chrono::seconds(1)) {
+    if (lastLogged.time_since_epoch().count() != 0 && now - lastLogged < std::chrono::seconds(1)) {
         return false;
     }
-    complained = now;
+    lastLogged = now;
     return true;
 }
 

@@ -11,11 +11,11 @@
 #include <vector>
 
 #include "BusLink.h"
-#include "Wire.h"
+#include "MessageFormat.h"
 
 namespace android::host::dbus {
 
-class Call;
+class BusCall;
 
 /** Another process on the bus, known by its unique name, which no other process ever gets. */
 struct Peer {
@@ -23,7 +23,7 @@ struct Peer {
     ~Peer();
 
     /** True at most once a second: a flood of bad messages is not to become one of log lines. */
-    bool mayComplain();
+    bool mayLog();
 
     const std::string name;
     const std::shared_ptr<BusLink::Destination> destination;
@@ -34,15 +34,15 @@ struct Peer {
     std::atomic<size_t> waitingCalls{0};
     std::atomic<size_t> waitingBytes{0};
 
-    // How many holds it has on which object of this process. Guarded by the object table.
+    // How many holds it has on which object of this process. Guarded by the shared objects.
     std::map<uint64_t, uint64_t> holds;
 
     // The rest is for the link's thread alone. Calls wait until it is known who calls.
     bool identified = false;
     pid_t pid = 0;
     uid_t uid = static_cast<uid_t>(-1);
-    std::vector<std::unique_ptr<Call>> unidentified;
-    std::chrono::steady_clock::time_point complained{};
+    std::vector<std::unique_ptr<BusCall>> unidentified;
+    std::chrono::steady_clock::time_point lastLogged{};
 };
 
 }  // namespace android::host::dbus

@@ -1,4 +1,4 @@
-#include "ServiceName.h"
+#include "BusName.h"
 
 #include <algorithm>
 #include <cstring>

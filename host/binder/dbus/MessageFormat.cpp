@@ -1,4 +1,4 @@
-#include "Wire.h"
+#include "MessageFormat.h"
 
 #include <fcntl.h>
 #include <sys/mman.h>

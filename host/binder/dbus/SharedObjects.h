@@ -29,7 +29,7 @@ namespace android::host::dbus {
  * References that a function takes out of the table are handed to its caller: an object's
  * destructor is not to run within, nor on the link's thread.
  */
-class ObjectTable {
+class SharedObjects {
   public:
     using Objects = std::vector<sp<IBinder>>;
 
@@ -45,7 +45,7 @@ class ObjectTable {
         uint32_t count;
     };
 
-    explicit ObjectTable(std::string self) : mSelf(std::move(self)) {}
+    explicit SharedObjects(std::string self) : mSelf(std::move(self)) {}
 
     /** Adds a hold on an object of this process and gives its number; 0 if the holder is dead. */
     uint64_t lend(const sp<BBinder>& object, Peer& holder);
@@ -61,7 +61,7 @@ class ObjectTable {
      * a proxy too, until it is let go.
      */
     int32_t receive(const std::shared_ptr<Peer>& owner, uint64_t object);
-    std::optional<Holds> letGo(int32_t handle);
+    std::optional<Holds> unpin(int32_t handle);
 
     void acquire(int32_t handle);
     std::optional<Holds> release(int32_t handle);
@@ -70,7 +70,7 @@ class ObjectTable {
     std::optional<Remote> remote(int32_t handle);
 
     /** Ends a process's holds. Gives its handles, to be let go: their proxies are to be told. */
-    std::vector<int32_t> bury(Peer& peer, Objects* released);
+    std::vector<int32_t> peerDied(Peer& peer, Objects* released);
 
     struct Counts {
         size_t lent;     // objects of this process that others hold

@@ -1,6 +1,6 @@
 #define LOG_TAG "BinderBus"
 
-#include "ObjectTable.h"
+#include "SharedObjects.h"
 
 #include <log/log.h>
 #include <sys/random.h>
@@ -21,7 +21,7 @@ uint64_t newNumber() {
 
 }  // namespace
 
-uint64_t ObjectTable::lend(const sp<BBinder>& object, Peer& holder) {
+uint64_t SharedObjects::lend(const sp<BBinder>& object, Peer& holder) {
     std::lock_guard<std::mutex> lock(mLock);
     if (holder.dead) return 0;
     const auto known = mNumbers.find(object.get());
@@ -36,7 +36,7 @@ uint64_t ObjectTable::lend(const sp<BBinder>& object, Peer& holder) {
     return number;
 }
 
-bool ObjectTable::lendOn(uint64_t object, Peer& holder) {
+bool SharedObjects::lendOn(uint64_t object, Peer& holder) {
     std::lock_guard<std::mutex> lock(mLock);
     const auto lent = mLent.find(object);
     if (lent == mLent.end()) return false;
@@ -44,12 +44,12 @@ bool ObjectTable::lendOn(uint64_t object, Peer& holder) {
     return true;
 }
 
-void ObjectTable::addHold(uint64_t object, Lent& lent, Peer& holder) {
+void SharedObjects::addHold(uint64_t object, Lent& lent, Peer& holder) {
     holder.holds[object]++;
     lent.holds++;
 }
 
-void ObjectTable::giveBack(uint64_t object, uint64_t count, Peer& holder, Objects* released) {
+void SharedObjects::giveBack(uint64_t object, uint64_t count, Peer& holder, Objects* released) {
     std::lock_guard<std::mutex> lock(mLock);
     const auto held = holder.holds.find(object);
     if (held == holder.holds.end()) return;
@@ -59,8 +59,8 @@ void ObjectTable::giveBack(uint64_t object, uint64_t count, Peer& holder, Object
     dropHolds(mLent.find(object), given, released);
 }
 
-void ObjectTable::dropHolds(std::map<uint64_t, Lent>::iterator lent, uint64_t count,
-                            Objects* released) {
+void SharedObjects::dropHolds(std::map<uint64_t, Lent>::iterator lent, uint64_t count,
+                              Objects* released) {
     lent->second.holds -= count;
     if (lent->second.holds > 0) return;
     mNumbers.erase(lent->second.object.get());
@@ -68,20 +68,20 @@ void ObjectTable::dropHolds(std::map<uint64_t, Lent>::iterator lent, uint64_t co
     mLent.erase(lent);
 }
 
-sp<BBinder> ObjectTable::find(uint64_t object) {
+sp<BBinder> SharedObjects::find(uint64_t object) {
     std::lock_guard<std::mutex> lock(mLock);
     const auto lent = mLent.find(object);
     return lent != mLent.end() ? lent->second.object : nullptr;
 }
 
-int32_t ObjectTable::newHandle() {
+int32_t SharedObjects::newHandle() {
     if (mFreeHandles.empty()) return static_cast<int32_t>(mReceived.size()) + 1;
     const int32_t handle = *mFreeHandles.begin();
     mFreeHandles.erase(mFreeHandles.begin());
     return handle;
 }
 
-int32_t ObjectTable::receive(const std::shared_ptr<Peer>& owner, uint64_t object) {
+int32_t SharedObjects::receive(const std::shared_ptr<Peer>& owner, uint64_t object) {
     std::lock_guard<std::mutex> lock(mLock);
     const auto [handle, isNew] = mHandles.try_emplace({owner->name, object}, 0);
     if (isNew) {
@@ -94,20 +94,20 @@ int32_t ObjectTable::receive(const std::shared_ptr<Peer>& owner, uint64_t object
     return handle->second;
 }
 
-std::optional<ObjectTable::Holds> ObjectTable::letGo(int32_t handle) {
+std::optional<SharedObjects::Holds> SharedObjects::unpin(int32_t handle) {
     std::lock_guard<std::mutex> lock(mLock);
     const auto received = mReceived.find(handle);
     received->second.pins--;
     return freeIfUnused(received);
 }
 
-void ObjectTable::acquire(int32_t handle) {
+void SharedObjects::acquire(int32_t handle) {
     std::lock_guard<std::mutex> lock(mLock);
     const auto received = mReceived.find(handle);
     if (received != mReceived.end()) received->second.proxies++;
 }
 
-std::optional<ObjectTable::Holds> ObjectTable::release(int32_t handle) {
+std::optional<SharedObjects::Holds> SharedObjects::release(int32_t handle) {
     std::lock_guard<std::mutex> lock(mLock);
     const auto received = mReceived.find(handle);
     if (received == mReceived.end()) return std::nullopt;
@@ -115,7 +115,7 @@ std::optional<ObjectTable::Holds> ObjectTable::release(int32_t handle) {
     return freeIfUnused(received);
 }
 
-std::optional<ObjectTable::Holds> ObjectTable::freeIfUnused(
+std::optional<SharedObjects::Holds> SharedObjects::freeIfUnused(
         std::map<int32_t, Received>::iterator received) {
     if (received->second.pins > 0 || received->second.proxies > 0) return std::nullopt;
     Holds holds{std::move(received->second.remote), received->second.holds};
@@ -125,30 +125,30 @@ std::optional<ObjectTable::Holds> ObjectTable::freeIfUnused(
     return holds;
 }
 
-std::optional<ObjectTable::Remote> ObjectTable::remote(int32_t handle) {
+std::optional<SharedObjects::Remote> SharedObjects::remote(int32_t handle) {
     std::lock_guard<std::mutex> lock(mLock);
     const auto received = mReceived.find(handle);
     if (received == mReceived.end()) return std::nullopt;
     return received->second.remote;
 }
 
-std::vector<int32_t> ObjectTable::bury(Peer& peer, Objects* released) {
+std::vector<int32_t> SharedObjects::peerDied(Peer& peer, Objects* released) {
     std::lock_guard<std::mutex> lock(mLock);
     peer.dead = true;
     for (const auto& [object, count] : peer.holds) {
         dropHolds(mLent.find(object), count, released);
     }
     peer.holds.clear();
-    std::vector<int32_t> orphans;
+    std::vector<int32_t> handles;
     for (auto& [handle, received] : mReceived) {
         if (received.remote.owner.get() != &peer) continue;
         received.pins++;
-        orphans.push_back(handle);
+        handles.push_back(handle);
     }
-    return orphans;
+    return handles;
 }
 
-ObjectTable::Counts ObjectTable::counts() {
+SharedObjects::Counts SharedObjects::counts() {
     std::lock_guard<std::mutex> lock(mLock);
     size_t holds = 0;
     for (const auto& lent : mLent) holds += lent.second.holds;
