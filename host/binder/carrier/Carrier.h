@@ -1,25 +1,16 @@
 #pragma once
 
+#include <binder/Binder.h>
 #include <binder/BpBinder.h>
-#include <binder/Parcel.h>
 
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
 
+#include "Payload.h"
+
 namespace android::host {
-
-/** What a parcel holds, taken apart for the way to another process. */
-struct Payload {
-    struct Object {
-        size_t offset;
-        sp<IBinder> binder;
-    };
-
-    std::vector<uint8_t> bytes;   // zero where an object lies
-    std::vector<Object> objects;  // ordered by offset
-};
 
 /** One transaction that another process sent to an object of this one, or an errand. */
 class IncomingCall {
@@ -41,9 +32,9 @@ class IncomingCall {
 };
 
 /**
- * Carries transactions between processes. Everything else in this folder speaks of remote objects
- * by handle only: a positive number of the carrier's choice, the same one for the same object for
- * as long as a proxy of it lives.
+ * Carries transactions between processes. Everything else in host/binder knows remote objects by
+ * handle only: a positive number of the carrier's choice, the same one for the same object for as
+ * long as a proxy of it lives.
  *
  * Every function may be called from any thread at any time.
  */
@@ -72,11 +63,11 @@ class Carrier {
     virtual void release(int32_t handle) = 0;
 
     /**
-     * Asks for sendObituary() on the proxy, on a thread of the carrier's, when the process dies or
-     * if it is dead already. Both are called with the proxy's lock held: they only take note.
+     * Asks for sendObituary() on the proxy, on a thread of the pool, when the process dies or if it
+     * is dead already. Both are called with the proxy's lock held: they must not call the proxy.
      */
     virtual void watchDeath(int32_t handle, const wp<BpBinder>& proxy) = 0;
-    virtual void unwatchDeath(int32_t handle) = 0;
+    virtual void unwatchDeath(int32_t /*handle*/) {}
 
     /** The services of all processes by name. */
     virtual status_t publish(const String16& name, const sp<IBinder>& service) = 0;
@@ -88,19 +79,7 @@ class Carrier {
 /** The carrier in use; null where everything stays within this process. */
 Carrier* carrier();
 
-/** Sets a carrier over the session bus, the first time, if there is a bus and no carrier yet. */
-void connectCarrier();
-
-/** Starts the pool's threads if they are not running, unless the process wants none. */
-void startPoolForCalls();
-
-/** Another process took over the name of a service: its entry in this process's table goes. */
-void serviceReplaced(const String16& name, const sp<IBinder>& service);
-
 /** Sets the carrier, which stays its giver's and must outlive its use; null takes it out again. */
 void setCarrier(Carrier* newCarrier);
-
-/** Puts a parcel together from what came in; BAD_VALUE if an object does not fit in the bytes. */
-status_t assemble(const Payload& payload, Parcel* out);
 
 }  // namespace android::host

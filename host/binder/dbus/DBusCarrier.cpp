@@ -13,6 +13,8 @@
 #include <utility>
 
 #include "BusName.h"
+#include "host/binder/process/PoolForCalls.h"
+#include "host/binder/process/ServiceTable.h"
 
 namespace android::host::dbus {
 
@@ -449,7 +451,7 @@ void DBusCarrier::onNameOwnerChanged(const std::string& name, const std::string&
         mServices.erase(found);
     }
     mQueue.addErrand([name16 = String16(service->c_str()), service = std::move(lost)] {
-        serviceReplaced(name16, service);
+        ServiceTable::get()->removeReplaced(name16, service);
     });
 }
 

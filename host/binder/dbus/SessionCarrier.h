@@ -1,10 +1,17 @@
 #pragma once
 
-namespace android::host::dbus {
+namespace android::host {
+
+/** Sets a carrier over the session bus, the first time, if there is a bus and no carrier yet. */
+void connectCarrier();
+
+namespace dbus {
 
 class DBusCarrier;
 
 /** The carrier over the session bus, once connected; null where there is none. For tests. */
 DBusCarrier* sessionCarrier();
 
-}  // namespace android::host::dbus
+}  // namespace dbus
+
+}  // namespace android::host

@@ -8,14 +8,15 @@
 #include <pthread.h>
 #include <unistd.h>
 
-#include <atomic>
 #include <mutex>
 #include <string>
 #include <system_error>
 #include <thread>
 
+#include "PoolForCalls.h"
 #include "ServingGate.h"
 #include "host/binder/carrier/Carrier.h"
+#include "host/binder/dbus/SessionCarrier.h"
 
 namespace android {
 
@@ -35,9 +36,6 @@ constexpr size_t kMaxThreadName = 15;
 void nameThisThread(const std::string& name) {
     pthread_setname_np(pthread_self(), name.substr(0, kMaxThreadName).c_str());
 }
-
-// Set once the process said that it wants no threads but those that it lets join the pool.
-std::atomic<bool> gNoThreadsWanted{false};
 
 std::mutex gInstanceLock;
 // Never destroyed: pool threads may run until the very end of the process.
@@ -165,7 +163,7 @@ String8 ProcessState::makeBinderThreadName() {
 status_t ProcessState::setThreadPoolMaxThreadCount(size_t maxThreads) {
     pthread_mutex_lock(&mThreadCountLock);
     mMaxThreads = maxThreads;
-    gNoThreadsWanted = maxThreads == 0;
+    host::setPoolWanted(maxThreads > 0);
     pthread_mutex_unlock(&mThreadCountLock);
     return NO_ERROR;
 }
@@ -187,13 +185,5 @@ void ProcessState::setCallRestriction(CallRestriction restriction) {
                         "Call restrictions must be set before the first thread");
     mCallRestriction = restriction;
 }
-
-namespace host {
-
-void startPoolForCalls() {
-    if (!gNoThreadsWanted) ProcessState::self()->startThreadPool();
-}
-
-}  // namespace host
 
 }  // namespace android

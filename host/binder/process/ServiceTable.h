@@ -1,0 +1,57 @@
+#pragma once
+
+#include <binder/Binder.h>
+#include <binder/IServiceManager.h>
+
+#include <condition_variable>
+#include <map>
+#include <mutex>
+#include <vector>
+
+namespace android::host {
+
+/** The service manager: this process's services in a table, those of others through the carrier. */
+class ServiceTable : public IServiceManager {
+  public:
+    /** The only one; never destroyed, since services outlive the destructors of other libraries. */
+    static const sp<ServiceTable>& get();
+
+    /** Answers at once: who wants to wait for a service calls waitForService(). */
+    sp<IBinder> getService(const String16& name) const override { return checkService(name); }
+    sp<IBinder> checkService(const String16& name) const override;
+    status_t addService(const String16& name, const sp<IBinder>& service, bool allowIsolated,
+                        int dumpsysFlags) override;
+    Vector<String16> listServices(int dumpsysFlags) override;
+    sp<IBinder> waitForService(const String16& name) override;
+    /** False: there is no manifest that could declare a service. */
+    bool isDeclared(const String16& /*name*/) override { return false; }
+
+    // As the functions of HostServiceManager.h.
+    status_t addLocal(const String16& name, const sp<IBinder>& service);
+    bool remove(const String16& name);
+    void removeAll();
+
+    /** Removes a service whose name another process took over, unless it was replaced here too. */
+    void removeReplaced(const String16& name, const sp<IBinder>& service);
+
+  protected:
+    IBinder* onAsBinder() override { return mBinder.get(); }
+
+  private:
+    struct Entry {
+        sp<IBinder> binder;
+        int dumpsysFlags = 0;
+    };
+
+    void exchange(const String16& name, Entry* entry);
+    std::vector<String16> localNames() const;
+
+    // Who asks for the manager's binder gets one that answers the standard transactions.
+    const sp<BBinder> mBinder = new BBinder;
+
+    mutable std::mutex mLock;  // guards mServices
+    std::condition_variable mAdded;
+    std::map<String16, Entry> mServices;
+};
+
+}  // namespace android::host
