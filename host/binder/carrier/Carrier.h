@@ -6,13 +6,15 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <variant>
 #include <vector>
 
 #include "Payload.h"
 
 namespace android::host {
 
-/** One transaction that another process sent to an object of this one, or an errand. */
+/** One transaction that another process sent to an object of this one. */
 class IncomingCall {
   public:
     virtual ~IncomingCall() = default;
@@ -26,10 +28,13 @@ class IncomingCall {
     Payload request;
     pid_t callingPid = 0;
     uid_t callingUid = 0;
-
-    /** Work of the carrier's own, such as a death to tell of: set, it is all there is to do. */
-    std::function<void()> errand;
 };
+
+/** Work of the carrier's own, such as telling a proxy that its object's process died. */
+using Task = std::function<void()>;
+
+/** What a thread of the pool does next: it serves a call or runs a task. */
+using PoolWork = std::variant<std::unique_ptr<IncomingCall>, Task>;
 
 /**
  * Carries transactions between processes. Everything else in host/binder knows remote objects by
@@ -50,12 +55,12 @@ class Carrier {
                               Payload* reply) = 0;
 
     /**
-     * Waits for the next incoming call; null ends the calling pool thread. One-way calls to one
-     * object come out in the order they were sent, the next not before the one ahead is destroyed.
+     * Waits for the next work; none ends the calling pool thread. One-way calls to one object come
+     * out in the order they were sent, the next not before the one ahead is destroyed.
      */
-    virtual std::unique_ptr<IncomingCall> receive() = 0;
+    virtual std::optional<PoolWork> receive() = 0;
 
-    /** Ends the pool: from now on receive() gives null. */
+    /** Ends the pool: from now on receive() gives none. */
     virtual void stop() {}
 
     /** Counts the proxies of a handle: the remote object is kept while there is one. */

@@ -13,26 +13,7 @@ size_t sizeOf(const BusCall& call) {
     return call.request.bytes.size() + call.request.objects.size() * kObjectCost;
 }
 
-class Errand : public IncomingCall {
-  public:
-    explicit Errand(std::function<void()> work) { errand = std::move(work); }
-    void answer(status_t /*status*/, Payload /*reply*/) override {}
-};
-
 }  // namespace
-
-BusCall::BusCall(sdbus::MethodCall received, std::shared_ptr<Peer> sender, Responder responder)
-    : message(std::move(received)), caller(std::move(sender)), mResponder(std::move(responder)) {}
-
-BusCall::~BusCall() {
-    if (!mAnswered && !isOneWay()) mResponder(*this, UNKNOWN_ERROR, Payload());
-    if (mQueue != nullptr) mQueue->leaveLane(object);
-}
-
-void BusCall::answer(status_t status, Payload reply) {
-    mAnswered = true;
-    mResponder(*this, status, std::move(reply));
-}
 
 bool CallQueue::admit(const BusCall& call) {
     Peer& caller = *call.caller;
@@ -59,7 +40,7 @@ void CallQueue::add(std::unique_ptr<BusCall> call) {
 
 void CallQueue::makeReady(std::unique_ptr<BusCall> call) {
     if (call->isOneWay()) call->mQueue = this;
-    mReady.push_back(std::move(call));
+    mReady.emplace_back(std::move(call));
     mArrived.notify_one();
 }
 
@@ -75,23 +56,23 @@ void CallQueue::leaveLane(uint64_t object) {
     makeReady(std::move(next));
 }
 
-void CallQueue::addErrand(std::function<void()> errand) {
+void CallQueue::add(Task task) {
     std::lock_guard<std::mutex> lock(mLock);
-    mReady.push_back(std::make_unique<Errand>(std::move(errand)));
+    mReady.emplace_back(std::move(task));
     mArrived.notify_one();
 }
 
-std::unique_ptr<IncomingCall> CallQueue::take() {
+std::optional<PoolWork> CallQueue::take() {
     std::unique_lock<std::mutex> lock(mLock);
     mArrived.wait(lock, [this] { return mStopped || !mReady.empty(); });
-    if (mStopped) return nullptr;
-    std::unique_ptr<IncomingCall> next = std::move(mReady.front());
+    if (mStopped) return std::nullopt;
+    auto next = std::move(mReady.front());
     mReady.pop_front();
-    if (const auto* call = dynamic_cast<BusCall*>(next.get()); call != nullptr) {
-        call->caller->waitingCalls--;
-        call->caller->waitingBytes -= sizeOf(*call);
-    }
-    return next;
+    if (auto* task = std::get_if<Task>(&next); task != nullptr) return std::move(*task);
+    auto& call = std::get<std::unique_ptr<BusCall>>(next);
+    call->caller->waitingCalls--;
+    call->caller->waitingBytes -= sizeOf(*call);
+    return std::unique_ptr<IncomingCall>(std::move(call));
 }
 
 void CallQueue::stop() {

@@ -2,45 +2,19 @@
 
 #include <condition_variable>
 #include <deque>
-#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
+#include <variant>
 
-#include "Peer.h"
+#include "BusCall.h"
 #include "host/binder/carrier/Carrier.h"
 
 namespace android::host::dbus {
 
-class CallQueue;
-
-/** A transaction that came in over the bus. */
-class BusCall : public IncomingCall {
-  public:
-    /** Sends the reply. */
-    using Responder = std::function<void(BusCall&, status_t, Payload)>;
-
-    BusCall(sdbus::MethodCall received, std::shared_ptr<Peer> sender, Responder responder);
-    ~BusCall() override;
-
-    void answer(status_t status, Payload reply) override;
-    /** Leaves the call without an answer: its caller was sent an error. */
-    void abandon() { mAnswered = true; }
-    bool isOneWay() const { return message.doesntExpectReply(); }
-
-    const sdbus::MethodCall message;
-    const std::shared_ptr<Peer> caller;
-    uint64_t object = 0;
-
-  private:
-    friend class CallQueue;
-    const Responder mResponder;
-    bool mAnswered = false;
-    CallQueue* mQueue = nullptr;  // where it heads a lane
-};
-
 /**
- * What waits for the pool's threads: calls, and errands of the carrier's own.
+ * What waits for the pool's threads: calls, and tasks of the carrier's own.
  *
  * One-way calls to one object form a lane: the next comes out when the one ahead is destroyed.
  */
@@ -55,10 +29,10 @@ class CallQueue {
 
     /** Puts a call that was admitted in line. */
     void add(std::unique_ptr<BusCall> call);
-    void addErrand(std::function<void()> errand);
+    void add(Task task);
 
-    /** Waits for the next; null once the queue was stopped. */
-    std::unique_ptr<IncomingCall> take();
+    /** Waits for the next; none once the queue was stopped. */
+    std::optional<PoolWork> take();
     void stop();
 
     size_t size();
@@ -68,9 +42,9 @@ class CallQueue {
     void leaveLane(uint64_t object);
     void makeReady(std::unique_ptr<BusCall> call);
 
-    std::mutex mLock;
+    std::mutex mLock;  // guards what follows
     std::condition_variable mArrived;
-    std::deque<std::unique_ptr<IncomingCall>> mReady;
+    std::deque<std::variant<std::unique_ptr<BusCall>, Task>> mReady;
     // By object: what waits behind the one-way call that is ready or being served.
     std::map<uint64_t, std::deque<std::unique_ptr<BusCall>>> mLanes;
     bool mStopped = false;

@@ -367,7 +367,7 @@ void DBusCarrier::discard(SharedObjects::Objects objects) {
     if (objects.empty()) return;
     std::lock_guard<std::mutex> lock(mLock);
     if (mDiscarded.empty()) {
-        mQueue.addErrand([this] {
+        mQueue.add([this] {
             std::set<sp<IBinder>> discarded;
             std::lock_guard<std::mutex> guard(mLock);
             discarded.swap(mDiscarded);
@@ -450,7 +450,7 @@ void DBusCarrier::onNameOwnerChanged(const std::string& name, const std::string&
         lost = std::move(found->second);
         mServices.erase(found);
     }
-    mQueue.addErrand([name16 = String16(service->c_str()), service = std::move(lost)] {
+    mQueue.add([name16 = String16(service->c_str()), service = std::move(lost)] {
         ServiceTable::get()->removeReplaced(name16, service);
     });
 }
@@ -465,7 +465,7 @@ void DBusCarrier::peerDied(const std::shared_ptr<Peer>& peer) {
     const std::vector<int32_t> handles = mObjects.peerDied(*peer, &released);
     if (!handles.empty()) startPoolForCalls();
     for (const int32_t handle : handles) {
-        mQueue.addErrand([this, handle] {
+        mQueue.add([this, handle] {
             const sp<IBinder> proxy = ProcessState::self()->getStrongProxyForHandle(handle);
             mObjects.unpin(handle);
             if (proxy != nullptr) proxy->remoteBinder()->sendObituary();
@@ -488,13 +488,11 @@ void DBusCarrier::watchDeath(int32_t handle, const wp<BpBinder>& proxy) {
     startPoolForCalls();
     const auto remote = mObjects.remote(handle);
     if (remote.has_value() && !remote->owner->dead) return;
-    mQueue.addErrand([proxy] {
+    mQueue.add([proxy] {
         const sp<BpBinder> dead = proxy.promote();
         if (dead != nullptr) dead->sendObituary();
     });
 }
-
-void DBusCarrier::unwatchDeath(int32_t /*handle*/) {}
 
 // Names.
 
@@ -629,7 +627,7 @@ std::vector<String16> DBusCarrier::list() {
     return services;
 }
 
-std::unique_ptr<IncomingCall> DBusCarrier::receive() {
+std::optional<PoolWork> DBusCarrier::receive() {
     return mQueue.take();
 }
 

@@ -1,6 +1,6 @@
 #include "Peer.h"
 
-#include "CallQueue.h"
+#include "BusCall.h"
 
 namespace android::host::dbus {
 

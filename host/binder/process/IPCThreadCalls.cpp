@@ -10,6 +10,8 @@
 #include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <optional>
+#include <variant>
 
 #include "ServingGate.h"
 #include "host/binder/carrier/Carrier.h"
@@ -114,8 +116,8 @@ void IPCThreadState::blockUntilThreadAvailable() {
 status_t IPCThreadState::getAndExecuteCommand() {
     host::Carrier* const carrier = host::carrier();
     if (carrier == nullptr) return NO_INIT;
-    std::unique_ptr<host::IncomingCall> call = carrier->receive();
-    if (call == nullptr) return NO_INIT;
+    std::optional<host::PoolWork> work = carrier->receive();
+    if (!work.has_value()) return NO_INIT;
 
     pthread_mutex_lock(&mProcess->mThreadCountLock);
     mProcess->mExecutingThreadsCount++;
@@ -128,14 +130,14 @@ status_t IPCThreadState::getAndExecuteCommand() {
 
     {
         const host::ServingGate gate;
-        if (call->errand) {
-            call->errand();
+        if (const auto* task = std::get_if<host::Task>(&*work); task != nullptr) {
+            (*task)();
         } else {
-            tIncoming = call.get();
-            executeCommand(static_cast<int32_t>(call->code));
+            tIncoming = std::get<std::unique_ptr<host::IncomingCall>>(*work).get();
+            executeCommand(static_cast<int32_t>(tIncoming->code));
             tIncoming = nullptr;
         }
-        call.reset();
+        work.reset();
     }
 
     pthread_mutex_lock(&mProcess->mThreadCountLock);

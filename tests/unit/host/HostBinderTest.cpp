@@ -379,12 +379,12 @@ class LoopbackCarrier : public host::Carrier {
         return result.status;
     }
 
-    std::unique_ptr<host::IncomingCall> receive() override {
+    std::optional<host::PoolWork> receive() override {
         std::unique_lock<std::mutex> lock(mLock);
         mArrived.wait(lock, [this] { return !mCalls.empty(); });
         std::unique_ptr<host::IncomingCall> call = std::move(mCalls.front());
         mCalls.pop_front();
-        return call;
+        return host::PoolWork(std::move(call));
     }
 
     void acquire(int32_t handle) override {
