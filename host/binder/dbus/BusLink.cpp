@@ -208,6 +208,15 @@ bool BusLink::send(const sdbus::MethodReply& reply) {
     return sendLocked([&reply] { reply.send(); });
 }
 
+void BusLink::sendError(const sdbus::MethodCall& call, const char* error, const char* why) {
+    if (call.doesntExpectReply()) return;
+    try {
+        send(call.createErrorReply(sdbus::Error(error, why)));
+    } catch (const sdbus::Error& failure) {
+        ALOGE("An error cannot be sent: %s", failure.what());
+    }
+}
+
 bool BusLink::call(const std::shared_ptr<Destination>& destination, const sdbus::MethodCall& call,
                    std::chrono::microseconds timeout, AnswerHandler handler) {
     const auto pending = std::make_shared<Pending>(Pending{destination, std::move(handler)});

@@ -56,6 +56,9 @@ class BusLink {
 
     static constexpr std::chrono::microseconds kForever = std::chrono::microseconds::max();
 
+    /** For what the bus and the link's threads of others answer by themselves. */
+    static constexpr std::chrono::seconds kPromptly{5};
+
     /** Connects; throws sdbus::Error if the bus cannot be reached. */
     explicit BusLink(const std::string& address);
     ~BusLink();
@@ -76,6 +79,9 @@ class BusLink {
     /** Sends a call for whose answer nobody waits, or a reply; false if it cannot be sent. */
     bool send(sdbus::MethodCall& call);
     bool send(const sdbus::MethodReply& reply);
+
+    /** Answers a call with an error, unless its caller waits for no answer. */
+    void sendError(const sdbus::MethodCall& call, const char* error, const char* why);
 
     /**
      * Sends a call; the handler is called exactly once, unless the call cannot be sent (false).

@@ -7,6 +7,9 @@ namespace android::host::dbus {
 
 namespace {
 
+// The longest name that the bus accepts.
+constexpr size_t kMaxBusName = 255;
+
 constexpr char kEscape = '-';
 
 // The characters to escape, and the letter that stands for each alone. For a pair of them stands
@@ -71,6 +74,17 @@ std::optional<std::string> serviceNameOf(const std::string& busName) {
     // One bus name per service: any other spelling is somebody else's.
     if (busNameOf(service) != busName) return std::nullopt;
     return service;
+}
+
+bool isUniqueName(const std::string& name) {
+    if (name.empty() || name[0] != ':' || name.size() > kMaxBusName) return false;
+    size_t elements = 0;
+    for (size_t start = 1; start <= name.size(); elements++) {
+        const size_t end = std::min(name.find('.', start), name.size());
+        if (end == start || name.find_first_not_of("0123456789", start) < end) return false;
+        start = end + 1;
+    }
+    return elements >= 2;
 }
 
 }  // namespace android::host::dbus

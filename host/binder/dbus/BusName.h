@@ -19,4 +19,7 @@ std::string busNameOf(const std::string& service);
 /** The service that is published under a bus name; none if it is not one of ours. */
 std::optional<std::string> serviceNameOf(const std::string& busName);
 
+/** True for such a name as the bus gives to a connection: ":1.42", numbers with dots between. */
+bool isUniqueName(const std::string& name);
+
 }  // namespace android::host::dbus

@@ -1,25 +1,29 @@
 #pragma once
 
-#include <binder/Binder.h>
-
-#include <functional>
-#include <map>
 #include <memory>
-#include <mutex>
-#include <set>
 #include <string>
 #include <vector>
 
+#include "BusDaemon.h"
 #include "BusLink.h"
 #include "CallQueue.h"
-#include "MessageFormat.h"
-#include "Peer.h"
+#include "CallReceiver.h"
+#include "CallSender.h"
+#include "DeathWatch.h"
+#include "ObjectExchange.h"
+#include "PeerDirectory.h"
+#include "PeerTable.h"
+#include "PoolReleaser.h"
+#include "ServiceNames.h"
 #include "SharedObjects.h"
 #include "host/binder/carrier/Carrier.h"
 
 namespace android::host::dbus {
 
-/** Carries transactions over a D-Bus bus; see the folder's README. Never destroyed. */
+/**
+ * Carries transactions over a D-Bus bus: puts the parts together and hands each message to the one
+ * that it concerns. See the folder's README. Never destroyed.
+ */
 class DBusCarrier : public Carrier, private BusLink::Listener {
   public:
     /** Connects; throws sdbus::Error if the bus cannot be reached. */
@@ -46,70 +50,23 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
     Counts counts();
 
   private:
-    struct Answer {
-        status_t status;
-        Payload content;
-    };
-    /** An object of another process that is lent on to a third one. */
-    struct Grant {
-        std::shared_ptr<Peer> owner;
-        uint64_t object;
-    };
-    struct Parcelled {
-        Content content;
-        std::vector<Grant> grants;
-    };
-
     void onCall(sdbus::MethodCall call) override;
     void onNameOwnerChanged(const std::string& name, const std::string& oldOwner,
                             const std::string& newOwner) override;
     void onDisconnected() override;
 
-    void onTransact(sdbus::MethodCall call, const std::shared_ptr<Peer>& caller);
-    void onRelease(sdbus::MethodCall& call, Peer& caller);
-    void onGrant(sdbus::MethodCall& call);
-    void onLookup(sdbus::MethodCall& call, const std::shared_ptr<Peer>& caller);
-    sp<IBinder> onFound(sdbus::MethodReply& reply);
-    Answer onAnswer(sdbus::MethodReply& reply, const sdbus::Error* error,
-                    const std::shared_ptr<Peer>& callee);
-
-    void respond(BusCall& call, status_t status, Payload reply);
-    void refuse(BusCall& call, const char* error, const char* why);
-    void sendError(const sdbus::MethodCall& call, const char* error, const char* why);
-
-    std::shared_ptr<Peer> peerNamed(const std::string& uniqueName);
-    bool ask(const char* question, const Peer& peer,
-             std::function<void(sdbus::MethodReply&)> onReply,
-             std::function<void(const sdbus::Error*)> then = nullptr);
-    void identified(Peer& peer);
-    void peerDied(const std::shared_ptr<Peer>& peer);
-
-    status_t pack(Payload payload, Peer& receiver, Parcelled* out);
-    void takeBack(const Parcelled& parcelled, Peer& receiver);
-    Reference refer(const sp<IBinder>& binder, Peer& receiver, std::vector<Grant>* grants);
-    bool isSendable(const sp<IBinder>& binder);
-    void send(const std::vector<Grant>& grants, const Peer& holder);
-    bool unpack(Content content, const std::shared_ptr<Peer>& sender, Payload* out);
-    sp<IBinder> resolve(const std::string& owner, uint64_t object,
-                        const std::shared_ptr<Peer>& sender);
-    void giveBack(const std::optional<SharedObjects::Holds>& holds);
-    void discard(SharedObjects::Objects objects);
-
-    bool callBus(const sdbus::MethodCall& call, std::chrono::microseconds timeout,
-                 std::function<void(sdbus::MethodReply&)> onReply,
-                 std::function<void(const sdbus::Error*)> then);
-    bool callBusAndWait(const sdbus::MethodCall& call,
-                        std::function<void(sdbus::MethodReply&)> onReply);
-
     BusLink mLink;
-    const std::shared_ptr<BusLink::Destination> mBus;
+    BusDaemon mBus;
     SharedObjects mObjects;
     CallQueue mQueue;
-
-    std::mutex mLock;  // guards what follows
-    std::map<std::string, sp<IBinder>> mServices;
-    std::map<std::string, std::shared_ptr<Peer>> mPeers;
-    std::set<sp<IBinder>> mDiscarded;
+    PoolReleaser mReleaser;
+    PeerTable mPeerTable;
+    DeathWatch mDeaths;
+    PeerDirectory mPeers;
+    ObjectExchange mExchange;
+    CallSender mSender;
+    CallReceiver mReceiver;
+    ServiceNames mServices;
 };
 
 }  // namespace android::host::dbus

@@ -5,7 +5,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 
 namespace android::host::dbus {
@@ -14,8 +13,6 @@ namespace {
 
 // Nobody can change the bytes once they are on their way, nor take them away from a reader.
 constexpr int kSeals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
-
-constexpr size_t kMaxBusName = 255;
 
 sdbus::UnixFd sealedFileOf(const std::vector<uint8_t>& bytes) {
     const int file = memfd_create("binder", MFD_CLOEXEC | MFD_ALLOW_SEALING);
@@ -130,17 +127,6 @@ bool read(sdbus::Message& message, int32_t* status, Content* content) {
         return false;
     }
     return read(message, content);
-}
-
-bool isUniqueName(const std::string& name) {
-    if (name.empty() || name[0] != ':' || name.size() > kMaxBusName) return false;
-    size_t elements = 0;
-    for (size_t start = 1; start <= name.size(); elements++) {
-        const size_t end = std::min(name.find('.', start), name.size());
-        if (end == start || name.find_first_not_of("0123456789", start) < end) return false;
-        start = end + 1;
-    }
-    return elements >= 2;
 }
 
 }  // namespace android::host::dbus

@@ -62,7 +62,4 @@ bool read(sdbus::Message& message, Content* content);
 /** Reads a reply to Transact; false if it is malformed or too large. */
 bool read(sdbus::Message& message, int32_t* status, Content* content);
 
-/** True for such a name as the bus gives to a connection: ":1.42", numbers with dots between. */
-bool isUniqueName(const std::string& name);
-
 }  // namespace android::host::dbus

@@ -1,6 +1,7 @@
 #include "Peer.h"
 
 #include "BusCall.h"
+#include "MessageFormat.h"
 
 namespace android::host::dbus {
 

@@ -11,7 +11,6 @@
 #include <vector>
 
 #include "BusLink.h"
-#include "MessageFormat.h"
 
 namespace android::host::dbus {
 

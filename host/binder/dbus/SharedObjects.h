@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "Peer.h"
-#include "host/binder/carrier/Carrier.h"
 
 namespace android::host::dbus {
 
@@ -44,8 +43,6 @@ class SharedObjects {
         Remote remote;
         uint32_t count;
     };
-
-    explicit SharedObjects(std::string self) : mSelf(std::move(self)) {}
 
     /** Adds a hold on an object of this process and gives its number; 0 if the holder is dead. */
     uint64_t lend(const sp<BBinder>& object, Peer& holder);
@@ -96,7 +93,6 @@ class SharedObjects {
     std::optional<Holds> freeIfUnused(std::map<int32_t, Received>::iterator received);
     int32_t newHandle();
 
-    const std::string mSelf;
     std::mutex mLock;
     std::map<uint64_t, Lent> mLent;
     std::map<const BBinder*, uint64_t> mNumbers;
