@@ -84,7 +84,7 @@ class Carrier {
 /** The carrier in use; null where everything stays within this process. */
 Carrier* carrier();
 
-/** Sets the carrier, which stays its giver's and must outlive its use; null takes it out again. */
+/** Sets the carrier, which must outlive its use and is not destroyed; null removes it. */
 void setCarrier(Carrier* newCarrier);
 
 }  // namespace android::host

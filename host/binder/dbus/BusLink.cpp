@@ -22,7 +22,7 @@ constexpr char kNameOwnerChanged[] =
         "type='signal',sender='org.freedesktop.DBus',path='/org/freedesktop/DBus',"
         "interface='org.freedesktop.DBus',member='NameOwnerChanged'";
 
-// The library says by an errno's name that the connection is lost.
+// The library reports a lost connection by the name of an errno.
 bool meansBroken(const sdbus::Error& error) {
     const std::string prefix = "System.Error.";
     const std::string& name = error.getName();
@@ -94,7 +94,7 @@ void BusLink::run() {
         }
     } catch (const std::exception& error) {
         deliver();
-        breakOff(error.what());
+        disconnected(error.what());
     }
 }
 
@@ -103,7 +103,7 @@ bool BusLink::process() {
     return mConnection->processPendingRequest();
 }
 
-// What one handler cannot cope with is no reason to leave the bus.
+// An exception in one handler must not end the connection.
 void BusLink::handle(const std::function<void()>& handler) {
     try {
         handler();
@@ -116,8 +116,8 @@ void BusLink::deliver() {
     for (const auto& arrived : std::exchange(mInbox, {})) handle(arrived);
 }
 
-// A message that did not fit into the socket is written on by this thread; a sender that left one
-// behind wakes it, since it may have begun to wait for nothing but input.
+// This thread writes the rest of a message that did not fit into the socket. Its sender wakes it,
+// since it may already wait for input only.
 void BusLink::waitForEvents() {
     sdbus::IConnection::PollData wanted;
     {
@@ -137,8 +137,10 @@ void BusLink::wake() {
     eventfd_write(mWakeFd, 1);
 }
 
-void BusLink::breakOff(const char* why) {
-    ALOGW("The session bus is gone; from now on this process is on its own: %s", why);
+void BusLink::disconnected(const char* why) {
+    ALOGW("The connection to the session bus is lost; only this process's own services are left: "
+          "%s",
+          why);
     std::set<std::shared_ptr<Pending>> abandoned;
     {
         std::lock_guard<std::mutex> lock(mLock);
@@ -173,8 +175,8 @@ bool BusLink::hasUnwritten() {
     }
 }
 
-// Each thread waits until its own message is written, so that what waits to be written is bounded.
-// Who reads too slowly is the bus's concern: it takes every message at once.
+// Each thread waits until its own message is written, so that the amount of unwritten data is
+// bounded. A slow receiver does not matter here: the bus takes every message at once.
 template <typename Send>
 bool BusLink::sendLocked(Send send) {
     std::unique_lock<std::mutex> lock(mLock);

@@ -17,10 +17,10 @@ namespace android::host::dbus {
 /**
  * The process's connection to the bus, and the one thread that reads from it.
  *
- * The library may be used from several threads but not by two at a time, so one lock lies around
- * every use of the connection. What comes in is first only put aside; the handlers are called with
- * no lock held, in the order in which it came, on the link's thread. They must not wait for the
- * bus.
+ * The bus library may be used by several threads but not by two at a time, so one lock guards every
+ * use of the connection. The library's callbacks, which run with the lock held, only append what
+ * came in to a list. The link's thread then calls the handlers, in the order of arrival and with no
+ * lock held. Handlers must not wait for the bus.
  */
 class BusLink {
   public:
@@ -30,14 +30,14 @@ class BusLink {
         virtual void onCall(sdbus::MethodCall call) = 0;
         virtual void onNameOwnerChanged(const std::string& name, const std::string& oldOwner,
                                         const std::string& newOwner) = 0;
-        /** The bus is gone; nothing comes any more. */
+        /** The connection is lost; no other function is called any more. */
         virtual void onDisconnected() = 0;
 
       protected:
         ~Listener() = default;
     };
 
-    /** Whom a process calls. Calls that wait for an answer keep it. */
+    /** A process to call, by bus name. It is kept by the calls that wait for an answer. */
     class Destination {
       public:
         Destination(BusLink& link, const std::string& name, const char* path);
@@ -51,12 +51,12 @@ class BusLink {
         std::unique_ptr<sdbus::IProxy> mProxy;
     };
 
-    /** Told how a call ended: by its reply, or by an error that has a name. */
+    /** Called when a call has ended, with its reply or with an error (then not null). */
     using AnswerHandler = std::function<void(sdbus::MethodReply&, const sdbus::Error*)>;
 
     static constexpr std::chrono::microseconds kForever = std::chrono::microseconds::max();
 
-    /** For what the bus and the link's threads of others answer by themselves. */
+    /** How long the bus and the link's threads of other processes may take to answer. */
     static constexpr std::chrono::seconds kPromptly{5};
 
     /** Connects; throws sdbus::Error if the bus cannot be reached. */
@@ -71,16 +71,16 @@ class BusLink {
 
     const std::string& uniqueName() const { return mUniqueName; }
 
-    /** True once the bus is gone. */
+    /** True once the connection is lost. */
     bool isBroken();
 
     sdbus::MethodCall newCall(Destination& destination, const char* interface, const char* method);
 
-    /** Sends a call for whose answer nobody waits, or a reply; false if it cannot be sent. */
+    /** Sends a call without a reply, or a reply; false if it cannot be sent. */
     bool send(sdbus::MethodCall& call);
     bool send(const sdbus::MethodReply& reply);
 
-    /** Answers a call with an error, unless its caller waits for no answer. */
+    /** Answers a call with an error, unless it is one without a reply. */
     void sendError(const sdbus::MethodCall& call, const char* error, const char* why);
 
     /**
@@ -100,7 +100,7 @@ class BusLink {
     void deliver();
     static void handle(const std::function<void()>& handler);
     void waitForEvents();
-    void breakOff(const char* why);
+    void disconnected(const char* why);
     void finish(const std::shared_ptr<Pending>& pending, sdbus::MethodReply& reply,
                 const sdbus::Error* error);
     void wake();
@@ -120,7 +120,7 @@ class BusLink {
     std::set<std::shared_ptr<Pending>> mPending;
     std::thread::id mThread;
 
-    // What came in and has to be handled yet; the link's thread alone uses it.
+    // What came in and is not handled yet; used by the link's thread only.
     std::vector<std::function<void()>> mInbox;
 };
 

@@ -71,7 +71,7 @@ std::optional<std::string> serviceNameOf(const std::string& busName) {
             return std::nullopt;
         }
     }
-    // One bus name per service: any other spelling is somebody else's.
+    // A service has one bus name only: any other spelling is not ours.
     if (busNameOf(service) != busName) return std::nullopt;
     return service;
 }

@@ -5,21 +5,21 @@
 
 namespace android::host::dbus {
 
-/** What every bus name of a service begins with. */
+/** The prefix of every service's bus name. */
 inline constexpr char kServicePrefix[] = "tarn.binder.name_";
 
 /**
  * The bus name under which a service is published: the prefix, then the service's name with each
  * character that a bus name cannot hold escaped by '-' and a letter, two such characters in a row
- * by one letter. So 127 characters, the longest name that a service may have, always fit. Empty if
- * the service's name holds a character that none may have.
+ * by one letter. So a name of 127 characters, the longest that a service may have, always fits.
+ * Empty if the service's name holds a character that is not allowed.
  */
 std::string busNameOf(const std::string& service);
 
-/** The service that is published under a bus name; none if it is not one of ours. */
+/** The name of the service that a bus name stands for; none if it stands for no service. */
 std::optional<std::string> serviceNameOf(const std::string& busName);
 
-/** True for such a name as the bus gives to a connection: ":1.42", numbers with dots between. */
+/** True for a name as the bus gives one to each connection: ":1.42", numbers with dots between. */
 bool isUniqueName(const std::string& name);
 
 }  // namespace android::host::dbus

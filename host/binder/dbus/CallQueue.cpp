@@ -6,7 +6,7 @@ namespace android::host::dbus {
 
 namespace {
 
-// What a proxy costs, about.
+// About the memory of a proxy.
 constexpr size_t kObjectCost = 256;
 
 size_t sizeOf(const BusCall& call) {

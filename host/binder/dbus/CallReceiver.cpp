@@ -12,7 +12,7 @@ namespace android::host::dbus {
 
 namespace {
 
-// What a call's end on the link's thread must not destroy there.
+// What must not be destroyed on the link's thread when a call ends there.
 SharedObjects::Objects localObjectsOf(const BusCall& call) {
     SharedObjects::Objects objects;
     if (call.target != nullptr) objects.push_back(call.target);

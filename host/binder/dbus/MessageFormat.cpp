@@ -11,7 +11,7 @@ namespace android::host::dbus {
 
 namespace {
 
-// Nobody can change the bytes once they are on their way, nor take them away from a reader.
+// Sealed, the bytes can be neither changed nor cut off while the receiver reads them.
 constexpr int kSeals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
 
 sdbus::UnixFd sealedFileOf(const std::vector<uint8_t>& bytes) {
@@ -31,7 +31,7 @@ sdbus::UnixFd sealedFileOf(const std::vector<uint8_t>& bytes) {
     return owned;
 }
 
-// Only a sealed memory file is read: any other file could block its reader or change meanwhile.
+// Only a sealed memory file is read: any other could block the reader or change meanwhile.
 bool readFile(int file, std::vector<uint8_t>* bytes) {
     const int seals = fcntl(file, F_GET_SEALS);
     if (seals < 0 || (seals & kSeals) != kSeals) return false;

@@ -16,7 +16,7 @@ namespace android::host::dbus {
  *   Grant(object, holder)       the caller lends an object on to a third process
  *   Lookup(service) -> (owner, object)
  *
- * Nobody waits for Release and Grant, nor for a one-way Transact.
+ * Release, Grant and a one-way Transact have no reply.
  */
 inline constexpr char kObjectPath[] = "/tarn/binder";
 inline constexpr char kInterface[] = "tarn.binder.Carrier1";

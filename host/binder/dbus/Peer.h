@@ -16,12 +16,12 @@ namespace android::host::dbus {
 
 class BusCall;
 
-/** Another process on the bus, known by its unique name, which no other process ever gets. */
+/** Another process on the bus, known by its unique name, which the bus never gives out again. */
 struct Peer {
     Peer(BusLink& link, const std::string& uniqueName);
     ~Peer();
 
-    /** True at most once a second: a flood of bad messages is not to become one of log lines. */
+    /** True at most once a second, so that many bad messages do not make as many log lines. */
     bool mayLog();
 
     const std::string name;
@@ -29,14 +29,14 @@ struct Peer {
 
     std::atomic<bool> dead{false};
 
-    // What it has sent that no thread has taken up yet.
+    // What it has sent that no thread of the pool has taken yet.
     std::atomic<size_t> waitingCalls{0};
     std::atomic<size_t> waitingBytes{0};
 
-    // How many holds it has on which object of this process. Guarded by the shared objects.
+    // How many holds it has on each object of this process. Guarded by the lock of SharedObjects.
     std::map<uint64_t, uint64_t> holds;
 
-    // The rest is for the link's thread alone. Calls wait until it is known who calls.
+    // The rest is used by the link's thread only. Calls wait until pid and uid are known.
     bool identified = false;
     pid_t pid = 0;
     uid_t uid = static_cast<uid_t>(-1);

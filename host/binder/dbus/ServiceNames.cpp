@@ -18,7 +18,7 @@ namespace android::host::dbus {
 
 namespace {
 
-// RequestName: whoever adds a service last has the name, and who lost it does not get it back.
+// RequestName: the process that adds a service last gets the name, and the one before loses it.
 constexpr uint32_t kAllowReplacement = 1;
 constexpr uint32_t kReplaceExisting = 2;
 constexpr uint32_t kDoNotQueue = 4;
@@ -27,8 +27,8 @@ constexpr uint32_t kAlreadyOwner = 4;
 
 }  // namespace
 
-// The link's thread enters the new service before it can hear from anybody who looks for it, and
-// after it has heard what happened to the name before.
+// The link's thread enters the new service, so before it sees a Lookup that the bus sends here for
+// the name, and after the bus's earlier messages about the name.
 status_t ServiceNames::publish(const String16& name, const sp<IBinder>& service) {
     startPoolForCalls();
     const std::string name8 = String8(name).string();
@@ -95,8 +95,8 @@ sp<IBinder> ServiceNames::find(const String16& name) {
         call << name8;
         auto promise = std::make_shared<std::promise<sp<IBinder>>>();
         std::future<sp<IBinder>> found = promise->get_future();
-        // The bus library is to give up later, so that only a service that is silent is waited for
-        // in vain. What comes after all is let go again.
+        // The library's own limit is longer, so that this wait ends first and logs which service is
+        // silent. An object that comes too late is given back.
         const bool sent =
                 mLink.call(owner, call, 2 * BusLink::kPromptly,
                            [this, promise](sdbus::MethodReply& reply, const sdbus::Error* error) {

@@ -13,7 +13,7 @@ std::string variable(const char* name) {
     return value != nullptr ? value : "";
 }
 
-// As the value of an address wants it.
+// Escaped as a value within a D-Bus address.
 std::string escaped(const std::string& path) {
     std::string text;
     for (const char c : path) {

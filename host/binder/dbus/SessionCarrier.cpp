@@ -25,11 +25,12 @@ void connect() {
     try {
         gCarrier = new DBusCarrier(address);
         setCarrier(gCarrier);
-        // A child that does not become another program shares the connection's socket but has none
-        // of its threads.
+        // A forked child that runs no other program shares the connection's socket but has none of
+        // its threads.
         pthread_atfork(nullptr, nullptr, [] { setCarrier(nullptr); });
-    } catch (const std::runtime_error& error) {  // of the bus, or of a thread that cannot be had
-        ALOGW("The session bus at %s cannot be reached, so this process is on its own: %s",
+    } catch (const std::runtime_error& error) {  // no bus, or no thread
+        ALOGW("The session bus at %s cannot be reached; this process finds its own services only: "
+              "%s",
               address.c_str(), error.what());
     }
 }

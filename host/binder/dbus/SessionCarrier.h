@@ -2,7 +2,7 @@
 
 namespace android::host {
 
-/** Sets a carrier over the session bus, the first time, if there is a bus and no carrier yet. */
+/** The first call sets a carrier over the session bus, if there is a bus and no carrier yet. */
 void connectCarrier();
 
 namespace dbus {

@@ -11,7 +11,7 @@ namespace android::host::dbus {
 
 namespace {
 
-// A number is all that one needs to call an object: nobody can guess it, and none comes twice.
+// A process that knows the number can call the object, so it must not be guessable.
 uint64_t newNumber() {
     uint64_t number = 0;
     const ssize_t got = getrandom(&number, sizeof(number), 0);

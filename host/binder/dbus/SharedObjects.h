@@ -17,16 +17,16 @@
 namespace android::host::dbus {
 
 /**
- * The objects that this process shares with others: those of its own that it lent out, and those
- * of others that it has proxies of. Keeps the books; whoever calls sends the messages.
+ * The objects that this process shares with others: its own that it lent to them, and theirs that
+ * it has proxies of. Only counts; the callers send the messages.
  *
  * A hold is one sending of a reference: the owner counts, by process, how many it sent, and a
- * process that needs an object no more gives back as many as it received. So a reference that is
- * on its way while others are given back is never lost. An object is kept while anybody has a hold
- * on it; when a process dies, all of its holds end.
+ * process that no longer needs an object gives back as many as it received. So a reference that is
+ * on its way while others are given back is never lost. An object is kept while any process has a
+ * hold on it; when a process dies, all of its holds end.
  *
- * References that a function takes out of the table are handed to its caller: an object's
- * destructor is not to run within, nor on the link's thread.
+ * References that a function removes are handed to its caller (`released`): an object's destructor
+ * must not run with the lock held, nor on the link's thread.
  */
 class SharedObjects {
   public:
@@ -46,7 +46,7 @@ class SharedObjects {
 
     /** Adds a hold on an object of this process and gives its number; 0 if the holder is dead. */
     uint64_t lend(const sp<BBinder>& object, Peer& holder);
-    /** The same for an object that was lent before; false if there is none of this number. */
+    /** The same for an object that was lent before; false if none has this number. */
     bool lendOn(uint64_t object, Peer& holder);
     void giveBack(uint64_t object, uint64_t count, Peer& holder, Objects* released);
 
@@ -54,8 +54,8 @@ class SharedObjects {
     sp<BBinder> find(uint64_t object);
 
     /**
-     * Takes note that a hold on another process's object came in. The handle stays valid, without
-     * a proxy too, until it is let go.
+     * Counts a hold on another process's object that came in, and pins its handle: the handle
+     * stays valid, even without a proxy, until unpin().
      */
     int32_t receive(const std::shared_ptr<Peer>& owner, uint64_t object);
     std::optional<Holds> unpin(int32_t handle);
@@ -63,10 +63,10 @@ class SharedObjects {
     void acquire(int32_t handle);
     std::optional<Holds> release(int32_t handle);
 
-    /** What lies behind a handle; none if it is not in use. */
+    /** The object of a handle; none if the handle is not in use. */
     std::optional<Remote> remote(int32_t handle);
 
-    /** Ends a process's holds. Gives its handles, to be let go: their proxies are to be told. */
+    /** Ends a process's holds. Gives the handles of its objects, each pinned once. */
     std::vector<int32_t> peerDied(Peer& peer, Objects* released);
 
     struct Counts {

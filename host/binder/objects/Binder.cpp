@@ -10,7 +10,7 @@
 
 namespace android {
 
-// What few binders need, made for the first one who asks.
+// What few binders need, made at its first use.
 class BBinder::Extras {
   public:
     Mutex lock;  // guards objects

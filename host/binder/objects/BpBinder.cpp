@@ -9,7 +9,7 @@ namespace android {
 
 namespace {
 
-// Nobody counts the proxies of a user on a host.
+// Proxies are not counted by user on a host.
 constexpr int32_t kUntracked = -1;
 
 int32_t load(const volatile int32_t& flag) {
@@ -89,7 +89,7 @@ void BpBinder::onLastStrongRef(const void* /*id*/) {
     if (thread == nullptr) return;
     {
         AutoMutex lock(mLock);
-        // Found again by its handle meanwhile, it may have new recipients.
+        // If it was found by its handle again meanwhile, it may have new recipients.
         if (mObituaries != nullptr && getStrongCount() == 0) {
             thread->clearDeathNotification(mHandle, this);
             delete mObituaries;
@@ -118,7 +118,7 @@ const String16& BpBinder::getInterfaceDescriptor() const {
 
     Parcel data;
     Parcel reply;
-    // Asked without the lock: the answer may come by way of this very process.
+    // Without the lock: the call may lead back to this process.
     const status_t status =
             const_cast<BpBinder*>(this)->transact(INTERFACE_TRANSACTION, data, &reply);
     const String16 descriptor = status == NO_ERROR ? reply.readString16() : String16();

@@ -1,7 +1,7 @@
 // For the thread sanitizer alone: the platform's libutils is not instrumented, so the sanitizer
 // can't see that counting references orders one thread's last use of an object before another
-// thread's destruction of it. These two come before the library's own, also where the library calls
-// itself, and say so.
+// thread's destruction of it. These two replace the library's own, within the library too, and tell
+// the sanitizer.
 
 #include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
@@ -16,8 +16,8 @@ Function* libraryFunction(const char* mangledName) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, mangledName));
 }
 
-// Whatever this thread did to the object lies behind it, and so does what others did who counted
-// down before.
+// What this thread did to the object happens before what later threads do, and after what earlier
+// ones did.
 void order(const void* counted) {
     __tsan_release(const_cast<void*>(counted));
     __tsan_acquire(const_cast<void*>(counted));

@@ -139,8 +139,8 @@ status_t Parcel::setDataCapacity(size_t size) {
     return size > mDataCapacity ? continueWrite(size) : NO_ERROR;
 }
 
-// The bytes may be the parcel's own, so the old block goes when they are copied. An emptied parcel
-// gives its memory back, a new one gets a block even for nothing.
+// The bytes may be the parcel's own, so the old block is freed after they are copied. Setting no
+// bytes frees the memory of a parcel that has some, and allocates an empty block for a new one.
 status_t Parcel::setData(const uint8_t* buffer, size_t len) {
     if (len > kMaxSize) return BAD_VALUE;
     uint8_t* block = mData;
@@ -187,7 +187,7 @@ status_t Parcel::appendFrom(const Parcel* parcel, size_t offset, size_t len) {
 
 int Parcel::compareData(const Parcel& other) {
     if (dataSize() != other.dataSize()) return dataSize() < other.dataSize() ? -1 : 1;
-    // A position beyond the end counts as size, yet no bytes stand there.
+    // A position beyond the end counts as size, but there are no bytes to compare.
     const size_t common = std::min(mDataSize, other.mDataSize);
     const int order = common > 0 ? memcmp(mData, other.mData, common) : 0;
     if (order != 0 || mDataSize == other.mDataSize) return order;

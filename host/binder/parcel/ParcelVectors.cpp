@@ -99,7 +99,8 @@ status_t readWords(const Parcel& source, std::vector<T>* values) {
     return NO_ERROR;
 }
 
-// Elements that have a form of their own. They are added one by one: the count alone makes nothing.
+// Elements that have a form of their own. They are added one by one as they are read, so that a
+// large count alone allocates nothing.
 template <typename T, typename U>
 status_t writeEach(Parcel* target, const std::vector<T>& values, status_t (Parcel::*write)(U)) {
     status_t status = writeCount(target, values);

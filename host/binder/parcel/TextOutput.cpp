@@ -15,7 +15,7 @@ TextOutput::~TextOutput() = default;
 
 namespace {
 
-// Hands over whole lines, each after the indentation that held when it began.
+// Passes on whole lines, each with the indentation that was set when it began.
 class LineOutput : public TextOutput {
   public:
     status_t print(const char* txt, size_t len) override {

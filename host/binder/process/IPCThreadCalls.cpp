@@ -23,8 +23,8 @@ namespace {
 // The call that this thread serves.
 thread_local host::IncomingCall* tIncoming = nullptr;
 
-// Where threads that joined the pool wait for the process's end while there is no carrier. Never
-// destroyed: they may wait longer than the last destructor runs.
+// Where threads that joined the pool wait for stopProcess() while there is no carrier. Never
+// destroyed: they may still wait when static objects are destroyed.
 struct IdlePool {
     std::mutex lock;
     std::condition_variable stopped;
@@ -59,7 +59,7 @@ status_t IPCThreadState::handlePolledCommands() {
     return INVALID_OPERATION;
 }
 
-// Nothing waits: each command is carried at once.
+// Commands are never buffered.
 void IPCThreadState::flushCommands() {}
 
 status_t IPCThreadState::transact(int32_t handle, uint32_t code, const Parcel& data, Parcel* reply,
@@ -111,8 +111,7 @@ void IPCThreadState::blockUntilThreadAvailable() {
     pthread_mutex_unlock(&mProcess->mThreadCountLock);
 }
 
-// Waits for work and does it. While it does, another thread of the pool waits for
-// the next one.
+// Waits for work and does it. Starts another thread of the pool if none is left to wait for more.
 status_t IPCThreadState::getAndExecuteCommand() {
     host::Carrier* const carrier = host::carrier();
     if (carrier == nullptr) return NO_INIT;

@@ -18,7 +18,7 @@ std::atomic<bool> gBackgroundSchedulingDisabled{false};
 
 thread_local IPCThreadState* tState = nullptr;
 
-// Two words in the one that the callers keep for us.
+// An identity or a work source as the one number that callers keep and give back.
 int64_t token(uint32_t high, uint32_t low) {
     return static_cast<int64_t>((uint64_t{high} << 32) | low);
 }

@@ -22,15 +22,15 @@ namespace android {
 
 namespace {
 
-// A host has no driver; the name only tells whoever asks.
+// What getDriverName() gives; a host has no driver.
 constexpr char kDriverName[] = "host";
 
 constexpr size_t kDefaultMaxThreads = 15;
 
-// Handles are counted up by the carrier; a wild one must not cost memory.
+// The carrier counts handles up from 1; the table must not grow for an invalid one.
 constexpr int32_t kMaxHandle = 1 << 20;
 
-// The kernel keeps no longer names.
+// The kernel cuts longer names.
 constexpr size_t kMaxThreadName = 15;
 
 void nameThisThread(const std::string& name) {
@@ -111,7 +111,7 @@ sp<IBinder> ProcessState::getStrongProxyForHandle(int32_t handle) {
     if (entry == nullptr) return nullptr;
     sp<IBinder> proxy;
     // A proxy that is being destroyed waits in expungeHandle() for this lock, so its reference
-    // counts can still be asked.
+    // counts can still be read.
     if (entry->binder != nullptr && entry->refs->attemptIncWeak(this)) {
         proxy.force_set(entry->binder);
         entry->refs->decWeak(this);
@@ -127,7 +127,7 @@ sp<IBinder> ProcessState::getStrongProxyForHandle(int32_t handle) {
 void ProcessState::expungeHandle(int32_t handle, IBinder* binder) {
     AutoMutex lock(mLock);
     handle_entry* entry = lookupHandleLocked(handle);
-    // Another proxy may have taken the place meanwhile.
+    // The entry may belong to a newer proxy by now.
     if (entry != nullptr && entry->binder == binder) entry->binder = nullptr;
 }
 
@@ -149,7 +149,7 @@ void ProcessState::spawnPooledThread(bool isMain) {
         }).detach();
     } catch (const std::system_error& error) {
         ALOGE("The pool cannot have another thread: %s", error.what());
-        // It is not there, and is tried for again when it is needed next.
+        // Not counted, so that the next call that needs it tries again.
         __atomic_fetch_sub(&mThreadPoolSeq, 1, __ATOMIC_ACQ_REL);
         if (isMain) __atomic_store_n(&mThreadPoolStarted, false, __ATOMIC_RELEASE);
     }

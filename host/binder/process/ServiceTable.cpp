@@ -18,10 +18,10 @@ namespace {
 // The longest name that the platform accepts.
 constexpr size_t kMaxNameLength = 127;
 
-// How often a service of another process is looked for while somebody waits for it.
+// How often waitForService() looks for a service of another process.
 constexpr std::chrono::milliseconds kRemotePollInterval(100);
 
-// As the platform's service manager, plus '@' and ':' for HIDL names: one table serves both here.
+// The platform's rule, plus '@' and ':' for HIDL names, which share this table.
 bool isValidName(const String16& name) {
     if (name.size() == 0 || name.size() > kMaxNameLength) return false;
     for (size_t i = 0; i < name.size(); i++) {
@@ -61,7 +61,7 @@ sp<IBinder> ServiceTable::checkService(const String16& name) const {
 status_t ServiceTable::addService(const String16& name, const sp<IBinder>& service,
                                   bool /*allowIsolated*/, int dumpsysFlags) {
     if (!isAddable(name, service)) return BAD_VALUE;
-    // What is replaced is released without the lock: its destructor may come back here.
+    // What is replaced is released without the lock: its destructor may call this table.
     Entry entry{service, dumpsysFlags};
     exchange(name, &entry);
     Carrier* const others = carrier();
@@ -129,7 +129,7 @@ void ServiceTable::removeAll() {
     for (const String16& name : localNames()) remove(name);
 }
 
-// Puts an entry in the place of another; one without a binder stands for none.
+// Swaps the entry of a name; one without a binder means no entry.
 void ServiceTable::exchange(const String16& name, Entry* entry) {
     std::lock_guard<std::mutex> lock(mLock);
     std::swap(mServices[name], *entry);

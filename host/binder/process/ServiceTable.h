@@ -16,7 +16,7 @@ class ServiceTable : public IServiceManager {
     /** The only one; never destroyed, since services outlive the destructors of other libraries. */
     static const sp<ServiceTable>& get();
 
-    /** Answers at once: who wants to wait for a service calls waitForService(). */
+    /** Does not wait, as checkService(); waitForService() does. */
     sp<IBinder> getService(const String16& name) const override { return checkService(name); }
     sp<IBinder> checkService(const String16& name) const override;
     status_t addService(const String16& name, const sp<IBinder>& service, bool allowIsolated,
@@ -46,7 +46,7 @@ class ServiceTable : public IServiceManager {
     void exchange(const String16& name, Entry* entry);
     std::vector<String16> localNames() const;
 
-    // Who asks for the manager's binder gets one that answers the standard transactions.
+    // The binder of the manager itself; it answers the standard transactions only.
     const sp<BBinder> mBinder = new BBinder;
 
     mutable std::mutex mLock;  // guards mServices

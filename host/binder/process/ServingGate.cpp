@@ -26,7 +26,7 @@ State& state() {
     return instance;
 }
 
-// How often this thread is inside: once, but twice if a call that it serves joins the pool.
+// How many gates this thread holds: one, or two if a call that it serves joins the pool.
 thread_local int tInside = 0;
 
 // The process that serves: a child that it forks has its exit handlers but none of its threads.

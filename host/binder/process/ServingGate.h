@@ -3,9 +3,9 @@
 namespace android::host {
 
 /**
- * What a thread of the pool holds while it serves, so that nothing is served while the process's
- * destructors run: once exit() has begun, what is under way gets a second to end and a thread that
- * comes now waits here for the end of the process.
+ * Held by a pool thread while it serves, so that nothing is served while the process's static
+ * destructors run. Once exit() has begun, work under way gets one second to end, and a thread that
+ * wants to begin waits here until the process ends.
  */
 class ServingGate {
   public:

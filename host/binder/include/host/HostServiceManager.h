@@ -7,8 +7,8 @@
 namespace android::host {
 
 /**
- * As the service manager's addService(), but the service stays within this process, where it comes
- * before one of the same name of another process.
+ * As the service manager's addService(), but other processes cannot find the service. In this
+ * process it comes before another process's service of the same name.
  */
 status_t addLocalService(const String16& name, const sp<IBinder>& service);
 
