@@ -16,6 +16,8 @@ void PoolReleaser::release(SharedObjects::Objects objects) {
         });
     }
     for (sp<IBinder>& object : objects) mWaiting.insert(std::move(object));
+    // With the lock held: the set still has each of them, so none is destroyed here.
+    objects.clear();
 }
 
 }  // namespace android::host::dbus
