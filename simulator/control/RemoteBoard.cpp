@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "simulator/control/BoardInterface.h"
+#include "simulator/control/BusConnection.h"
 #include "simulator/control/BusValues.h"
-#include "simulator/control/SessionBus.h"
 #include "values/Value.h"
 
 namespace tarn::simulator::bus {

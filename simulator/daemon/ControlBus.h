@@ -10,7 +10,7 @@
 
 #include "simulator/control/BoardControl.h"
 #include "simulator/control/BoardObject.h"
-#include "simulator/control/SessionBus.h"
+#include "simulator/control/BusConnection.h"
 #include "simulator/daemon/EndWatch.h"
 
 namespace tarn::simulator {

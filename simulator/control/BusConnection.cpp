@@ -1,4 +1,4 @@
-#include "simulator/control/SessionBus.h"
+#include "simulator/control/BusConnection.h"
 
 #include <sdbus-c++/Error.h>
 #include <sdbus-c++/IProxy.h>
