@@ -94,7 +94,7 @@ void publish(const sp<SimulatedBoard>& board) {
 }
 
 int serve(const DaemonOptions& options) {
-    const EndWatch watch;
+    EndWatch watch;
     const sp<SimulatedBoard> board = makeBoard(options);
     BoardControl control(board);
     for (const auto& [property, value] : options.settings) applySetting(&control, property, value);
@@ -136,7 +136,7 @@ int runDaemon(const DaemonOptions& options) try {
     say("the session bus refuses the board: " + error.getMessage());
     return kNoBus;
 } catch (const std::system_error& error) {
-    say(std::string("the system has not what serving needs: ") + error.what());
+    say(std::string("the system is out of resources: ") + error.what());
     return kNoBus;
 }
 

@@ -1,13 +1,9 @@
 #include "simulator/daemon/EndWatch.h"
 
-#include <fcntl.h>
-#include <poll.h>
 #include <signal.h>
-#include <sys/signalfd.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <system_error>
+#include <initializer_list>
 
 namespace tarn::simulator {
 
@@ -20,39 +16,26 @@ sigset_t endSignals() {
     return signals;
 }
 
-int checked(int result, const char* what) {
-    if (result == -1) throw std::system_error(errno, std::generic_category(), what);
-    return result;
-}
-
 }  // namespace
 
 EndWatch::EndWatch() {
     const sigset_t signals = endSignals();
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    mSignals = checked(signalfd(-1, &signals, SFD_CLOEXEC), "signalfd");
-    int ends[2];
-    checked(pipe2(ends, O_CLOEXEC | O_NONBLOCK), "pipe");
-    mReadEnd = ends[0];
-    mWriteEnd = ends[1];
 }
 
-EndWatch::~EndWatch() {
-    for (const int descriptor : {mSignals, mReadEnd, mWriteEnd}) close(descriptor);
-}
-
-void EndWatch::end(EndCause cause) const {
-    // A full pipe holds earlier causes already.
-    [[maybe_unused]] const ssize_t written = write(mWriteEnd, &cause, sizeof(cause));
+void EndWatch::end(EndCause cause) {
+    EndCause none = EndCause::kSignal;
+    mCause.compare_exchange_strong(none, cause);
+    // Wakes wait(), as a signal from outside does.
+    kill(getpid(), SIGTERM);
 }
 
 EndCause EndWatch::wait() const {
-    struct pollfd ends[] = {{mReadEnd, POLLIN, 0}, {mSignals, POLLIN, 0}};
-    while (poll(ends, 2, -1) <= 0) {
+    const sigset_t signals = endSignals();
+    // Signals that are not waited for interrupt it.
+    while (sigwaitinfo(&signals, nullptr) == -1) {
     }
-    EndCause cause = EndCause::kSignal;
-    if (read(mReadEnd, &cause, sizeof(cause)) != sizeof(cause)) return EndCause::kSignal;
-    return cause;
+    return mCause;
 }
 
 }  // namespace tarn::simulator

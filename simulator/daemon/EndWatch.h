@@ -1,31 +1,28 @@
 #pragma once
 
+#include <atomic>
+
 namespace tarn::simulator {
 
 /** Why a daemon stops serving. */
-enum class EndCause : unsigned char { kSignal, kReplaced, kBusGone };
+enum class EndCause { kSignal, kReplaced, kBusGone };
 
 /** Waits for the end, which a signal or another thread brings. One at a time. */
 class EndWatch {
   public:
-    /**
-     * From here on SIGINT, SIGTERM and SIGHUP are kept for wait(), by all threads started later.
-     * Throws std::system_error.
+    /** From here on SIGINT, SIGTERM and SIGHUP are kept for wait(), by all threads started later.
      */
     EndWatch();
-    ~EndWatch();
     EndWatch(const EndWatch&) = delete;
     EndWatch& operator=(const EndWatch&) = delete;
 
-    /** Any thread may call; only the first cause counts. */
-    void end(EndCause cause) const;
+    /** Any thread may call; only the first cause counts, and it counts before a signal. */
+    void end(EndCause cause);
 
     EndCause wait() const;
 
   private:
-    int mSignals;
-    int mReadEnd;
-    int mWriteEnd;
+    std::atomic<EndCause> mCause{EndCause::kSignal};
 };
 
 }  // namespace tarn::simulator
