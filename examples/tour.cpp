@@ -19,15 +19,14 @@
 #include <vector>
 
 #include "simulator/EmbeddedBoard.h"
-#include "simulator/board/SimulatedBoard.h"
-#include "simulator/description/BoardLoader.h"
 
 using android::ITarnManager;
 using android::Parcel;
 using android::sp;
 using android::hardware::hidl_string;
 using android::hardware::Return;
-using tarn::simulator::SimulatedBoard;
+using tarn::simulator::BoardControl;
+using tarn::simulator::EmbeddedBoard;
 using vendor::zunt::hwtarn::V1_0::IHwTarn;
 using vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
 
@@ -108,11 +107,11 @@ void sendCommands(ITarnManager* manager) {
     printf("    result  \"%s\"\n", android::String8(system->getCPUtemperature()).c_str());
 }
 
-bool receiveEvents(ITarnManager* manager, const sp<SimulatedBoard>& board) {
+bool receiveEvents(ITarnManager* manager, BoardControl* board) {
     Listener listener;
     manager->registerListener(&listener);
     if (manager->createTarnMsgManager() != 0) return false;
-    for (uint8_t i = 1; i <= 3; i++) board->raiseEvent({100u + i, {i, 0, 0, 0}});
+    for (uint8_t i = 1; i <= 3; i++) board->raiseEvent(100u + i, {i, 0, 0, 0});
     const bool inOrder = listener.waitFor(3) == std::vector<unsigned int>{101, 102, 103};
     manager->unRegisterListener(&listener);
     return inOrder;
@@ -121,15 +120,14 @@ bool receiveEvents(ITarnManager* manager, const sp<SimulatedBoard>& board) {
 }  // namespace
 
 int main() try {
-    const sp<SimulatedBoard> board =
-            new SimulatedBoard(tarn::simulator::loadBoard(tarn::simulator::defaultBoardPath()));
-    const sp<Tracer> tracer = new Tracer(board);
+    const EmbeddedBoard board = tarn::simulator::loadEmbeddedBoard();
+    const sp<Tracer> tracer = new Tracer(board.service);
     if (tracer->registerAsService() != android::OK) return EXIT_FAILURE;
 
     ITarnManager* manager = android::TarnCreator::create();
     printf("the service is %s\n", manager->isTarnReady() == 0 ? "ready" : "absent");
     sendCommands(manager);
-    if (!receiveEvents(manager, board)) {
+    if (!receiveEvents(manager, board.control.get())) {
         fprintf(stderr, "the events did not arrive in order\n");
         return EXIT_FAILURE;
     }

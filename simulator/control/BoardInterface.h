@@ -23,6 +23,6 @@ constexpr size_t kMostEventBytes = 1'040'384;
 using Dictionary = std::map<std::string, sdbus::Variant>;          // a{sv}
 using Descriptions = std::map<std::string, Dictionary>;            // a{sa{sv}}
 using PostedEvent = sdbus::Struct<int32_t, std::vector<uint8_t>>;  // (iay)
-using SetFault = sdbus::Struct<std::string, Dictionary>;           // (sa{sv})
+using CommandFault = sdbus::Struct<std::string, Dictionary>;       // (sa{sv})
 
 }  // namespace tarn::simulator::bus

@@ -5,34 +5,15 @@
 
 #include <memory>
 
-#include "simulator/control/BoardControl.h"
-#include "simulator/control/BoardInterface.h"
+#include "simulator/BoardControl.h"
 
 namespace tarn::simulator::bus {
 
 /**
- * A board's control as an object on a bus, as long as it lives. Calls are answered on the
- * connection's loop; what the board refuses is answered with kRefusedError and the board's own
- * words.
+ * Offers the control of a board, which has to live longer, as an object on a bus, as long as the
+ * result is kept. Calls are answered on the connection's loop; what the board refuses is answered
+ * with kRefusedError and the board's own words.
  */
-class BoardObject {
-  public:
-    BoardObject(sdbus::IConnection& connection, const BoardControl& control);
-
-  private:
-    void offerProperties();
-    void offerEvents();
-    void offerFaults();
-
-    void setProperty(const std::string& name, const sdbus::Variant& value);
-    void raiseEvent(uint32_t type, const std::vector<uint8_t>& data);
-    Descriptions describeProperties() const;
-    Dictionary listProperties() const;
-    std::vector<PostedEvent> postedEvents() const;
-    std::vector<SetFault> listFaults() const;
-
-    BoardControl mControl;
-    const std::unique_ptr<sdbus::IObject> mObject;
-};
+std::unique_ptr<sdbus::IObject> offerBoard(sdbus::IConnection& connection, BoardControl& board);
 
 }  // namespace tarn::simulator::bus

@@ -1,123 +1,131 @@
-#include "simulator/control/RemoteBoard.h"
-
 #include <sdbus-c++/Error.h>
+#include <sdbus-c++/IConnection.h>
+#include <sdbus-c++/IProxy.h>
 
-#include <optional>
+#include <stdexcept>
 #include <utility>
 
+#include "simulator/ServedBoard.h"
 #include "simulator/control/BoardInterface.h"
 #include "simulator/control/BusConnection.h"
 #include "simulator/control/BusValues.h"
 #include "values/Value.h"
 
-namespace tarn::simulator::bus {
+namespace tarn::simulator {
 
 namespace {
 
+using bus::checkedText;
+
 [[noreturn]] void fail(const sdbus::Error& error) {
-    if (error.getName() == kRefusedError) throw std::invalid_argument(error.getMessage());
+    if (error.getName() == bus::kRefusedError) throw std::invalid_argument(error.getMessage());
     throw BoardUnreachable("the served board does not answer: " + error.getMessage());
 }
 
+/** The board behind a unique name of the bus. */
+class RemoteBoard : public BoardControl {
+  public:
+    RemoteBoard(std::unique_ptr<sdbus::IConnection> connection, const std::string& owner)
+        : mConnection(std::move(connection)),
+          mProxy(sdbus::createProxy(*mConnection, owner, bus::kBoardPath)) {}
+
+    std::string name() const override try {
+        return mProxy->getProperty("Name").onInterface(bus::kBoardInterface).get<std::string>();
+    } catch (const sdbus::Error& error) {
+        fail(error);
+    }
+
+    Json::Value listProperties() const override {
+        Json::Value properties(Json::objectValue);
+        for (const auto& [name, description] : ask<bus::Descriptions>("DescribeProperties")) {
+            properties[name] = bus::jsonFromDictionary(description);
+        }
+        return properties;
+    }
+
+    Json::Value getProperty(const std::string& name) const override {
+        return bus::jsonFromVariant(ask<sdbus::Variant>("GetProperty", checkedText(name)));
+    }
+
+    void setProperty(const std::string& name, const Json::Value& value) override {
+        // A text goes as it is or not at all.
+        order("SetProperty", checkedText(name),
+              value.isString() ? sdbus::Variant(checkedText(value.asString()))
+                               : bus::variantFromJson(value));
+    }
+
+    void reset() override { order("Reset"); }
+
+    void raiseEvent(uint32_t type, const std::vector<uint8_t>& data) override {
+        order("RaiseEvent", type, data);
+    }
+
+    Json::Value postedEvents() const override {
+        Json::Value events(Json::arrayValue);
+        for (const bus::PostedEvent& event : ask<std::vector<bus::PostedEvent>>("PostedEvents")) {
+            Json::Value json(Json::objectValue);
+            json["what"] = event.get<0>();
+            json["data"] = toJson(Value{event.get<1>()});
+            events.append(json);
+        }
+        return events;
+    }
+
+    Json::Value listFaults() const override {
+        Json::Value faults(Json::arrayValue);
+        for (const bus::CommandFault& entry : ask<std::vector<bus::CommandFault>>("ListFaults")) {
+            Json::Value json(Json::objectValue);
+            json["command"] = entry.get<0>();
+            json["fault"] = bus::jsonFromDictionary(entry.get<1>());
+            faults.append(json);
+        }
+        return faults;
+    }
+
+    void setFault(const std::string& command, const Json::Value& fault) override {
+        order("SetFault", checkedText(command), bus::dictionaryFromJson(fault));
+    }
+
+    void clearFault(const std::string& command) override {
+        order("ClearFault", checkedText(command));
+    }
+
+    void clearFaults() override { order("ClearFaults"); }
+
+  private:
+    template <typename Result, typename... Args>
+    Result ask(const char* method, const Args&... arguments) const try {
+        Result result{};
+        mProxy->callMethod(method)
+                .onInterface(bus::kBoardInterface)
+                .withArguments(arguments...)
+                .storeResultsTo(result);
+        return result;
+    } catch (const sdbus::Error& error) {
+        fail(error);
+    }
+
+    template <typename... Args>
+    void order(const char* method, const Args&... arguments) const try {
+        mProxy->callMethod(method).onInterface(bus::kBoardInterface).withArguments(arguments...);
+    } catch (const sdbus::Error& error) {
+        fail(error);
+    }
+
+    const std::unique_ptr<sdbus::IConnection> mConnection;
+    const std::unique_ptr<sdbus::IProxy> mProxy;
+};
+
 }  // namespace
 
-std::unique_ptr<RemoteBoard> RemoteBoard::find() try {
-    auto connection = connectSessionBus();
-    const std::optional<std::string> owner = ownerOf(*connection, kBoardName);
+std::unique_ptr<BoardControl> findServedBoard(std::optional<pid_t> process) try {
+    auto connection = bus::connectSessionBus();
+    const std::optional<std::string> owner = bus::ownerOf(*connection, bus::kBoardName);
     if (!owner) return nullptr;
-    const pid_t pid = processOf(*connection, *owner);
-    return std::unique_ptr<RemoteBoard>(new RemoteBoard(std::move(connection), *owner, pid));
-} catch (const BusUnreachable&) {
+    if (process && *process != bus::processOf(*connection, *owner)) return nullptr;
+    return std::make_unique<RemoteBoard>(std::move(connection), *owner);
+} catch (const bus::BusUnreachable&) {
     return nullptr;
 }
 
-RemoteBoard::RemoteBoard(std::unique_ptr<sdbus::IConnection> connection, const std::string& owner,
-                         pid_t pid)
-    : mConnection(std::move(connection)),
-      mProxy(sdbus::createProxy(*mConnection, owner, kBoardPath)),
-      mPid(pid) {}
-
-template <typename Result, typename... Args>
-Result RemoteBoard::call(const char* method, const Args&... arguments) const try {
-    Result result{};
-    mProxy->callMethod(method)
-            .onInterface(kBoardInterface)
-            .withArguments(arguments...)
-            .storeResultsTo(result);
-    return result;
-} catch (const sdbus::Error& error) {
-    fail(error);
-}
-
-template <typename... Args>
-void RemoteBoard::order(const char* method, const Args&... arguments) const try {
-    mProxy->callMethod(method).onInterface(kBoardInterface).withArguments(arguments...);
-} catch (const sdbus::Error& error) {
-    fail(error);
-}
-
-std::string RemoteBoard::name() const try {
-    return mProxy->getProperty("Name").onInterface(kBoardInterface).get<std::string>();
-} catch (const sdbus::Error& error) {
-    fail(error);
-}
-
-Json::Value RemoteBoard::listProperties() const {
-    Json::Value properties(Json::objectValue);
-    for (const auto& [name, description] : call<Descriptions>("DescribeProperties")) {
-        properties[name] = jsonFromDictionary(description);
-    }
-    return properties;
-}
-
-Json::Value RemoteBoard::getProperty(const std::string& name) const {
-    return jsonFromVariant(call<sdbus::Variant>("GetProperty", checkedText(name)));
-}
-
-void RemoteBoard::setPropertyFromText(const std::string& name, const std::string& value) {
-    order("SetProperty", checkedText(name), sdbus::Variant(checkedText(value)));
-}
-
-void RemoteBoard::raiseEvent(uint32_t type, const std::vector<uint8_t>& data) {
-    order("RaiseEvent", type, data);
-}
-
-Json::Value RemoteBoard::postedEvents() const {
-    Json::Value events(Json::arrayValue);
-    for (const PostedEvent& event : call<std::vector<PostedEvent>>("PostedEvents")) {
-        Json::Value json(Json::objectValue);
-        json["what"] = event.get<0>();
-        json["data"] = toJson(Value{event.get<1>()});
-        events.append(json);
-    }
-    return events;
-}
-
-void RemoteBoard::reset() {
-    order("Reset");
-}
-
-Json::Value RemoteBoard::listFaults() const {
-    Json::Value faults(Json::arrayValue);
-    for (const SetFault& entry : call<std::vector<SetFault>>("ListFaults")) {
-        Json::Value json(Json::objectValue);
-        json["command"] = entry.get<0>();
-        json["fault"] = jsonFromDictionary(entry.get<1>());
-        faults.append(json);
-    }
-    return faults;
-}
-
-void RemoteBoard::setFault(const std::string& command, const Json::Value& fault) {
-    order("SetFault", checkedText(command), dictionaryFromJson(fault));
-}
-
-void RemoteBoard::clearFault(const std::string& command) {
-    order("ClearFault", checkedText(command));
-}
-
-void RemoteBoard::clearFaults() {
-    order("ClearFaults");
-}
-
-}  // namespace tarn::simulator::bus
+}  // namespace tarn::simulator

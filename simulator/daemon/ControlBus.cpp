@@ -5,6 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "simulator/control/BoardObject.h"
+
 namespace tarn::simulator {
 
 ControlBus::ControlBus() : mConnection(bus::connectSessionBus()) {}
@@ -15,9 +17,9 @@ ControlBus::~ControlBus() {
     mLoop.join();
 }
 
-void ControlBus::serve(const BoardControl& control, std::function<void(EndCause)> ended) {
+void ControlBus::serve(BoardControl& board, std::function<void(EndCause)> ended) {
     mEnded = std::move(ended);
-    mObject = std::make_unique<bus::BoardObject>(*mConnection, control);
+    mObject = bus::offerBoard(*mConnection, board);
     watchName();
     mLoop = std::thread([this] { run(); });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <sdbus-c++/IConnection.h>
+#include <sdbus-c++/IObject.h>
 #include <sdbus-c++/IProxy.h>
 #include <sys/types.h>
 
@@ -8,8 +9,8 @@
 #include <memory>
 #include <thread>
 
-#include "simulator/control/BoardControl.h"
-#include "simulator/control/BoardObject.h"
+#include "simulator/BoardControl.h"
+#include "simulator/control/BoardInterface.h"
 #include "simulator/control/BusConnection.h"
 #include "simulator/daemon/EndWatch.h"
 
@@ -32,8 +33,11 @@ class ControlBus {
         return bus::takeName(*mConnection, bus::kBoardName, replace);
     }
 
-    /** Answers from now on, on a thread of its own; ended hears of the name's or the bus's loss. */
-    void serve(const BoardControl& control, std::function<void(EndCause)> ended);
+    /**
+     * Lets others steer the board, which has to live longer, from now on, on a thread of its own;
+     * ended hears of the name's or the bus's loss.
+     */
+    void serve(BoardControl& board, std::function<void(EndCause)> ended);
 
   private:
     void watchName();
@@ -42,7 +46,7 @@ class ControlBus {
     const std::unique_ptr<sdbus::IConnection> mConnection;
     std::function<void(EndCause)> mEnded;
     std::unique_ptr<sdbus::IProxy> mBus;
-    std::unique_ptr<bus::BoardObject> mObject;
+    std::unique_ptr<sdbus::IObject> mObject;
     std::thread mLoop;
 };
 

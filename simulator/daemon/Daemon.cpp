@@ -10,7 +10,8 @@
 #include <string>
 #include <system_error>
 
-#include "simulator/EmbeddedBoard.h"
+#include "simulator/BoardFiles.h"
+#include "simulator/control/LocalBoard.h"
 #include "simulator/daemon/ControlBus.h"
 #include "simulator/daemon/TracedBoard.h"
 #include "simulator/description/BoardLoader.h"
@@ -53,7 +54,7 @@ sp<SimulatedBoard> makeBoard(const DaemonOptions& options) {
 
 void applySetting(BoardControl* control, const std::string& property, const std::string& value) {
     try {
-        control->setPropertyFromText(property, value);
+        control->setProperty(property, value);
     } catch (const std::invalid_argument& refusal) {
         throw Refusal(kUnusable, "--set " + property + "=" + value + ": " + refusal.what());
     }
@@ -96,15 +97,17 @@ void publish(const sp<SimulatedBoard>& board) {
 int serve(const DaemonOptions& options) {
     EndWatch watch;
     const sp<SimulatedBoard> board = makeBoard(options);
-    BoardControl control(board);
-    for (const auto& [property, value] : options.settings) applySetting(&control, property, value);
+    const std::unique_ptr<BoardControl> control = controlOf(board);
+    for (const auto& [property, value] : options.settings) {
+        applySetting(control.get(), property, value);
+    }
 
     ControlBus bus;
     claim(&bus, options.replace);
     publish(board);
-    bus.serve(control, [&watch](EndCause cause) { watch.end(cause); });
+    bus.serve(*control, [&watch](EndCause cause) { watch.end(cause); });
     if (!options.quiet) {
-        say("serving board \"" + control.name() + "\" as " + IHwTarn::descriptor +
+        say("serving board \"" + control->name() + "\" as " + IHwTarn::descriptor +
             " \"default\", process " + std::to_string(getpid()));
     }
 

@@ -3,32 +3,11 @@
 #include <json/value.h>
 
 #include <cstddef>
-#include <stdexcept>
 #include <string>
-#include <vector>
+
+#include "simulator/BoardFiles.h"
 
 namespace tarn::simulator {
-
-/** One thing that is wrong in a board file. */
-struct Problem {
-    std::string file;
-    int line;  // from 1; 0 where the whole file is meant
-    std::string reason;
-
-    /** "file:line: reason" */
-    std::string text() const;
-};
-
-/** Why a board was refused: everything that was found wrong, a line each. */
-class BoardFileError : public std::runtime_error {
-  public:
-    explicit BoardFileError(std::vector<Problem> problems);
-
-    const std::vector<Problem>& problems() const { return mProblems; }
-
-  private:
-    std::vector<Problem> mProblems;
-};
 
 /** A file of JSON, read strictly: no comments, no duplicate keys, nothing after the end. */
 class BoardFile {

@@ -2,7 +2,7 @@
 #include <cstring>
 #include <string>
 
-#include "simulator/EmbeddedBoard.h"
+#include "simulator/BoardFiles.h"
 #include "simulator/description/BoardLoader.h"
 
 namespace {

@@ -13,12 +13,12 @@
 #include <filesystem>
 #include <fstream>
 #include <future>
+#include <map>
 #include <memory>
 #include <thread>
 
 #include "protocol/Commands.h"
-#include "simulator/control/BoardInterface.h"
-#include "simulator/control/RemoteBoard.h"
+#include "simulator/ServedBoard.h"
 #include "tests/process/BoardProcess.h"
 #include "tests/process/ProcessTest.h"
 #include "tests/support/LogCapture.h"
@@ -36,12 +36,10 @@ using android::hardware::hidl_string;
 using android::hardware::hidl_vec;
 using android::hardware::Return;
 using android::hardware::Void;
-using simulator::bus::BoardUnreachable;
-using simulator::bus::Dictionary;
-using simulator::bus::RemoteBoard;
+using simulator::BoardUnreachable;
+using simulator::findServedBoard;
 using vendor::zunt::hwtarn::V1_0::IHwTarn;
 using vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
-namespace bus = simulator::bus;
 
 constexpr char kDeadLine[] = "Error, hwInvoke failed, service is a DEAD_OBJECT.";
 constexpr char kNoServiceLine[] = "Error, hw_invoke failed, mHwTarnService null .";
@@ -139,7 +137,7 @@ TEST(BoardDaemon, ServesTheBoardThatItIsGiven) {
         "properties": {"audio.volume": {"type": "i32", "initial": 13}}})");
     {
         const BoardProcess board({"--board", file.path()});
-        EXPECT_EQ("meeting room", RemoteBoard::find()->name());
+        EXPECT_EQ("meeting room", findServedBoard()->name());
         EXPECT_EQ(12, volumeOf(application()));
     }
     const BoardProcess board({"--board", file.path(), "--override", overrides.path()});
@@ -153,7 +151,7 @@ TEST(BoardDaemon, EndsCleanlyOnItsSignals) {
         EXPECT_EQ(0, board.wait());
         EXPECT_EQ("", board.restOfErrors());
         EXPECT_EQ(-1, application()->isTarnReady());
-        EXPECT_EQ(nullptr, RemoteBoard::find());
+        EXPECT_EQ(nullptr, findServedBoard());
     }
 }
 
@@ -242,7 +240,8 @@ TEST(BoardDaemon, TakesOverWhenToldTo) {
     EXPECT_EQ(0, first.wait());
     EXPECT_NE(std::string::npos, first.restOfErrors().find("another tarn-board took over"));
     EXPECT_EQ(2, volumeOf(application()));
-    EXPECT_EQ(second.pid(), RemoteBoard::find()->pid());
+    EXPECT_NE(nullptr, findServedBoard(second.pid()));
+    EXPECT_EQ(nullptr, findServedBoard(first.pid()));
 }
 
 TEST(BoardDaemon, IsFoundByAnApplicationThatStartedBefore) {
@@ -283,7 +282,7 @@ TEST(BoardDaemon, KilledInTheMiddleOfACallFailsThatCall) {
     BoardProcess board({"-v"});
     Json::Value slow;
     slow["delayMs"] = 60'000;
-    RemoteBoard::find()->setFault("CMD_AUDIO_GET_VOLUME", slow);
+    findServedBoard()->setFault("CMD_AUDIO_GET_VOLUME", slow);
     const sp<TarnManager> manager = application();
     std::future<int> volume = std::async(std::launch::async, [&] { return volumeOf(manager); });
     board.errorLineWith("CMD_AUDIO_GET_VOLUME");
@@ -298,7 +297,7 @@ TEST(BoardDaemon, DoesNotLetASlowCommandHoldUpOthers) {
     BoardProcess board({"-v"});
     Json::Value slow;
     slow["delayMs"] = 60'000;
-    RemoteBoard::find()->setFault("CMD_AUDIO_GET_VOLUME", slow);
+    findServedBoard()->setFault("CMD_AUDIO_GET_VOLUME", slow);
     const sp<TarnManager> manager = application();
     std::vector<std::future<int>> waiting;
     for (int i = 0; i < 4; i++) {
@@ -306,13 +305,13 @@ TEST(BoardDaemon, DoesNotLetASlowCommandHoldUpOthers) {
         board.errorLineWith("CMD_AUDIO_GET_VOLUME");
     }
     EXPECT_EQ(0, manager->exeCmdSet_Int(CMD_AUDIO_SET_VOLUME, 7));
-    EXPECT_EQ(7, RemoteBoard::find()->getProperty("audio.volume").asInt());
+    EXPECT_EQ(7, findServedBoard()->getProperty("audio.volume").asInt());
     board.signal(SIGKILL);
 }
 
 TEST(BoardDaemon, DeliversEventsAndKeepsThoseThatApplicationsPost) {
     const BoardProcess board;
-    const auto control = RemoteBoard::find();
+    const auto control = findServedBoard();
     // The library's event thread never ends, so its listener must not either.
     static Listener listener;
     const sp<TarnManager> manager = application();
@@ -354,7 +353,7 @@ class EventCounter : public IHwTarnCallback {
 
 TEST(BoardDaemon, KeepsOneCallbackForAProcessWhateverPidsItGives) {
     const BoardProcess board;
-    const auto control = RemoteBoard::find();
+    const auto control = findServedBoard();
     const sp<IHwTarn> service = IHwTarn::getService();
     const sp<EventCounter> last = new EventCounter;
     const sp<EventCounter> others = new EventCounter;
@@ -402,15 +401,23 @@ TEST(BoardDaemon, ServesFourClientsAtOnce) {
     for (const auto& client : clients) EXPECT_EQ("0", client->readLine());
 }
 
+constexpr char kBoardName[] = "org.tarn.Board1";
+constexpr char kBoardPath[] = "/org/tarn/Board1";
+constexpr char kBoardInterface[] = "org.tarn.Board1";
+constexpr char kRefusedError[] = "org.tarn.Board1.Error.Refused";
+
+using Dictionary = std::map<std::string, sdbus::Variant>;     // a{sv}
+using Descriptions = std::map<std::string, Dictionary>;       // a{sa{sv}}
+using CommandFault = sdbus::Struct<std::string, Dictionary>;  // (sa{sv})
+
 // The control as any program on the bus sees it.
 class BoardControlOnTheBus : public testing::Test {
   protected:
     BoardControlOnTheBus()
         : mConnection(sdbus::createSessionBusConnection()),
-          mProxy(sdbus::createProxy(*mConnection, bus::kBoardName, bus::kBoardPath)) {}
+          mProxy(sdbus::createProxy(*mConnection, kBoardName, kBoardPath)) {}
 
-    sdbus::MethodCall call(const std::string& method,
-                           const char* interface = bus::kBoardInterface) {
+    sdbus::MethodCall call(const std::string& method, const char* interface = kBoardInterface) {
         return mProxy->createMethodCall(interface, method);
     }
 
@@ -457,7 +464,7 @@ class BoardControlOnTheBus : public testing::Test {
 
     void expectRefusal(const sdbus::MethodCall& message, const std::string& text) {
         const sdbus::Error error = errorOf(message);
-        EXPECT_EQ(bus::kRefusedError, error.getName());
+        EXPECT_EQ(kRefusedError, error.getName());
         EXPECT_EQ(text, error.getMessage());
     }
 
@@ -479,14 +486,14 @@ TEST_F(BoardControlOnTheBus, ReadsAndSetsPropertiesWithTheirTypes) {
 }
 
 TEST_F(BoardControlOnTheBus, TellsTheBoardsNameAsAProperty) {
-    const sdbus::Variant name = mProxy->getProperty("Name").onInterface(bus::kBoardInterface);
+    const sdbus::Variant name = mProxy->getProperty("Name").onInterface(kBoardInterface);
     EXPECT_EQ("default", name.get<std::string>());
 }
 
 TEST_F(BoardControlOnTheBus, ListsAndDescribesEveryProperty) {
     const auto values = ask<Dictionary>("ListProperties");
     EXPECT_EQ(30, values.at("audio.volume").get<int32_t>());
-    const auto descriptions = ask<bus::Descriptions>("DescribeProperties");
+    const auto descriptions = ask<Descriptions>("DescribeProperties");
     EXPECT_EQ(values.size(), descriptions.size());
     const Dictionary& volume = descriptions.at("audio.volume");
     EXPECT_EQ("i32", volume.at("type").get<std::string>());
@@ -498,7 +505,7 @@ TEST_F(BoardControlOnTheBus, SwitchesFaultsOnAndOff) {
     const Dictionary fault = {{"status", sdbus::Variant(int32_t{-3})}};
     send(callWith("SetFault", std::string("CMD_AUDIO_GET_VOLUME"), fault));
     EXPECT_EQ(-3, volumeOf(application()));
-    const auto faults = ask<std::vector<bus::SetFault>>("ListFaults");
+    const auto faults = ask<std::vector<CommandFault>>("ListFaults");
     ASSERT_EQ(1u, faults.size());
     EXPECT_EQ("CMD_AUDIO_GET_VOLUME", faults[0].get<0>());
     EXPECT_EQ(-3, faults[0].get<1>().at("status").get<int32_t>());
@@ -541,18 +548,18 @@ TEST_F(BoardControlOnTheBus, AnswersWhatItDoesNotUnderstandWithAnError) {
               errorOf(callWith("Reset", int32_t{1})).getName());
 
     sdbus::MethodCall write = call("Set", "org.freedesktop.DBus.Properties");
-    write << bus::kBoardInterface << "Name" << sdbus::Variant(std::string("mine"));
+    write << kBoardInterface << "Name" << sdbus::Variant(std::string("mine"));
     EXPECT_NE("", errorOf(write).getName());
 
     // Variants within variants: what the bus lets pass, and what it doesn't.
-    EXPECT_EQ(bus::kRefusedError,
+    EXPECT_EQ(kRefusedError,
               errorOf(callWith("SetProperty", std::string("audio.volume"), nested(10))).getName());
-    EXPECT_EQ(bus::kRefusedError,
+    EXPECT_EQ(kRefusedError,
               errorOf(callWith("SetFault", std::string("*"), Dictionary{{"status", nested(10)}}))
                       .getName());
     EXPECT_NE("",
               errorOf(callWith("SetProperty", std::string("audio.volume"), nested(40))).getName());
-    EXPECT_EQ("default", RemoteBoard::find()->name());
+    EXPECT_EQ("default", findServedBoard()->name());
 }
 
 TEST_F(BoardControlOnTheBus, HoldsOutAFloodOfCallsThatNobodyWaitsFor) {
@@ -575,12 +582,12 @@ TEST_F(BoardControlOnTheBus, HoldsOutAFloodOfCallsThatNobodyWaitsFor) {
 }
 
 TEST(RemoteBoard, IsNoneWhereNobodyServes) {
-    EXPECT_EQ(nullptr, RemoteBoard::find());
+    EXPECT_EQ(nullptr, findServedBoard());
 }
 
 TEST(RemoteBoard, GivesEveryPropertyAsTheBoardItselfDoes) {
     const BoardProcess board;
-    const auto control = RemoteBoard::find();
+    const auto control = findServedBoard();
     const Json::Value all = control->listProperties();
     for (const std::string& name : all.getMemberNames()) {
         EXPECT_EQ(all[name]["value"], control->getProperty(name)) << name;
@@ -590,11 +597,11 @@ TEST(RemoteBoard, GivesEveryPropertyAsTheBoardItselfDoes) {
 
 TEST(RemoteBoard, RefusesTextsThatAreNotUtf8AsTheBoardItselfDoes) {
     const BoardProcess board;
-    const auto control = RemoteBoard::find();
+    const auto control = findServedBoard();
     const std::string text = "\xff\xfe";
     const auto refusesText = testing::ThrowsMessage<std::invalid_argument>("text is not UTF-8");
-    EXPECT_THAT([&] { control->setPropertyFromText("device.nfcTagMsg", text); }, refusesText);
-    EXPECT_THAT([&] { control->setPropertyFromText(text, "1"); }, refusesText);
+    EXPECT_THAT([&] { control->setProperty("device.nfcTagMsg", text); }, refusesText);
+    EXPECT_THAT([&] { control->setProperty(text, "1"); }, refusesText);
     EXPECT_THAT([&] { control->getProperty(text); }, refusesText);
     EXPECT_THAT([&] { control->clearFault(text); }, refusesText);
     Json::Value fault;
@@ -604,7 +611,7 @@ TEST(RemoteBoard, RefusesTextsThatAreNotUtf8AsTheBoardItselfDoes) {
     EXPECT_THAT([&] { control->setFault(text, fault); }, refusesText);
     EXPECT_THAT(
             [&] {
-                control->setPropertyFromText("device.nfcTagMsg", {'a', '\0'});
+                control->setProperty("device.nfcTagMsg", std::string({'a', '\0'}));
             },
             testing::ThrowsMessage<std::invalid_argument>("text has a NUL"));
 
@@ -615,13 +622,13 @@ TEST(RemoteBoard, RefusesTextsThatAreNotUtf8AsTheBoardItselfDoes) {
 
 TEST(RemoteBoard, SaysWhenTheDaemonIsGone) {
     BoardProcess board;
-    const auto control = RemoteBoard::find();
+    const auto control = findServedBoard();
     board.signal(SIGKILL);
     board.wait();
     EXPECT_THROW(control->getProperty("audio.volume"), BoardUnreachable);
     const BoardProcess another;
     EXPECT_THROW(control->getProperty("audio.volume"), BoardUnreachable);
-    EXPECT_EQ(30, RemoteBoard::find()->getProperty("audio.volume").asInt());
+    EXPECT_EQ(30, findServedBoard()->getProperty("audio.volume").asInt());
 }
 
 }  // namespace

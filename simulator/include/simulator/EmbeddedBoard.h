@@ -1,15 +1,25 @@
 #pragma once
 
 #include <utils/StrongPointer.h>
+#include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
 
+#include <memory>
 #include <string>
 
-#include "simulator/board/SimulatedBoard.h"
+#include "simulator/BoardControl.h"
+#include "simulator/BoardFiles.h"
 
 namespace tarn::simulator {
 
-/** The board file that is meant where none is named: TARN_BOARD's, else the default board. */
-std::string defaultBoardPath();
+/** A board of this process: the hardware service that it plays, and what steers it. */
+struct EmbeddedBoard {
+    android::sp<vendor::zunt::hwtarn::V1_0::IHwTarn> service;
+    std::shared_ptr<BoardControl> control;  // keeps the board, as the service does
+};
+
+/** Loads a board that nobody finds. Throws BoardFileError if the board is refused. */
+EmbeddedBoard loadEmbeddedBoard(const std::string& path = defaultBoardPath(),
+                                const std::string& overridePath = "");
 
 /**
  * Loads a board and publishes it as the hardware service "default" of this process, and of no
@@ -17,7 +27,7 @@ std::string defaultBoardPath();
  * published. Throws BoardFileError if the board is refused, std::runtime_error if it can't
  * be published.
  */
-android::sp<SimulatedBoard> startEmbeddedBoard(const std::string& path = defaultBoardPath(),
-                                               const std::string& overridePath = "");
+EmbeddedBoard startEmbeddedBoard(const std::string& path = defaultBoardPath(),
+                                 const std::string& overridePath = "");
 
 }  // namespace tarn::simulator

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "simulator/EmbeddedBoard.h"
+#include "simulator/BoardFiles.h"
 #include "simulator/description/BoardLoader.h"
 
 namespace tarn::simulator {

@@ -22,7 +22,7 @@
 #include "host/HostServiceManager.h"
 #include "simulator/EmbeddedBoard.h"
 #include "simulator/board/SimulatedBoard.h"
-#include "simulator/control/BoardControl.h"
+#include "simulator/control/LocalBoard.h"
 #include "simulator/description/BoardLoader.h"
 #include "tests/support/RecordingManager.h"
 #include "values/Codec.h"
@@ -158,7 +158,7 @@ Answer invoke(IHwTarn* service, const Bytes& request) {
 
 class SimulatedBoardTest : public ::testing::Test {
   protected:
-    SimulatedBoardTest() : mBoard(new SimulatedBoard(load())), mControl(mBoard) {}
+    SimulatedBoardTest() : mBoard(new SimulatedBoard(load())), mControl(controlOf(mBoard)) {}
 
     static std::shared_ptr<const BoardModel> load() {
         char name[] = "/tmp/tarn-board-XXXXXX";
@@ -180,7 +180,7 @@ class SimulatedBoardTest : public ::testing::Test {
     static Json::Value json(const std::string& text) { return parseJson(text); }
 
     const sp<SimulatedBoard> mBoard;
-    BoardControl mControl;
+    const std::unique_ptr<BoardControl> mControl;
 };
 
 using SimulatedBoardFaults = SimulatedBoardTest;
@@ -269,7 +269,7 @@ TEST_F(SimulatedBoardTest, RefusesAValueOutsideTheRangeAndKeepsTheOld) {
 }
 
 TEST_F(SimulatedBoardTest, FillsTheRecordsOfAReplyFromProperties) {
-    mControl.setProperty("boot.logo", Json::Value("a"));
+    mControl->setProperty("boot.logo", Json::Value("a"));
     EXPECT_EQ(hex("00000000 01000000 01000000 1e000000 03000000 01000000 61000000 01000000"
                   "01000000 79000000"),
               reply(words({0x3601})));
@@ -278,7 +278,7 @@ TEST_F(SimulatedBoardTest, FillsTheRecordsOfAReplyFromProperties) {
 TEST_F(SimulatedBoardTest, SetsConstants) {
     EXPECT_EQ(words({0}), reply(words({0x1442})));
     EXPECT_EQ(words({11}), reply(words({0x1401})));
-    EXPECT_EQ(Json::Value("done"), mControl.getProperty("boot.logo"));
+    EXPECT_EQ(Json::Value("done"), mControl->getProperty("boot.logo"));
 }
 
 TEST_F(SimulatedBoardTest, TakesBothCommandsOfASharedCode) {
@@ -312,7 +312,7 @@ TEST_F(SimulatedBoardTest, AnswersAnUnknownCodeWithMinusOne) {
 }
 
 TEST_F(SimulatedBoardTest, AnswersHostileRequestsWithMinusOneAndChangesNothing) {
-    const Json::Value before = mControl.listProperties();
+    const Json::Value before = mControl->listProperties();
     for (const std::string request : {
                  "",                                              // nothing at all
                  "02",                                            // half a code
@@ -338,7 +338,7 @@ TEST_F(SimulatedBoardTest, AnswersHostileRequestsWithMinusOneAndChangesNothing) 
         EXPECT_EQ(words({-1}), reply(hex(request))) << request;
     }
     EXPECT_EQ(words({-1}), reply(Bytes(4 << 20, 0xFF)));
-    EXPECT_EQ(before, mControl.listProperties());
+    EXPECT_EQ(before, mControl->listProperties());
 }
 
 TEST_F(SimulatedBoardTest, AnswersRandomRequestsWithoutHarm) {
@@ -363,8 +363,8 @@ TEST_F(SimulatedBoardTest, ServesEightThreadsAtOnce) {
                 if (invoke(mBoard.get(), words({0x1445, t, value})).bytes != words({0})) wrong++;
                 if (invoke(mBoard.get(), words({0x1444, t})).bytes != words({value})) wrong++;
                 invoke(mBoard.get(), words({0x1402, t}));
-                mControl.setProperty("audio.mode", Json::Value(5));
-                if (i % 50 == 0) mControl.listProperties();
+                mControl->setProperty("audio.mode", Json::Value(5));
+                if (i % 50 == 0) mControl->listProperties();
             }
         });
     }
@@ -398,7 +398,7 @@ TEST_F(SimulatedBoardEvents, ReachEveryProcessInTheOrderOfRaising) {
     std::vector<std::thread> threads;
     for (uint32_t t = 0; t < 4; t++) {
         threads.emplace_back([this, t] {
-            for (int32_t i = 0; i < 500; i++) mControl.raiseEvent(t, words({i}));
+            for (int32_t i = 0; i < 500; i++) mControl->raiseEvent(t, words({i}));
         });
     }
     for (std::thread& thread : threads) thread.join();
@@ -437,7 +437,7 @@ TEST_F(SimulatedBoardEvents, GoToTheLatestCallbackOfAProcess) {
     mBoard->hwRegisterCallback(first, 1);
     mBoard->hwRegisterCallback(second, 1);
     EXPECT_EQ(1U, mBoard->callbackCount());
-    mControl.raiseEvent(5, {});
+    mControl->raiseEvent(5, {});
     EXPECT_EQ(1U, second->waitFor(1).size());
     EXPECT_EQ(0, first->calls());
 }
@@ -448,8 +448,8 @@ TEST_F(SimulatedBoardEvents, DropADeadCallbackAndReachTheOthers) {
     mBoard->hwRegisterCallback(dead, 1);
     mBoard->hwRegisterCallback(alive, 2);
     dead->die();
-    mControl.raiseEvent(1, {});
-    mControl.raiseEvent(2, {});
+    mControl->raiseEvent(1, {});
+    mControl->raiseEvent(2, {});
     EXPECT_EQ(2U, alive->waitFor(2).size());
     while (mBoard->callbackCount() == 2) std::this_thread::yield();
     EXPECT_EQ(1, dead->calls());
@@ -474,8 +474,8 @@ TEST_F(SimulatedBoardEvents, ReachOthersWhileACallbackDoesNotReturn) {
     const sp<Receiver> other(new Receiver);
     mBoard->hwRegisterCallback(stuck, 1);
     mBoard->hwRegisterCallback(other, 2);
-    mControl.raiseEvent(1, {});
-    mControl.raiseEvent(2, {});
+    mControl->raiseEvent(1, {});
+    mControl->raiseEvent(2, {});
     EXPECT_EQ(2U, other->waitFor(2).size());
     mBoard->hwRegisterCallback(other, 1);
     stuck->free.set_value();
@@ -488,7 +488,7 @@ TEST_F(SimulatedBoardEvents, AreRefusedWhenTooManyBytesWait) {
     // One may be on its way already.
     for (int i = 0; i < 16; i++) mBoard->raiseEvent(Event{1, megabyte});
     mBoard->raiseEvent(Event{1, megabyte});
-    EXPECT_THAT([&] { mControl.raiseEvent(1, megabyte); },
+    EXPECT_THAT([&] { mControl->raiseEvent(1, megabyte); },
                 ThrowsMessage<std::invalid_argument>("too many events wait to be delivered"));
     stuck->free.set_value();
 }
@@ -508,7 +508,7 @@ TEST_F(SimulatedBoardEvents, LetACallbackSendCommandsAndRaiseEvents) {
     };
     const sp<Nested> receiver(new Nested(mBoard.get()));
     mBoard->hwRegisterCallback(receiver, 1);
-    mControl.raiseEvent(1, {});
+    mControl->raiseEvent(1, {});
     const std::vector<Event> events = receiver->waitFor(2);
     ASSERT_EQ(2U, events.size());
     EXPECT_EQ(words({64}), events[1].data);
@@ -547,7 +547,7 @@ TEST_F(SimulatedBoardEvents, RefuseACallbackThatNoThreadCanServeAndKeepTheOld) {
         const NoThreads none;
         EXPECT_FALSE(mBoard->hwRegisterCallback(second, 1).isOk());
     }
-    mControl.raiseEvent(1, {});
+    mControl->raiseEvent(1, {});
     EXPECT_EQ(1U, first->waitFor(1).size());
     EXPECT_EQ(0, second->calls());
 }
@@ -573,8 +573,8 @@ TEST_F(SimulatedBoardEvents, PostedByApplicationsAreKeptInABoundedLog) {
     for (int32_t what = 0; what < 300; what++) {
         EXPECT_TRUE(mBoard->hwPostEvent(what, hidl_string(data.data(), data.size())).isOk());
     }
-    EXPECT_EQ(PostedEvents::kMaxEvents, mControl.postedEvents().size());
-    EXPECT_EQ(json(R"({"what": 44, "data": "0001"})"), mControl.postedEvents()[0]);
+    EXPECT_EQ(PostedEvents::kMaxEvents, mControl->postedEvents().size());
+    EXPECT_EQ(json(R"({"what": 44, "data": "0001"})"), mControl->postedEvents()[0]);
 
     const std::string large(3 << 20, 'x');
     mBoard->hwPostEvent(1000, hidl_string(large));
@@ -584,19 +584,19 @@ TEST_F(SimulatedBoardEvents, PostedByApplicationsAreKeptInABoundedLog) {
 }
 
 TEST_F(SimulatedBoardFaults, AnswerAStatusAndDoNothing) {
-    mControl.setFault("CMD_AUDIO_SET_VOLUME", json(R"({"status": -3})"));
+    mControl->setFault("CMD_AUDIO_SET_VOLUME", json(R"({"status": -3})"));
     EXPECT_EQ(words({-3}), reply(words({0x1402, 50})));
     EXPECT_EQ(words({30}), reply(words({0x1401})));
-    mControl.clearFault("CMD_AUDIO_SET_VOLUME");
+    mControl->clearFault("CMD_AUDIO_SET_VOLUME");
     EXPECT_EQ(words({0}), reply(words({0x1402, 50})));
 }
 
 TEST_F(SimulatedBoardFaults, FailTheTransport) {
-    mControl.setFault("CMD_AUDIO_SET_VOLUME", json(R"({"transport": "dead"})"));
+    mControl->setFault("CMD_AUDIO_SET_VOLUME", json(R"({"transport": "dead"})"));
     Answer answer = invoke(mBoard.get(), words({0x1402, 50}));
     EXPECT_TRUE(answer.dead);
     EXPECT_FALSE(answer.called);
-    mControl.setFault("CMD_AUDIO_SET_VOLUME", json(R"({"transport": "error"})"));
+    mControl->setFault("CMD_AUDIO_SET_VOLUME", json(R"({"transport": "error"})"));
     answer = invoke(mBoard.get(), words({0x1402, 50}));
     EXPECT_FALSE(answer.ok);
     EXPECT_FALSE(answer.dead);
@@ -605,24 +605,24 @@ TEST_F(SimulatedBoardFaults, FailTheTransport) {
 }
 
 TEST_F(SimulatedBoardFaults, CutTheReplyOfACommandThatIsDone) {
-    mControl.setFault("CMD_AUDIO_SET_OTG_MIC_STATE", json(R"({"replyBytes": 0})"));
+    mControl->setFault("CMD_AUDIO_SET_OTG_MIC_STATE", json(R"({"replyBytes": 0})"));
     EXPECT_EQ(Bytes(), reply(words({0x1439, 1})));
     EXPECT_EQ(words({0, 1}), reply(words({0x1438})));
-    mControl.setFault("CMD_AUDIO_SET_OTG_MIC_STATE", json(R"({"replyBytes": 6})"));
+    mControl->setFault("CMD_AUDIO_SET_OTG_MIC_STATE", json(R"({"replyBytes": 6})"));
     EXPECT_EQ(hex("00000000 0100"), reply(words({0x1439, 0})));
-    mControl.setFault("CMD_AUDIO_SET_OTG_MIC_STATE", json(R"({"replyBytes": 100})"));
+    mControl->setFault("CMD_AUDIO_SET_OTG_MIC_STATE", json(R"({"replyBytes": 100})"));
     EXPECT_EQ(words({0, 1}), reply(words({0x1439, 0})));
 }
 
 TEST_F(SimulatedBoardFaults, DelayTheAnswer) {
-    mControl.setFault("*", json(R"({"delayMs": 60})"));
+    mControl->setFault("*", json(R"({"delayMs": 60})"));
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(words({30}), reply(words({0x1401})));
     EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(60));
 }
 
 TEST_F(SimulatedBoardFaults, ComeEveryNthCall) {
-    mControl.setFault("*", json(R"({"status": -9, "every": 3})"));
+    mControl->setFault("*", json(R"({"status": -9, "every": 3})"));
     std::vector<Bytes> replies;
     for (int i = 0; i < 6; i++) replies.push_back(reply(words({0x1401})));
     const Bytes good = words({30});
@@ -632,7 +632,7 @@ TEST_F(SimulatedBoardFaults, ComeEveryNthCall) {
 
 TEST_F(SimulatedBoardFaults, AreTheSameForTheSameSeed) {
     const auto failures = [this](const std::string& fault) {
-        mControl.setFault("CMD_AUDIO_GET_VOLUME", json(fault));
+        mControl->setFault("CMD_AUDIO_GET_VOLUME", json(fault));
         std::set<int> calls;
         for (int i = 0; i < 400; i++) {
             if (reply(words({0x1401})) == words({-9})) calls.insert(i);
@@ -647,12 +647,12 @@ TEST_F(SimulatedBoardFaults, AreTheSameForTheSameSeed) {
 }
 
 TEST_F(SimulatedBoardFaults, OfOneCommandGoBeforeThoseOfAll) {
-    mControl.setFault("*", json(R"({"status": -8})"));
-    mControl.setFault("CMD_AUDIO_GET_VOLUME", json(R"({"status": -9})"));
+    mControl->setFault("*", json(R"({"status": -8})"));
+    mControl->setFault("CMD_AUDIO_GET_VOLUME", json(R"({"status": -9})"));
     EXPECT_EQ(words({-9}), reply(words({0x1401})));
     EXPECT_EQ(words({-8}), reply(words({0x1403})));
     EXPECT_EQ(words({-8}), reply(words({0x7777})));
-    mControl.setFault("*", json(R"({"transport": "dead"})"));
+    mControl->setFault("*", json(R"({"transport": "dead"})"));
     EXPECT_TRUE(invoke(mBoard.get(), words({0x1401})).dead);
 }
 
@@ -661,30 +661,30 @@ TEST_F(SimulatedBoardFaults, OfTheBoardFileAreOnFromTheStart) {
     EXPECT_EQ(words({55}), reply(words({0x1413})));
     EXPECT_EQ(words({-3}), reply(words({0x1413})));
     EXPECT_EQ(json(R"([{"command": "CMD_AUDIO_GET_BASS", "fault": {"status": -3, "every": 3}}])"),
-              mControl.listFaults());
+              mControl->listFaults());
 }
 
 TEST_F(SimulatedBoardFaults, AreListedAndCleared) {
-    mControl.clearFaults();
-    EXPECT_THAT(mControl.listFaults(), IsEmpty());
-    mControl.setFault("CMD_AUDIO_SET_VOLUME", json(R"({"status": 4})"));
-    mControl.setFault("*", json(R"({"delayMs": 1})"));
-    mControl.setFault("*", json(R"({"transport": "dead"})"));
-    mControl.setFault("*", json(R"({"transport": "error", "probability": 0.5, "seed": 3})"));
+    mControl->clearFaults();
+    EXPECT_THAT(mControl->listFaults(), IsEmpty());
+    mControl->setFault("CMD_AUDIO_SET_VOLUME", json(R"({"status": 4})"));
+    mControl->setFault("*", json(R"({"delayMs": 1})"));
+    mControl->setFault("*", json(R"({"transport": "dead"})"));
+    mControl->setFault("*", json(R"({"transport": "error", "probability": 0.5, "seed": 3})"));
     EXPECT_EQ(json(R"([{"command": "*", "fault": {"delayMs": 1}},
                        {"command": "*",
                         "fault": {"transport": "error", "probability": 0.5, "seed": 3}},
                        {"command": "CMD_AUDIO_SET_VOLUME", "fault": {"status": 4}}])"),
-              mControl.listFaults());
-    mControl.clearFault("*");
-    EXPECT_EQ(1U, mControl.listFaults().size());
-    EXPECT_THAT([this] { mControl.clearFault("*"); },
+              mControl->listFaults());
+    mControl->clearFault("*");
+    EXPECT_EQ(1U, mControl->listFaults().size());
+    EXPECT_THAT([this] { mControl->clearFault("*"); },
                 ThrowsMessage<std::invalid_argument>("no fault is set for '*'"));
 }
 
 TEST_F(SimulatedBoardFaults, AreRefusedWhenDescribedWrongly) {
     const auto setting = [this](const std::string& fault) {
-        return [this, fault] { mControl.setFault("*", json(fault)); };
+        return [this, fault] { mControl->setFault("*", json(fault)); };
     };
     using E = std::invalid_argument;
     EXPECT_THAT(setting("{}"), ThrowsMessage<E>(HasSubstr("exactly one of")));
@@ -701,15 +701,15 @@ TEST_F(SimulatedBoardFaults, AreRefusedWhenDescribedWrongly) {
                 ThrowsMessage<E>("every and probability exclude each other"));
     EXPECT_THAT(setting(R"({"status": 1, "seed": 2})"),
                 ThrowsMessage<E>("seed needs a probability"));
-    EXPECT_THAT([this] { mControl.setFault("CMD_NONE", Json::Value()); },
+    EXPECT_THAT([this] { mControl->setFault("CMD_NONE", Json::Value()); },
                 ThrowsMessage<E>("no command 'CMD_NONE'"));
-    EXPECT_EQ(1U, mControl.listFaults().size());
+    EXPECT_EQ(1U, mControl->listFaults().size());
 }
 
 TEST_F(SimulatedBoardControl, ListsPropertiesWithTypeValueAndRange) {
     reply(words({0x1402, 31}));
     reply(words({0x1445, 2, 5}));
-    const Json::Value list = mControl.listProperties();
+    const Json::Value list = mControl->listProperties();
     EXPECT_EQ(12U, list.size());
     EXPECT_EQ(json(R"({"type": "i32", "initial": 30, "value": 31, "min": 0, "max": 100})"),
               list["audio.volume"]);
@@ -721,48 +721,48 @@ TEST_F(SimulatedBoardControl, ListsPropertiesWithTypeValueAndRange) {
     EXPECT_EQ(json(R"({"type": "[s16 app]", "initial": [["a.b"], ["c.d"]],
                        "value": [["a.b"], ["c.d"]]})"),
               list["apps.list"]);
-    EXPECT_EQ("bench", mControl.name());
+    EXPECT_EQ("bench", mControl->name());
 }
 
 TEST_F(SimulatedBoardControl, SetsWhatACommandReads) {
-    mControl.setProperty("audio.volume", Json::Value(12));
-    mControl.setProperty("audio.mic", Json::Value(true));
-    mControl.setProperty("boot.logo", Json::Value("\u00e9"));
-    mControl.setProperty("apps.list", json(R"(["x"])"));
-    mControl.setProperty("av.data", json("[5]"));
-    mControl.setProperty("audio.gain[4]", Json::Value(3));
+    mControl->setProperty("audio.volume", Json::Value(12));
+    mControl->setProperty("audio.mic", Json::Value(true));
+    mControl->setProperty("boot.logo", Json::Value("\u00e9"));
+    mControl->setProperty("apps.list", json(R"(["x"])"));
+    mControl->setProperty("av.data", json("[5]"));
+    mControl->setProperty("audio.gain[4]", Json::Value(3));
     EXPECT_EQ(words({12}), reply(words({0x1401})));
     EXPECT_EQ(words({0, 1}), reply(words({0x1438})));
     EXPECT_EQ(hex("00000000 01000000 e9000000"), reply(words({0x000B})));
     EXPECT_EQ(hex("00000000 01000000 01000000 78000000"), reply(words({0x3700})));
     EXPECT_EQ(hex("00000000 04000000 01000000 05000000"), reply(words({0x124D})));
     EXPECT_EQ(words({3}), reply(words({0x1444, 4})));
-    EXPECT_EQ(Json::Value(3), mControl.getProperty("audio.gain[4]"));
-    EXPECT_EQ(Json::Value(-7), mControl.getProperty("audio.gain[5]"));
-    EXPECT_EQ(json(R"({"4": 3})"), mControl.getProperty("audio.gain"));
+    EXPECT_EQ(Json::Value(3), mControl->getProperty("audio.gain[4]"));
+    EXPECT_EQ(Json::Value(-7), mControl->getProperty("audio.gain[5]"));
+    EXPECT_EQ(json(R"({"4": 3})"), mControl->getProperty("audio.gain"));
 }
 
 TEST_F(SimulatedBoardControl, ReadsTextAsAPersonTypesIt) {
-    mControl.setPropertyFromText("audio.volume", "0x1f");
-    EXPECT_EQ(Json::Value(31), mControl.getProperty("audio.volume"));
-    mControl.setPropertyFromText("audio.gain[0x2]", "-0x10");
-    EXPECT_EQ(Json::Value(-16), mControl.getProperty("audio.gain[2]"));
-    mControl.setPropertyFromText("audio.mic", "on");
-    EXPECT_EQ(Json::Value(true), mControl.getProperty("audio.mic"));
-    mControl.setPropertyFromText("noise.level", "0.1");
-    EXPECT_EQ(Json::Value(0.1), mControl.getProperty("noise.level"));
-    mControl.setPropertyFromText("boot.logo", "");
-    EXPECT_EQ(Json::Value(""), mControl.getProperty("boot.logo"));
-    mControl.setPropertyFromText("av.data", "0A ff");
-    EXPECT_EQ(Json::Value("0aff"), mControl.getProperty("av.data"));
-    mControl.setPropertyFromText("apps.list", R"(["q", ["r"]])");
-    EXPECT_EQ(json(R"([["q"], ["r"]])"), mControl.getProperty("apps.list"));
+    mControl->setProperty("audio.volume", "0x1f");
+    EXPECT_EQ(Json::Value(31), mControl->getProperty("audio.volume"));
+    mControl->setProperty("audio.gain[0x2]", "-0x10");
+    EXPECT_EQ(Json::Value(-16), mControl->getProperty("audio.gain[2]"));
+    mControl->setProperty("audio.mic", "on");
+    EXPECT_EQ(Json::Value(true), mControl->getProperty("audio.mic"));
+    mControl->setProperty("noise.level", "0.1");
+    EXPECT_EQ(Json::Value(0.1), mControl->getProperty("noise.level"));
+    mControl->setProperty("boot.logo", "");
+    EXPECT_EQ(Json::Value(""), mControl->getProperty("boot.logo"));
+    mControl->setProperty("av.data", "0A ff");
+    EXPECT_EQ(Json::Value("0aff"), mControl->getProperty("av.data"));
+    mControl->setProperty("apps.list", R"(["q", ["r"]])");
+    EXPECT_EQ(json(R"([["q"], ["r"]])"), mControl->getProperty("apps.list"));
 }
 
 TEST_F(SimulatedBoardControl, RefusesWhatACommandWouldRefuse) {
-    const Json::Value before = mControl.listProperties();
+    const Json::Value before = mControl->listProperties();
     const auto setting = [this](const std::string& name, const std::string& value) {
-        return [this, name, value] { mControl.setPropertyFromText(name, value); };
+        return [this, name, value] { mControl->setProperty(name, value); };
     };
     using E = std::invalid_argument;
     EXPECT_THAT(setting("audio.volume", "101"),
@@ -786,23 +786,23 @@ TEST_F(SimulatedBoardControl, RefusesWhatACommandWouldRefuse) {
                 ThrowsMessage<E>("'audio.gain' needs an index: audio.gain[...]"));
     EXPECT_THAT(setting("audio.gain[1,2]", "1"), ThrowsMessage<E>("index '1,2' needs 1 parts"));
     EXPECT_THAT(setting("audio.gain[x]", "1"), ThrowsMessage<E>("'x' is no whole number"));
-    EXPECT_THAT([this] { mControl.setProperty("audio.volume", Json::Value(true)); },
+    EXPECT_THAT([this] { mControl->setProperty("audio.volume", Json::Value(true)); },
                 ThrowsMessage<E>("needs a whole number (i32)"));
-    EXPECT_EQ(before, mControl.listProperties());
+    EXPECT_EQ(before, mControl->listProperties());
 }
 
 TEST_F(SimulatedBoardControl, ResetsToWhatTheFilesDescribe) {
-    const Json::Value before = mControl.listProperties();
-    const Json::Value faults = mControl.listFaults();
+    const Json::Value before = mControl->listProperties();
+    const Json::Value faults = mControl->listFaults();
     reply(words({0x1402, 50}));
     reply(words({0x1445, 1, 1}));
-    mControl.setFault("*", json(R"({"status": -1})"));
-    mControl.clearFault("CMD_AUDIO_GET_BASS");
+    mControl->setFault("*", json(R"({"status": -1})"));
+    mControl->clearFault("CMD_AUDIO_GET_BASS");
     mBoard->hwPostEvent(1, "x");
-    mControl.reset();
-    EXPECT_EQ(before, mControl.listProperties());
-    EXPECT_EQ(faults, mControl.listFaults());
-    EXPECT_THAT(mControl.postedEvents(), IsEmpty());
+    mControl->reset();
+    EXPECT_EQ(before, mControl->listProperties());
+    EXPECT_EQ(faults, mControl->listFaults());
+    EXPECT_THAT(mControl->postedEvents(), IsEmpty());
 }
 
 /** The emptiest request of a row: zeros, empty texts, empty lists. */
@@ -845,13 +845,13 @@ TEST(EmbeddedBoard, ServesThisProcessAsTheDefaultService) {
     char name[] = "/tmp/tarn-board-XXXXXX";
     close(mkstemp(name));
     std::ofstream(name) << kBoard;
-    const sp<SimulatedBoard> board = startEmbeddedBoard(name);
+    const EmbeddedBoard board = startEmbeddedBoard(name);
     unlink(name);
 
     const sp<IHwTarn> service = IHwTarn::getService();
     ASSERT_NE(nullptr, service);
     invoke(service.get(), words({0x1402, 66}));
-    EXPECT_EQ(Json::Value(66), BoardControl(board).getProperty("audio.volume"));
+    EXPECT_EQ(Json::Value(66), board.control->getProperty("audio.volume"));
 
     android::host::removeService(android::String16("vendor.zunt.hwtarn@1.0::IHwTarn/default"));
     EXPECT_EQ(nullptr, IHwTarn::getService());

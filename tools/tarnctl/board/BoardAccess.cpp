@@ -1,5 +1,6 @@
 #include "tools/tarnctl/board/BoardAccess.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "registry/Arguments.h"
@@ -15,33 +16,43 @@ std::string plainName(const std::string& name) {
     return name.substr(0, name.find('['));
 }
 
-void requireProperty(const BoardLink& board, const std::string& name) {
+void requireProperty(const BoardControl& board, const std::string& name) {
     if (hasProperty(board, name)) return;
-    throw Failure(kNoSuchName,
-                  "the board has no property \"" + plainName(name) + "\"" +
-                          didYouMean(plainName(name), board.properties().getMemberNames()));
+    throw Failure(kNoSuchName, "the board has no property \"" + plainName(name) + "\"" +
+                                       didYouMean(plainName(name), propertyNames(board)));
 }
 
 }  // namespace
 
-bool hasProperty(const BoardLink& board, const std::string& name) {
-    return board.properties().isMember(plainName(name));
+std::vector<std::string> propertyNames(const BoardControl& board) {
+    std::vector<std::string> names;
+    reachBoard([&] { names = board.listProperties().getMemberNames(); });
+    return names;
 }
 
-Json::Value readProperty(const BoardLink& board, const std::string& name) try {
+bool hasProperty(const BoardControl& board, const std::string& name) {
+    const std::vector<std::string> names = propertyNames(board);
+    return std::find(names.begin(), names.end(), plainName(name)) != names.end();
+}
+
+Json::Value readProperty(const BoardControl& board, const std::string& name) {
     requireProperty(board, name);
-    return board.property(name);
-} catch (const std::invalid_argument& refusal) {
-    throw Failure(kBadUsage, refusal.what());
+    Json::Value value;
+    reachBoard([&] { value = board.getProperty(name); });
+    return value;
 }
 
-void writeProperty(BoardLink* board, const std::string& name, const std::string& value) try {
+void writeProperty(BoardControl* board, const std::string& name, const std::string& value) {
     requireProperty(*board, name);
-    board->setProperty(name, parseText("value", value));
-} catch (const BadArgument&) {
+    reachBoard([&] { board->setProperty(name, parseText("value", value)); });
+}
+
+void reachBoard(const std::function<void()>& work) try { work(); } catch (const BadArgument&) {
     throw;
 } catch (const std::invalid_argument& refusal) {
     throw Failure(kBadUsage, refusal.what());
+} catch (const tarn::simulator::BoardUnreachable& error) {
+    throw Failure(kUnreachable, error.what());
 }
 
 }  // namespace tarnctl

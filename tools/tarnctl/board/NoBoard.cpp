@@ -1,4 +1,4 @@
-#include "tools/tarnctl/board/BoardLink.h"
+#include "tools/tarnctl/board/Boards.h"
 
 namespace tarnctl {
 
@@ -6,11 +6,11 @@ bool isServicePublished() {
     return false;
 }
 
-std::unique_ptr<BoardLink> startEmbeddedBoard(const BoardFiles&) {
+std::shared_ptr<BoardControl> startEmbeddedBoard(const BoardFiles&) {
     return nullptr;
 }
 
-std::unique_ptr<BoardLink> findServedBoard(pid_t) {
+std::shared_ptr<BoardControl> findServedBoard(pid_t) {
     return nullptr;
 }
 

@@ -59,10 +59,10 @@ TracingManager& Session::manager() {
     return *mManager;
 }
 
-BoardLink* Session::board() {
+BoardControl* Session::board() {
     if (mBoard == nullptr && !mBoardSought) {
         if (const pid_t process = servingProcess()) {
-            using Found = std::shared_ptr<BoardLink>;
+            using Found = std::shared_ptr<BoardControl>;
             const auto found = mLimit.run<Found>([process] { return findServedBoard(process); });
             if (!found) refuseWithoutAnswer();
             mBoard = *found;

@@ -7,7 +7,7 @@
 #include <memory>
 #include <optional>
 
-#include "tools/tarnctl/board/BoardLink.h"
+#include "tools/tarnctl/board/Boards.h"
 #include "tools/tarnctl/options/Options.h"
 #include "tools/tarnctl/output/Console.h"
 #include "tools/tarnctl/session/EventCollector.h"
@@ -39,7 +39,7 @@ class Session {
     void abandonManager() { mManager = nullptr; }
 
     /** The simulated board that is the service, in this process or another, or null. */
-    BoardLink* board();
+    BoardControl* board();
 
     /** The process that serves; 0 if it is this one, -1 if it does not tell. */
     pid_t servingProcess();
@@ -58,7 +58,7 @@ class Session {
     TimeLimit mLimit;
     bool mConnected = false;
     bool mBoardSought = false;
-    std::shared_ptr<BoardLink> mBoard;
+    std::shared_ptr<BoardControl> mBoard;
     android::sp<TracingManager> mManager;
     android::sp<EventCollector> mEvents;
 };

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cctype>
-#include <stdexcept>
 
 #include "registry/Arguments.h"
 #include "tools/tarnctl/board/BoardAccess.h"
@@ -17,8 +16,8 @@ namespace {
 
 constexpr char kAllCommands[] = "*";
 
-void listProperties(Context& context, BoardLink& board, const Arguments&) {
-    const Json::Value properties = board.properties();
+void listProperties(Context& context, BoardControl& board, const Arguments&) {
+    const Json::Value properties = board.listProperties();
     if (context.output.isJson()) return context.output.result(properties);
     size_t width = 0;
     for (const std::string& name : properties.getMemberNames()) {
@@ -37,15 +36,15 @@ void listProperties(Context& context, BoardLink& board, const Arguments&) {
     context.output.lines(lines);
 }
 
-void getProperty(Context& context, BoardLink& board, const Arguments& arguments) {
+void getProperty(Context& context, BoardControl& board, const Arguments& arguments) {
     context.output.result(readProperty(board, arguments[0]));
 }
 
-void setProperty(Context&, BoardLink& board, const Arguments& arguments) {
+void setProperty(Context&, BoardControl& board, const Arguments& arguments) {
     writeProperty(&board, arguments[0], arguments[1]);
 }
 
-void reset(Context&, BoardLink& board, const Arguments&) {
+void reset(Context&, BoardControl& board, const Arguments&) {
     board.reset();
 }
 
@@ -55,7 +54,7 @@ uint32_t eventType(const std::string& word) {
     return isName ? static_cast<uint32_t>(requireCode(word)) : parseUnsigned("type", word);
 }
 
-void raise(Context&, BoardLink& board, const Arguments& arguments) {
+void raise(Context&, BoardControl& board, const Arguments& arguments) {
     std::vector<uint8_t> data;
     for (size_t i = 1; i < arguments.size(); i++) {
         const std::vector<uint8_t> bytes = parseBytes("data", arguments[i]);
@@ -64,7 +63,7 @@ void raise(Context&, BoardLink& board, const Arguments& arguments) {
     board.raiseEvent(eventType(arguments[0]), data);
 }
 
-void showLog(Context& context, BoardLink& board, const Arguments&) {
+void showLog(Context& context, BoardControl& board, const Arguments&) {
     context.output.result(board.postedEvents());
 }
 
@@ -74,9 +73,9 @@ std::string faultCommand(const std::string& word) {
 }
 
 /** Without arguments the list, "clear" switches off, else a fault is switched on. */
-void fault(Context& context, BoardLink& board, const Arguments& arguments) {
+void fault(Context& context, BoardControl& board, const Arguments& arguments) {
     if (arguments.empty()) {
-        context.output.result(board.faults());
+        context.output.result(board.listFaults());
     } else if (arguments[0] == "clear") {
         if (arguments.size() > 2) throw Failure(kBadUsage, "usage: board fault clear [COMMAND]");
         if (arguments.size() == 1) return board.clearFaults();
@@ -94,7 +93,7 @@ struct Action {
     const char* arguments;
     size_t least;
     size_t most;
-    void (*run)(Context&, BoardLink&, const Arguments&);
+    void (*run)(Context&, BoardControl&, const Arguments&);
 };
 
 constexpr Action kActions[] = {
@@ -124,17 +123,11 @@ int runBoard(Context& context, const Arguments& arguments) {
                                          " arguments; usage: tarnctl board " + action.name +
                                          (*action.arguments != '\0' ? " " : "") + action.arguments);
     }
-    BoardLink* board = context.session.board();
+    BoardControl* board = context.session.board();
     if (board == nullptr) {
         throw Failure(kUnreachable, "the service is no simulated board that tarnctl can control");
     }
-    try {
-        action.run(context, *board, rest);
-    } catch (const BadArgument&) {
-        throw;
-    } catch (const std::invalid_argument& refusal) {
-        throw Failure(kBadUsage, refusal.what());
-    }
+    reachBoard([&] { action.run(context, *board, rest); });
     return kDone;
 }
 

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstring>
 
+#include "tools/tarnctl/board/BoardAccess.h"
 #include "tools/tarnctl/board/FaultWords.h"
 #include "tools/tarnctl/catalog/Lookup.h"
 #include "tools/tarnctl/catalog/PropertyNames.h"
@@ -83,8 +84,8 @@ std::vector<const Method*> settersAt(const std::string& property) {
 Candidates boardProperties(Session& session) try {
     // Nobody waits longer for a candidate.
     session.setLimit(std::chrono::seconds(1));
-    const BoardLink* board = session.board();
-    return board != nullptr ? board->properties().getMemberNames() : Candidates();
+    const BoardControl* board = session.board();
+    return board != nullptr ? propertyNames(*board) : Candidates();
 } catch (const Failure&) {
     return {};
 }

@@ -11,8 +11,8 @@ namespace tarnctl {
 namespace {
 
 /** The simulated board if it has a property of that name; else the property is refused. */
-BoardLink& requireBoardProperty(Context& context, const std::string& property, Access access) {
-    BoardLink* board = context.session.board();
+BoardControl& requireBoardProperty(Context& context, const std::string& property, Access access) {
+    BoardControl* board = context.session.board();
     if (board == nullptr || !hasProperty(*board, property)) refuseProperty(property, access);
     return *board;
 }
@@ -61,7 +61,7 @@ int runGet(Context& context, const Arguments& arguments) {
     const Arguments values(arguments.begin() + 1, arguments.end());
     const Target target = findAccessors(arguments[0], Access::kGet);
     if (!target.methods.empty()) return callMethod(context, target, values);
-    BoardLink& board = requireBoardProperty(context, arguments[0], Access::kGet);
+    BoardControl& board = requireBoardProperty(context, arguments[0], Access::kGet);
     requireCount(kGetCommand, arguments, 1, 1);
     context.output.result(readProperty(board, arguments[0]));
     return kDone;
@@ -72,7 +72,7 @@ int runSet(Context& context, const Arguments& arguments) {
     const Arguments values(arguments.begin() + 1, arguments.end());
     const Target target = findAccessors(arguments[0], Access::kSet);
     if (!target.methods.empty()) return callMethod(context, target, values);
-    BoardLink& board = requireBoardProperty(context, arguments[0], Access::kSet);
+    BoardControl& board = requireBoardProperty(context, arguments[0], Access::kSet);
     requireCount(kSetCommand, arguments, 2, 2);
     writeProperty(&board, arguments[0], arguments[1]);
     return kDone;

@@ -1,5 +1,6 @@
 #include <optional>
 
+#include "tools/tarnctl/board/BoardAccess.h"
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/session/LibraryLog.h"
 #include "tools/tarnctl/verbs/Commands.h"
@@ -10,9 +11,11 @@ namespace {
 
 /** The simulated board's name; nothing if there is none, or if its control fails, which is said. */
 std::optional<std::string> boardName(Context& context) try {
-    const BoardLink* board = context.session.board();
+    const BoardControl* board = context.session.board();
     if (board == nullptr) return std::nullopt;
-    return board->name();
+    std::string name;
+    reachBoard([&] { name = board->name(); });
+    return name;
 } catch (const Failure& failure) {
     context.diagnostics.note(failure.what());
     return std::nullopt;
