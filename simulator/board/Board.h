@@ -49,7 +49,7 @@ class Board {
      * Carries a command out and returns the reply's bytes. A value that a property doesn't accept
      * changes nothing and gives status -1.
      * @param raise takes the command's event; it is called with the state locked, so that events
-     * are raised in the order of what they tell, and has to do no more than to queue it
+     * are raised in the order of the changes that they tell of, and must only queue it
      */
     Bytes execute(const Request& request, const std::function<void(Event)>& raise);
 

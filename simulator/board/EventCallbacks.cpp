@@ -10,10 +10,11 @@ using ::android::wp;
 using ::android::hardware::hidl_vec;
 using ::android::hidl::base::V1_0::IBase;
 
-/** Hears of the death of one callback's process. */
-class EventCallbacks::Obituary : public ::android::hardware::hidl_death_recipient {
+/** Is told when the process of one callback dies. */
+class EventCallbacks::DeathRecipient : public ::android::hardware::hidl_death_recipient {
   public:
-    Obituary(std::weak_ptr<EventCallbacks> callbacks, int32_t pid, const IHwTarnCallback* callback)
+    DeathRecipient(std::weak_ptr<EventCallbacks> callbacks, int32_t pid,
+                   const IHwTarnCallback* callback)
         : mCallbacks(std::move(callbacks)), mPid(pid), mCallback(callback) {}
 
     void serviceDied(uint64_t /*cookie*/, const wp<IBase>& /*who*/) override {
@@ -23,13 +24,13 @@ class EventCallbacks::Obituary : public ::android::hardware::hidl_death_recipien
   private:
     const std::weak_ptr<EventCallbacks> mCallbacks;
     const int32_t mPid;
-    const IHwTarnCallback* const mCallback;  // only to tell it from others
+    const IHwTarnCallback* const mCallback;  // only compared, never called
 };
 
 bool EventCallbacks::add(int32_t pid, const Callback& callback) {
     Receiver receiver;
     receiver.callback = callback;
-    receiver.obituary = new Obituary(weak_from_this(), pid, callback.get());
+    receiver.deathRecipient = new DeathRecipient(weak_from_this(), pid, callback.get());
     try {
         receiver.dispatcher = std::make_unique<EventDispatcher>(
                 [self = weak_from_this(), pid, callback](const Event& event) {
@@ -40,13 +41,13 @@ bool EventCallbacks::add(int32_t pid, const Callback& callback) {
     } catch (const std::system_error&) {
         return false;
     }
-    const auto obituary = receiver.obituary;
+    const auto deathRecipient = receiver.deathRecipient;
     {
         std::lock_guard<std::mutex> guard(mLock);
         std::swap(mReceivers[pid], receiver);
     }
     if (receiver.dispatcher != nullptr) receiver.dispatcher->abandon();
-    if (callback->isRemote() && !callback->linkToDeath(obituary, 0).withDefault(false)) {
+    if (callback->isRemote() && !callback->linkToDeath(deathRecipient, 0).withDefault(false)) {
         drop(pid, callback.get());
     }
     return true;

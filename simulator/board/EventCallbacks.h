@@ -24,25 +24,25 @@ class EventCallbacks : public std::enable_shared_from_this<EventCallbacks> {
     using Callback = ::android::sp<IHwTarnCallback>;
 
     /**
-     * Replaces the callback that the process had. It is forgotten when it dies. False, and nothing
-     * is changed, if no thread can be had for it.
+     * Replaces the callback that the process had. It is dropped when its process dies. False, and
+     * nothing is changed, if no thread can be started for it.
      */
     bool add(int32_t pid, const Callback& callback);
 
     /**
      * Queues an event for every callback, for all of them in the same order. False if too many wait
-     * already for one of them, which loses this one.
+     * already for one of them, which then does not get this one.
      */
     bool post(const Event& event);
 
     size_t size() const;
 
   private:
-    class Obituary;
+    class DeathRecipient;
 
     struct Receiver {
         Callback callback;
-        ::android::sp<::android::hardware::hidl_death_recipient> obituary;
+        ::android::sp<::android::hardware::hidl_death_recipient> deathRecipient;
         std::unique_ptr<EventDispatcher> dispatcher;
     };
 

@@ -41,7 +41,7 @@ EventDispatcher::EventDispatcher(std::function<void(const Event&)> deliver)
 EventDispatcher::~EventDispatcher() {
     mQueue->stop();
     if (!mThread.joinable()) return;
-    // A receiver that drops the last reference to the board does so on this very thread.
+    // A receiver that drops the last reference to the board does so on this thread.
     if (mThread.get_id() == std::this_thread::get_id()) {
         mThread.detach();
     } else {

@@ -11,7 +11,7 @@ namespace tarn::simulator {
 
 /**
  * Hands events, one at a time and in the order of posting, to a function on a thread of its own:
- * who raises an event never waits for who receives it, and no lock of the raiser is held meanwhile.
+ * raising an event never waits for its receivers, and they are called with no lock held.
  */
 class EventDispatcher {
   public:
@@ -19,13 +19,13 @@ class EventDispatcher {
     static constexpr size_t kMaxPending = 65'536;
     static constexpr size_t kMaxPendingBytes = 16 << 20;
 
-    /** Throws std::system_error if no thread can be had. */
+    /** Throws std::system_error if no thread can be started. */
     explicit EventDispatcher(std::function<void(const Event&)> deliver);
 
     /** Waits for the event that is being handed over, if any; those that wait are dropped. */
     ~EventDispatcher();
 
-    /** Ends without waiting: the event that is being handed over may come to its end later. */
+    /** Ends without waiting: the event that is being handed over may be finished later. */
     void abandon();
 
     EventDispatcher(const EventDispatcher&) = delete;

@@ -21,13 +21,13 @@ class SimulatedBoard : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
   public:
     explicit SimulatedBoard(std::shared_ptr<const BoardModel> model);
 
-    /** A request that is none, or none that the board knows, is answered with status -1. */
+    /** A malformed request, or one of an unknown command, is answered with status -1. */
     ::android::hardware::Return<void> hwInvoke(const ::android::hardware::hidl_string& request,
                                                hwInvoke_cb _hidl_cb) override;
 
     /**
      * A second callback of the same process replaces the first. The process is the one that calls;
-     * the pid counts only for a callback of this very process.
+     * the pid counts only for a callback of this process.
      */
     ::android::hardware::Return<void> hwRegisterCallback(
             const ::android::sp<::vendor::zunt::hwtarn::V1_0::IHwTarnCallback>& callback,

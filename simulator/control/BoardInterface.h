@@ -14,7 +14,7 @@ constexpr char kBoardName[] = "org.tarn.Board1";
 constexpr char kBoardPath[] = "/org/tarn/Board1";
 constexpr char kBoardInterface[] = "org.tarn.Board1";
 
-/** The error of a call that the board refuses; its message tells a person why. */
+/** The error of a call that the board refuses; its message says why. */
 constexpr char kRefusedError[] = "org.tarn.Board1.Error.Refused";
 
 /** The most bytes that an event may carry, as those that applications post. */

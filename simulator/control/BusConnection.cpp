@@ -21,7 +21,7 @@ constexpr uint32_t kDoNotQueue = 4;
 constexpr uint32_t kPrimaryOwner = 1;
 constexpr uint32_t kAlreadyOwner = 4;
 
-/** Calls the bus itself. An error of that name gives nothing. */
+/** Calls the bus itself; nothing if it answers with the expected error. */
 template <typename Result, typename... Args>
 std::optional<Result> callBus(sdbus::IConnection& connection, const char* method,
                               const char* expectedError, const Args&... arguments) try {

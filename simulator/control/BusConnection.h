@@ -10,7 +10,7 @@
 
 namespace tarn::simulator::bus {
 
-/** There is no session bus, it can't be reached, or it went away; the message tells which. */
+/** There is no session bus, it can't be reached, or it went away; the message says which. */
 class BusUnreachable : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
@@ -19,7 +19,7 @@ class BusUnreachable : public std::runtime_error {
 /** A new connection to the bus that services are found on. Throws BusUnreachable. */
 std::unique_ptr<sdbus::IConnection> connectSessionBus();
 
-/** The unique name of who owns a name; nothing if nobody does. Throws BusUnreachable. */
+/** The unique name of a name's owner; nothing if nobody owns it. Throws BusUnreachable. */
 std::optional<std::string> ownerOf(sdbus::IConnection& connection, const std::string& name);
 
 /** The process behind a name; 0 if nobody owns it. Throws BusUnreachable. */

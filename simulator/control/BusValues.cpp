@@ -75,7 +75,7 @@ sdbus::Variant variantFromJson(const Json::Value& json) {
         case Json::nullValue:
             break;
     }
-    throw std::invalid_argument("null is no value");
+    throw std::invalid_argument("null is not a value");
 }
 
 Dictionary dictionaryFromJson(const Json::Value& object) {

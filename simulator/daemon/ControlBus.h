@@ -34,8 +34,8 @@ class ControlBus {
     }
 
     /**
-     * Lets others steer the board, which has to live longer, from now on, on a thread of its own;
-     * ended hears of the name's or the bus's loss.
+     * Offers the board's control, on a thread of its own. The board has to live longer; ended is
+     * called when the name or the bus is lost.
      */
     void serve(BoardControl& board, std::function<void(EndCause)> ended);
 

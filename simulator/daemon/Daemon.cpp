@@ -126,7 +126,7 @@ int serve(const DaemonOptions& options) {
 }  // namespace
 
 int runDaemon(const DaemonOptions& options) try {
-    // Whoever reads standard error may go away before the daemon does.
+    // Whoever reads standard error may end before the daemon does.
     signal(SIGPIPE, SIG_IGN);
     return serve(options);
 } catch (const Refusal& refusal) {

@@ -6,13 +6,13 @@ namespace tarn::simulator {
 
 enum DaemonExit : int {
     kEnded = 0,          // by a signal, or by another that took over
-    kNotPublished = 1,   // the platform refused
+    kNotPublished = 1,   // the platform refuses it
     kUnusable = 2,       // the command line or the board's description
     kAlreadyServed = 3,  // somebody serves already
     kNoBus = 4,          // there is no session bus, it went away, or the system lacks resources
 };
 
-/** Serves a board until it is told to end; what goes wrong is told on standard error. */
+/** Serves a board until it is told to end; failures are reported on standard error. */
 int runDaemon(const DaemonOptions& options);
 
 }  // namespace tarn::simulator

@@ -72,7 +72,7 @@ DaemonOptions parseDaemonOptions(int argc, char** argv) {
         const bool known = option != '?';
         apply(&options, option, known ? (optarg != nullptr ? optarg : "") : argv[at]);
     }
-    if (optind < argc) throw BadUsage("\"" + std::string(argv[optind]) + "\" is no option");
+    if (optind < argc) throw BadUsage("\"" + std::string(argv[optind]) + "\" is not an option");
     return options;
 }
 

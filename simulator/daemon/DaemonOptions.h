@@ -7,7 +7,7 @@
 
 namespace tarn::simulator {
 
-/** The command line can't be used; the message tells why. */
+/** The command line can't be used; the message says why. */
 class BadUsage : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;

@@ -26,9 +26,9 @@ int main(int argc, char** argv) {
     }
     fflush(stdout);
 #ifdef __SANITIZE_ADDRESS__
-    // Below, what would look for leaks at the end is left out with the rest.
+    // quick_exit() leaves out the check that would run at exit.
     __lsan_do_leak_check();
 #endif
-    // Commands may still be carried out: no destructor may run underneath them.
+    // Commands may still be running: nothing that they use may be destroyed.
     std::quick_exit(code);
 }

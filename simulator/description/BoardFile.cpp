@@ -23,7 +23,7 @@ std::string joined(const std::vector<Problem>& problems) {
 
 std::string readWhole(const std::string& path) {
     std::ifstream stream(path, std::ios::binary);
-    // A directory opens well.
+    // A directory can be opened too.
     if (!stream || std::filesystem::is_directory(path)) {
         throw BoardFileError({Problem{path, 0, "can't be read"}});
     }

@@ -63,7 +63,7 @@ class Loader {
         }
     }
 
-    /** Only now have the commands said what the lists' records are. */
+    /** After the commands, which say what the lists' records are. */
     void readLists() {
         for (Property& property : mProperties.list) {
             if (property.field.type != protocol::Type::kList) continue;
@@ -77,7 +77,7 @@ class Loader {
     }
 
     /**
-     * A property that the override alone has is a slip of the pen unless one of the override's
+     * A property that only the override has is a mistyped name unless one of the override's
      * commands uses it.
      */
     void checkNewProperties() {
@@ -85,8 +85,8 @@ class Loader {
             if (!source.isOverride || mSources.replaces(name)) continue;
             if (mUsedByOverride.count(name) == 0) {
                 addProblem(source, "property '" + name +
-                                           "' is neither one of the board nor used by a command "
-                                           "of the override");
+                                           "' is not in the board, and no command of the "
+                                           "override uses it");
             }
         }
     }

@@ -69,7 +69,7 @@ void BoardSources::readIncludes(const BoardFile& file, const Json::Value& includ
             const bool exists = std::filesystem::exists(path, unreachable);
             mProblems->push_back(file.problemAt(
                     include,
-                    "included '" + path + "' is " + (exists ? "no regular file" : "missing")));
+                    "included '" + path + "' is " + (exists ? "not a regular file" : "missing")));
             continue;
         }
         read(path, isOverride);

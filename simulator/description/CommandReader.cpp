@@ -60,7 +60,7 @@ uint32_t readEventType(const Json::Value& json) {
     const auto [stop, error] =
             std::from_chars(text.data() + (isHex ? 2 : 0), end, type, isHex ? 16 : 10);
     if (error != std::errc() || stop != end) {
-        throw JsonError(json, "type '" + text + "' is no number of 32 bits");
+        throw JsonError(json, "type '" + text + "' is not a number of 32 bits");
     }
     return type;
 }

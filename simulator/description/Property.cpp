@@ -50,7 +50,7 @@ std::vector<std::string> splitIndex(const std::string& text) {
 
 std::optional<std::string> Property::refusal(const Value& value) const {
     if (const std::optional<double> given = asNumber(value)) {
-        // Written so that a NaN is within no limit.
+        // Negated so that a NaN is outside of every limit.
         if (min && !(*given >= *min)) return "below the smallest value " + number(*min);
         if (max && !(*given <= *max)) return "above the largest value " + number(*max);
     }

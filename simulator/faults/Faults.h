@@ -22,7 +22,7 @@ struct FaultEffect {
 /** The faults that are switched on. Any thread may call. */
 class Faults {
   public:
-    /** Stands for every command, also for requests that are none. */
+    /** Stands for every command, and for malformed requests. */
     static constexpr char kAllCommands[] = "*";
 
     /** Switches a fault on; one of the same effect for the same command is replaced. */

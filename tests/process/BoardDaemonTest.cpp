@@ -174,7 +174,7 @@ TEST(BoardDaemon, RefusesACommandLineThatItCannotUse) {
     EXPECT_EQ(2, runBoard({"--loud"}).code);
     EXPECT_EQ("tarn-board: no option --loud\n", runBoard({"--loud"}).errors);
     EXPECT_EQ("tarn-board: --board needs a value\n", runBoard({"--board"}).errors);
-    EXPECT_EQ("tarn-board: \"now\" is no option\n", runBoard({"now"}).errors);
+    EXPECT_EQ("tarn-board: \"now\" is not an option\n", runBoard({"now"}).errors);
     EXPECT_EQ(2, runBoard({"--set", "volume"}).code);
 }
 

@@ -6,7 +6,7 @@
 
 namespace tarn::simulator {
 
-/** The board file that is meant where none is named: TARN_BOARD's, else the default board. */
+/** The board file to use where none is given: what TARN_BOARD names, else the default board. */
 std::string defaultBoardPath();
 
 /** One thing that is wrong in a board file. */

@@ -17,7 +17,7 @@ struct EmbeddedBoard {
     std::shared_ptr<BoardControl> control;  // keeps the board, as the service does
 };
 
-/** Loads a board that nobody finds. Throws BoardFileError if the board is refused. */
+/** Loads a board without publishing it. Throws BoardFileError if the board is refused. */
 EmbeddedBoard loadEmbeddedBoard(const std::string& path = defaultBoardPath(),
                                 const std::string& overridePath = "");
 

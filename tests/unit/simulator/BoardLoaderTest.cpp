@@ -150,7 +150,7 @@ TEST_F(BoardLoader, TellsAnIncludedFolderAndANameThatNoFileCanHave) {
     write("parts/one.json", "{}");
     const std::string longName(300, 'x');
     write("board.json", "{\"name\": \"x\",\n\"include\": [\n\"parts\",\n\"" + longName + "\"]}");
-    EXPECT_THAT(problems(), ElementsAre("board.json:3: included 'parts' is no regular file",
+    EXPECT_THAT(problems(), ElementsAre("board.json:3: included 'parts' is not a regular file",
                                         "board.json:4: included '" + longName + "' is missing"));
 }
 
@@ -404,7 +404,7 @@ TEST_F(BoardLoader, RefusesABadEventLatencyOrFailure) {
     EXPECT_THAT(problemsWith(R"("event": {"data": []})"),
                 ElementsAre("board.json:7: event has no type"));
     EXPECT_THAT(problemsWith(R"("event": {"type": "0x1FFFFFFFF"})"),
-                ElementsAre("board.json:7: type '0x1FFFFFFFF' is no number of 32 bits"));
+                ElementsAre("board.json:7: type '0x1FFFFFFFF' is not a number of 32 bits"));
     EXPECT_THAT(problemsWith(R"("event": {"type": -1})"),
                 ElementsAre("board.json:7: type is not within 0 to 4294967295"));
     EXPECT_THAT(problemsWith(R"("event": {"type": 1, "data": [[1]]})"),
@@ -476,8 +476,8 @@ TEST_F(BoardLoader, RefusesAnOverrideOfWhatTheBoardDoesntHave) {
           "\"commands\": {\n\"CMD_NONE\": {}}}");
     EXPECT_THAT(problems("over.json"),
                 ElementsAre("over.json:4: unknown command 'CMD_NONE'",
-                            "over.json:2: property 'b' is neither one of the board nor used by a "
-                            "command of the override"));
+                            "over.json:2: property 'b' is not in the board, and no command of "
+                            "the override uses it"));
     EXPECT_THAT(problems("none.json"), ElementsAre("none.json: can't be read"));
 }
 

@@ -16,7 +16,7 @@ class Wakeup {
 
     void signal() const;
 
-    /** Waits for a signal since the last wait, so long at most; may return without reason. */
+    /** Waits for a signal since the last wait, so long at most; may return early. */
     void wait(std::optional<std::chrono::milliseconds> limit) const;
 
   private:
