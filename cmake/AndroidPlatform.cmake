@@ -10,7 +10,10 @@ get_filename_component(ANDROID_LIBRARY_DIR ${ANDROID_UTILS_LIBRARY} DIRECTORY)
 
 add_library(android_headers INTERFACE)
 target_include_directories(android_headers SYSTEM INTERFACE ${ANDROID_PLATFORM_INCLUDE_DIR})
-target_compile_options(android_headers INTERFACE "SHELL:-include memory" "SHELL:-include limits")
+# A precompiled header has to come first, and includes them itself.
+set(not_precompiled $<NOT:$<BOOL:$<TARGET_PROPERTY:TARN_PRECOMPILED>>>)
+target_compile_options(android_headers INTERFACE
+  "$<${not_precompiled}:SHELL:-include memory>" "$<${not_precompiled}:SHELL:-include limits>")
 
 add_library(android_log INTERFACE)
 target_link_libraries(android_log INTERFACE android_headers ${ANDROID_LOG_LIBRARY})

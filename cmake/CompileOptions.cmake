@@ -3,7 +3,8 @@ add_compile_options(-Wall -Wextra -Werror -Wshadow -Wnon-virtual-dtor -Wcast-ali
                     -Wformat=2 -Wundef)
 
 if(TARN_SANITIZE)
-  add_compile_options(-fsanitize=${TARN_SANITIZE} -fno-omit-frame-pointer -O1)
+  # Reports name lines and nothing below them.
+  add_compile_options(-fsanitize=${TARN_SANITIZE} -fno-omit-frame-pointer -O1 -g1)
   add_link_options(-fsanitize=${TARN_SANITIZE})
   if(TARN_SANITIZE MATCHES "undefined")
     add_compile_options(-fno-sanitize-recover=all)

@@ -7,6 +7,7 @@ function(tarn_test name)
   target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
   # Tests are compiled often and measured never.
   target_compile_options(${name} PRIVATE -O0)
+  tarn_precompiled_by(${name} test_headers)
   add_test(NAME ${name} COMMAND ${name})
   tarn_test_environment(${name})
 endfunction()
