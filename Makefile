@@ -1,29 +1,32 @@
 # Two commands: `make run` shows the library at work on a simulated board, `make test` checks it.
-# Both install what is missing, build quietly and go. BUILD picks another build directory,
-# CMAKE_FLAGS adds to cmake's command line.
+# Both install what is missing, build quietly what they need and go. BUILD picks another build
+# directory, CMAKE_FLAGS adds to cmake's command line; CXX, CXXFLAGS and LDFLAGS count as well.
 BUILD ?= build
 CMAKE_FLAGS ?=
 
-.PHONY: run test bench build configure packages format clean
+.PHONY: run test bench build format clean
 
-run: build
+# $(call build,TARGET,LIST OF PACKAGES...)
+define build
+	@scripts/install-packages $(2)
+	@scripts/configure $(BUILD) $(CMAKE_FLAGS)
+	@scripts/build $(BUILD) $(1)
+endef
+
+run:
+	$(call build,tarn_tour,packages.txt)
 	@$(BUILD)/bin/tarn_tour
 
 test: build
 	@ctest --test-dir $(BUILD) --output-on-failure --no-tests=error --parallel 2 --timeout 600
 	@$(BUILD)/bin/wire_test --table
 
-bench: build
+bench:
+	$(call build,tarn_bench,packages.txt packages-test.txt)
 	@$(BUILD)/bin/tarn_bench
 
-build: configure
-	@scripts/build $(BUILD)
-
-configure: packages
-	@scripts/configure $(BUILD) $(CMAKE_FLAGS)
-
-packages:
-	@scripts/install-packages
+build:
+	$(call build,all,packages.txt packages-test.txt)
 
 format:
 	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
