@@ -43,11 +43,6 @@ Reply& Reply::boolean(bool value) {
     return *this;
 }
 
-Reply& Reply::f32(float value) {
-    mParcel.writeFloat(value);
-    return *this;
-}
-
 Reply& Reply::s16(const std::string& text) {
     mParcel.writeString16(String16(text.c_str()));
     return *this;

@@ -27,7 +27,6 @@ class Reply {
 
     Reply& i32(int32_t value);
     Reply& boolean(bool value);
-    Reply& f32(float value);
     Reply& s16(const std::string& text);
 
     Bytes bytes() const;

@@ -2,7 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "modules/AudioCtrl.h"
-#include "tests/support/LogWatchingManager.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/RecordingManager.h"
 
 using android::Parcel;
 using android::sp;
@@ -11,8 +12,8 @@ using namespace tarn::test;
 
 namespace {
 
-/** Keeps the event that was posted last. */
-class AudioManager : public LogWatchingManager {
+/** Keeps the event that was posted last, and how far the log was then. */
+class AudioManager : public RecordingManager {
   public:
     int postEvent(int what, Parcel& data) override {
         linesBefore = log.lines().size();
@@ -21,6 +22,8 @@ class AudioManager : public LogWatchingManager {
         return 17;
     }
 
+    LogCapture log;
+    size_t linesBefore = 0;
     int event = 0;
     const Parcel* eventData = nullptr;
 };

@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <tarn/TarnLog.h>
 
@@ -7,13 +8,12 @@
 
 #include "modules/GpioCtrl.h"
 #include "tests/support/LogCapture.h"
-#include "tests/support/LogMatchers.h"
 #include "tests/support/RecordingManager.h"
 
 using android::sp;
 using android::TARN_BOOL;
-using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 using namespace tarn::test;
 
 namespace {
@@ -79,8 +79,13 @@ TEST_F(GpioCtrlWithoutAManager, WritesToStandardErrorAndNotToTheLog) {
 
 TEST_F(GpioCtrlWithoutAManager, WritesToTheLogInWriteGpioBitAlone) {
     EXPECT_EQ(errorsOf([&] { return pins->writeGpioBit(1, 1); }), "");
-    EXPECT_THAT(log.lines(), ElementsAre(Logged(TARN_LOG_ERROR, "Zunt@GpioCtrl", "writeGpioBit",
-                                                "mTarnMgr is null in writeGpioBit\n")));
+    ASSERT_THAT(log.lines(), SizeIs(1));
+    const LogLine line = log.lines().front();
+    EXPECT_EQ(line.priority, TARN_LOG_ERROR);
+    EXPECT_EQ(line.tag, "Zunt@GpioCtrl");
+    EXPECT_EQ(line.function, "writeGpioBit");
+    EXPECT_GT(line.line, 0);
+    EXPECT_EQ(line.message, "mTarnMgr is null in writeGpioBit\n");
 }
 
 }  // namespace
