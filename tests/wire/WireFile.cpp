@@ -65,6 +65,7 @@ class WireReader {
     void readTag(const std::string& text) {
         const Json::Value tag = parse(text);
         mTagGiven = true;
+        mTag.reset();
         if (!tag.isNull()) mTag = tag.asString();
     }
 
