@@ -4,17 +4,20 @@ namespace tarn::protocol {
 
 namespace {
 
-std::vector<Command> readRows() {
-    std::vector<Command> rows;
+constexpr std::array<Command, kRowCount> readRows() {
+    std::array<Command, kRowCount> rows{};
+    size_t next = 0;
     const char* controller = nullptr;
 #define CONTROLLER(name) controller = #name;
 #define COMMAND(name, code, request, reply) \
-    rows.push_back(Command{controller, #name, code, request, reply});
+    rows[next++] = Command{controller, #name, code, request, reply};
 #include "protocol/All.def"
 #undef COMMAND
 #undef CONTROLLER
     return rows;
 }
+
+constexpr std::array<Command, kRowCount> kRows = readRows();
 
 std::vector<std::string> readControllers() {
     return {
@@ -28,9 +31,12 @@ std::vector<std::string> readControllers() {
 
 }  // namespace
 
-const std::vector<Command>& commands() {
-    static const std::vector<Command> rows = readRows();
-    return rows;
+const std::array<Command, kRowCount>& commands() {
+    return kRows;
+}
+
+const Command& commandOf(Row row) {
+    return kRows[static_cast<size_t>(row)];
 }
 
 const Command* findCommand(const std::string& name) {

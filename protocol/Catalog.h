@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -20,8 +22,25 @@ struct Command {
     Layout replyLayout() const { return parseLayout(reply); }
 };
 
+/** Every row by its name. It is the way to say which of two rows that share a code is meant. */
+enum class Row : uint16_t {
+#define CONTROLLER(name)
+#define COMMAND(name, code, request, reply) name,
+#include "protocol/All.def"
+#undef COMMAND
+};
+
+constexpr size_t kRowCount = 0
+#define COMMAND(name, code, request, reply) +1
+#include "protocol/All.def"
+#undef COMMAND
+#undef CONTROLLER
+        ;
+
 /** All rows, in the order of the manager's accessors and of their files. */
-const std::vector<Command>& commands();
+const std::array<Command, kRowCount>& commands();
+
+const Command& commandOf(Row row);
 
 /** The row of that name, or null. */
 const Command* findCommand(const std::string& name);
