@@ -4,10 +4,8 @@
 #include <cstdio>
 #include <string>
 
-#include "protocol/Catalog.h"
 #include "registry/Registry.h"
 
-using tarn::protocol::Command;
 using tarnctl::Controller;
 using tarnctl::Method;
 
@@ -22,22 +20,13 @@ std::string signature(const Method& method) {
     return text + ")";
 }
 
-/** Of two rows that share a code by design, the one whose request fits the method. */
-const Command* rowOf(const Method& method) {
-    const auto rows = tarn::protocol::findCommands(method.code);
-    for (const Command* row : rows) {
-        if (row->requestLayout().empty() == method.arguments.empty()) return row;
-    }
-    return rows.empty() ? nullptr : rows.front();
-}
-
 std::string layout(const char* text) {
     return *text == '\0' ? "" : "`" + std::string(text) + "`";
 }
 
 void printMethod(const Method& method) {
     printf("| `%s` | %s |", signature(method).c_str(), method.result.c_str());
-    const Command* row = method.code != tarnctl::kNoCommand ? rowOf(method) : nullptr;
+    const tarn::protocol::Command* row = method.row;
     if (row == nullptr) {
         printf(" | sends no command | | |\n");
         return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstring>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -11,6 +12,11 @@
 #include "registry/Results.h"
 
 namespace tarnctl {
+
+using ::tarn::protocol::Row;
+
+/** The row of a method that sends no command. */
+constexpr std::nullopt_t kNoCommand = std::nullopt;
 
 /** The slot of a virtual method: C++ member pointers of the ABIs in use hold its table offset. */
 template <typename MemberFunction>
@@ -32,7 +38,7 @@ constexpr auto overload(Signature Interface::*method) {
  * from the types:
  *
  *     Builder<IAudioCtrl>(registry, "audio", "AudioCtrl", &ITarnManager::getAudioCtrl)
- *             .method("setVolume", CMD_AUDIO_SET_VOLUME, &IAudioCtrl::setVolume, "volume");
+ *             .method("setVolume", Row::CMD_AUDIO_SET_VOLUME, &IAudioCtrl::setVolume, "volume");
  */
 template <typename Interface>
 class Builder {
@@ -48,10 +54,10 @@ class Builder {
 
     /** A method whose parameters are all values. argumentNames: separated by ", ". */
     template <typename Result, typename... Parameters>
-    Builder& method(const char* name, int32_t code, Result (Interface::*function)(Parameters...),
-                    const char* argumentNames = "") {
+    Builder& method(const char* name, std::optional<Row> row,
+                    Result (Interface::*function)(Parameters...), const char* argumentNames = "") {
         return add(
-                name, code, slotOf(function), argumentNames,
+                name, row, slotOf(function), argumentNames,
                 std::function<Result(Interface&, Parameters...)>(
                         [function](Interface& controller, Parameters... arguments) -> Result {
                             return (controller.*function)(std::forward<Parameters>(arguments)...);
@@ -64,9 +70,9 @@ class Builder {
      * call; function names the slot.
      */
     template <typename Function, typename Adapter>
-    Builder& adapted(const char* name, int32_t code, Function function, Adapter adapter,
+    Builder& adapted(const char* name, std::optional<Row> row, Function function, Adapter adapter,
                      const char* argumentNames = "") {
-        return add(name, code, slotOf(function), argumentNames, std::function(adapter));
+        return add(name, row, slotOf(function), argumentNames, std::function(adapter));
     }
 
     /** Of the method just added: its "data" is for whoever knows the command's layout to decode. */
@@ -77,11 +83,11 @@ class Builder {
 
   private:
     template <typename Result, typename... Parameters>
-    Builder& add(const char* name, int32_t code, size_t slot, const char* argumentNames,
+    Builder& add(const char* name, std::optional<Row> row, size_t slot, const char* argumentNames,
                  std::function<Result(Interface&, Parameters...)> function) {
         Method method;
         method.name = name;
-        method.code = code;
+        if (row) method.row = &::tarn::protocol::commandOf(*row);
         method.slot = slot;
         method.arguments = describeArguments<Parameters...>(argumentNames);
         method.result = ResultWriter<std::decay_t<Result>>::kType;

@@ -4,11 +4,12 @@
 #include <tarn/ITarnManager.h>
 
 #include <cstddef>
-#include <cstdint>
 #include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
+
+#include "protocol/Catalog.h"
 
 namespace tarnctl {
 
@@ -24,14 +25,11 @@ struct Argument {
     std::string type;  // for people: "int", "bool", "text", ...
 };
 
-/** The code of a method that sends no command. */
-constexpr int32_t kNoCommand = 0;
-
 /** A controller's method, callable by name with texts. */
 struct Method {
     std::string name;
-    int32_t code;  // of the command that it sends, or kNoCommand
-    size_t slot;   // in the interface's virtual table
+    const ::tarn::protocol::Command* row = nullptr;  // what it sends, or null
+    size_t slot;                                     // in the interface's virtual table
     std::vector<Argument> arguments;
     std::string result;      // type of the result, for people
     bool undecoded = false;  // the result's "data" is the bytes of the reply behind its status

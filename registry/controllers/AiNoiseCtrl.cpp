@@ -1,6 +1,5 @@
 #include <tarn/IAiNoiseCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,8 +8,9 @@ namespace tarnctl {
 
 void registerAiNoiseCtrl(std::vector<Controller>* registry) {
     Builder<IAiNoiseCtrl>(registry, "aiNoise", "AiNoiseCtrl", &ITarnManager::getAiNoiseCtrl)
-            .method("setAiNoise", CMD_AI_NOISE_SET_AI_NOISE, &IAiNoiseCtrl::setAiNoise, "level")
-            .method("getAiNoise", CMD_AI_NOISE_GET_AI_NOISE, &IAiNoiseCtrl::getAiNoise);
+            .method("setAiNoise", Row::CMD_AI_NOISE_SET_AI_NOISE, &IAiNoiseCtrl::setAiNoise,
+                    "level")
+            .method("getAiNoise", Row::CMD_AI_NOISE_GET_AI_NOISE, &IAiNoiseCtrl::getAiNoise);
 }
 
 }  // namespace tarnctl

@@ -1,6 +1,5 @@
 #include <tarn/IAnionCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,7 +8,8 @@ namespace tarnctl {
 
 void registerAnionCtrl(std::vector<Controller>* registry) {
     Builder<IAnionCtrl>(registry, "anion", "AnionCtrl", &ITarnManager::getAnionCtrl)
-            .method("setAnionStatus", CMD_ANION_SET_STATUS, &IAnionCtrl::setAnionStatus, "status");
+            .method("setAnionStatus", Row::CMD_ANION_SET_STATUS, &IAnionCtrl::setAnionStatus,
+                    "status");
 }
 
 }  // namespace tarnctl

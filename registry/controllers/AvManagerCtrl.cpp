@@ -1,6 +1,5 @@
 #include <tarn/IAvManagerCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -47,131 +46,141 @@ struct ResultWriter<AvSignalFormat> {
 // was a result.
 void registerAvManagerCtrl(std::vector<Controller>* registry) {
     Builder<IAvManagerCtrl>(registry, "avManager", "AvManagerCtrl", &ITarnManager::getAvManagerCtrl)
-            .method("init", CMD_AV_INIT, &IAvManagerCtrl::init)
-            .method("release", CMD_AV_RELEASE, &IAvManagerCtrl::release)
+            .method("init", Row::CMD_AV_INIT, &IAvManagerCtrl::init)
+            .method("release", Row::CMD_AV_RELEASE, &IAvManagerCtrl::release)
             .adapted(
-                    "send_metadata_process", CMD_AV_SEND_METADATA,
+                    "send_metadata_process", Row::CMD_AV_SEND_METADATA,
                     &IAvManagerCtrl::send_metadata_process,
                     [](IAvManagerCtrl& av, _EunmAvCtrlHdmiout_ header, std::vector<uint8_t> data) {
                         return av.send_metadata_process(&header, data.data(),
                                                         static_cast<int>(data.size()));
                     },
                     "header, data")
-            .method("setDspVolume", CMD_AV_SET_DSP_VOLUME, &IAvManagerCtrl::setDspVolume,
+            .method("setDspVolume", Row::CMD_AV_SET_DSP_VOLUME, &IAvManagerCtrl::setDspVolume,
                     "channel, volume")
-            .method("getDspVolume", CMD_AV_GET_DSP_VOLUME, &IAvManagerCtrl::getDspVolume, "channel")
-            .method("setDspMute", CMD_AV_SET_DSP_MUTE, &IAvManagerCtrl::setDspMute, "channel, mute")
-            .method("getDspMute", CMD_AV_GET_DSP_MUTE, &IAvManagerCtrl::getDspMute, "channel")
-            .method("setDspAmpMute", CMD_AV_SET_DSP_AMP_MUTE, &IAvManagerCtrl::setDspAmpMute,
-                    "mute")
-            .method("getDspAmpMute", CMD_AV_GET_DSP_AMP_MUTE, &IAvManagerCtrl::getDspAmpMute)
-            .method("setDspBalance", CMD_AV_SET_DSP_BALANCE, &IAvManagerCtrl::setDspBalance,
-                    "balance")
-            .method("getDspBalance", CMD_AV_GET_DSP_BALANCE, &IAvManagerCtrl::getDspBalance)
-            .method("getDspPerStat", CMD_AV_GET_DSP_PER_STAT, &IAvManagerCtrl::getDspPerStat,
+            .method("getDspVolume", Row::CMD_AV_GET_DSP_VOLUME, &IAvManagerCtrl::getDspVolume,
                     "channel")
-            .method("setDspSoundMode", CMD_AV_SET_DSP_SOUND_MODE, &IAvManagerCtrl::setDspSoundMode,
-                    "mode")
-            .method("getDspSoundMode", CMD_AV_GET_DSP_SOUND_MODE, &IAvManagerCtrl::getDspSoundMode)
-            .method("setDspTreble", CMD_AV_SET_DSP_TREBLE, &IAvManagerCtrl::setDspTreble, "treble")
-            .method("getDspTreble", CMD_AV_GET_DSP_TREBLE, &IAvManagerCtrl::getDspTreble)
-            .method("setDspBass", CMD_AV_SET_DSP_BASS, &IAvManagerCtrl::setDspBass, "bass")
-            .method("getDspBass", CMD_AV_GET_DSP_BASS, &IAvManagerCtrl::getDspBass)
-            .method("init_codecBoard", CMD_AV_INIT_CODEC_BOARD, &IAvManagerCtrl::init_codecBoard,
-                    "first, second")
-            .method("deinit_codecBoard", CMD_AV_DEINIT_CODEC_BOARD,
+            .method("setDspMute", Row::CMD_AV_SET_DSP_MUTE, &IAvManagerCtrl::setDspMute,
+                    "channel, mute")
+            .method("getDspMute", Row::CMD_AV_GET_DSP_MUTE, &IAvManagerCtrl::getDspMute, "channel")
+            .method("setDspAmpMute", Row::CMD_AV_SET_DSP_AMP_MUTE, &IAvManagerCtrl::setDspAmpMute,
+                    "mute")
+            .method("getDspAmpMute", Row::CMD_AV_GET_DSP_AMP_MUTE, &IAvManagerCtrl::getDspAmpMute)
+            .method("setDspBalance", Row::CMD_AV_SET_DSP_BALANCE, &IAvManagerCtrl::setDspBalance,
+                    "balance")
+            .method("getDspBalance", Row::CMD_AV_GET_DSP_BALANCE, &IAvManagerCtrl::getDspBalance)
+            .method("getDspPerStat", Row::CMD_AV_GET_DSP_PER_STAT, &IAvManagerCtrl::getDspPerStat,
+                    "channel")
+            .method("setDspSoundMode", Row::CMD_AV_SET_DSP_SOUND_MODE,
+                    &IAvManagerCtrl::setDspSoundMode, "mode")
+            .method("getDspSoundMode", Row::CMD_AV_GET_DSP_SOUND_MODE,
+                    &IAvManagerCtrl::getDspSoundMode)
+            .method("setDspTreble", Row::CMD_AV_SET_DSP_TREBLE, &IAvManagerCtrl::setDspTreble,
+                    "treble")
+            .method("getDspTreble", Row::CMD_AV_GET_DSP_TREBLE, &IAvManagerCtrl::getDspTreble)
+            .method("setDspBass", Row::CMD_AV_SET_DSP_BASS, &IAvManagerCtrl::setDspBass, "bass")
+            .method("getDspBass", Row::CMD_AV_GET_DSP_BASS, &IAvManagerCtrl::getDspBass)
+            .method("init_codecBoard", Row::CMD_AV_INIT_CODEC_BOARD,
+                    &IAvManagerCtrl::init_codecBoard, "first, second")
+            .method("deinit_codecBoard", Row::CMD_AV_DEINIT_CODEC_BOARD,
                     &IAvManagerCtrl::deinit_codecBoard)
-            .method("connect_codecBoard", CMD_AV_CONNECT_CODEC_BOARD,
+            .method("connect_codecBoard", Row::CMD_AV_CONNECT_CODEC_BOARD,
                     &IAvManagerCtrl::connect_codecBoard)
-            .method("disconnect_codecBoard", CMD_AV_DISCONNECT_CODEC_BOARD,
+            .method("disconnect_codecBoard", Row::CMD_AV_DISCONNECT_CODEC_BOARD,
                     &IAvManagerCtrl::disconnect_codecBoard)
-            .method("setOutputDevice", CMD_AV_SET_OUTPUT_DEVICE, &IAvManagerCtrl::setOutputDevice,
-                    "device")
-            .method("getOutputDevice", CMD_AV_GET_OUTPUT_DEVICE, &IAvManagerCtrl::getOutputDevice)
-            .method("setPowerDown", CMD_AV_SET_POWER_DOWN, &IAvManagerCtrl::setPowerDown)
-            .method("setDspUsbEnable", CMD_AV_SET_DSP_USB_ENABLE, &IAvManagerCtrl::setDspUsbEnable,
-                    "on")
-            .method("getDspUsbEnable", CMD_AV_GET_DSP_USB_ENABLE, &IAvManagerCtrl::getDspUsbEnable)
-            .method("setSpkOutPutMode", CMD_AV_SET_SPK_OUTPUT_MODE,
+            .method("setOutputDevice", Row::CMD_AV_SET_OUTPUT_DEVICE,
+                    &IAvManagerCtrl::setOutputDevice, "device")
+            .method("getOutputDevice", Row::CMD_AV_GET_OUTPUT_DEVICE,
+                    &IAvManagerCtrl::getOutputDevice)
+            .method("setPowerDown", Row::CMD_AV_SET_POWER_DOWN, &IAvManagerCtrl::setPowerDown)
+            .method("setDspUsbEnable", Row::CMD_AV_SET_DSP_USB_ENABLE,
+                    &IAvManagerCtrl::setDspUsbEnable, "on")
+            .method("getDspUsbEnable", Row::CMD_AV_GET_DSP_USB_ENABLE,
+                    &IAvManagerCtrl::getDspUsbEnable)
+            .method("setSpkOutPutMode", Row::CMD_AV_SET_SPK_OUTPUT_MODE,
                     &IAvManagerCtrl::setSpkOutPutMode, "mode")
-            .method("getSpkOutPutMode", CMD_AV_GET_SPK_OUTPUT_MODE,
+            .method("getSpkOutPutMode", Row::CMD_AV_GET_SPK_OUTPUT_MODE,
                     &IAvManagerCtrl::getSpkOutPutMode)
-            .method("setMicAlgorithm", CMD_AV_SET_MIC_ALGORITHM,
+            .method("setMicAlgorithm", Row::CMD_AV_SET_MIC_ALGORITHM,
                     overload<bool(int)>(&IAvManagerCtrl::setMicAlgorithm), "algorithm")
-            .method("getMicAlgorithm", CMD_AV_GET_MIC_ALGORITHM,
+            .method("getMicAlgorithm", Row::CMD_AV_GET_MIC_ALGORITHM,
                     overload<int()>(&IAvManagerCtrl::getMicAlgorithm))
-            .method("setMicAlgorithm", CMD_AV_SET_MIC_ALGORITHM_STATE,
+            .method("setMicAlgorithm", Row::CMD_AV_SET_MIC_ALGORITHM_STATE,
                     overload<bool(int, bool)>(&IAvManagerCtrl::setMicAlgorithm), "algorithm, on")
-            .method("getMicAlgorithm", CMD_AV_GET_MIC_ALGORITHM_STATE,
+            .method("getMicAlgorithm", Row::CMD_AV_GET_MIC_ALGORITHM_STATE,
                     overload<bool(int)>(&IAvManagerCtrl::getMicAlgorithm), "algorithm")
-            .method("setMicAlgorithmParameters", CMD_AV_SET_MIC_ALGORITHM_PARAMETERS,
+            .method("setMicAlgorithmParameters", Row::CMD_AV_SET_MIC_ALGORITHM_PARAMETERS,
                     &IAvManagerCtrl::setMicAlgorithmParameters, "algorithm, value")
-            .method("getMicAlgorithmParameters", CMD_AV_GET_MIC_ALGORITHM_PARAMETERS,
+            .method("getMicAlgorithmParameters", Row::CMD_AV_GET_MIC_ALGORITHM_PARAMETERS,
                     &IAvManagerCtrl::getMicAlgorithmParameters, "algorithm")
-            .method("setMicMute", CMD_AV_SET_MIC_MUTE, &IAvManagerCtrl::setMicMute, "mute")
-            .method("getMicMute", CMD_AV_GET_MIC_MUTE, &IAvManagerCtrl::getMicMute)
-            .method("setMicVolume", CMD_AV_SET_MIC_VOLUME, &IAvManagerCtrl::setMicVolume, "volume")
-            .method("getMicVolume", CMD_AV_GET_MIC_VOLUME, &IAvManagerCtrl::getMicVolume)
-            .method("isMicAvailable", CMD_AV_IS_MIC_AVAILABLE, &IAvManagerCtrl::isMicAvailable)
-            .method("enableMic", CMD_AV_ENABLE_MIC, &IAvManagerCtrl::enableMic, "on")
-            .method("isMicEnabled", CMD_AV_IS_MIC_ENABLED, &IAvManagerCtrl::isMicEnabled)
-            .method("getSN", CMD_AV_GET_SN, &IAvManagerCtrl::getSN)
-            .method("setCameraZoomIn", CMD_AV_CAMERA_ZOOM_IN, &IAvManagerCtrl::setCameraZoomIn)
-            .method("setCameraZoomOut", CMD_AV_CAMERA_ZOOM_OUT, &IAvManagerCtrl::setCameraZoomOut)
-            .method("setCameraMoveUp", CMD_AV_CAMERA_MOVE_UP, &IAvManagerCtrl::setCameraMoveUp)
-            .method("setCameraMoveDown", CMD_AV_CAMERA_MOVE_DOWN,
+            .method("setMicMute", Row::CMD_AV_SET_MIC_MUTE, &IAvManagerCtrl::setMicMute, "mute")
+            .method("getMicMute", Row::CMD_AV_GET_MIC_MUTE, &IAvManagerCtrl::getMicMute)
+            .method("setMicVolume", Row::CMD_AV_SET_MIC_VOLUME, &IAvManagerCtrl::setMicVolume,
+                    "volume")
+            .method("getMicVolume", Row::CMD_AV_GET_MIC_VOLUME, &IAvManagerCtrl::getMicVolume)
+            .method("isMicAvailable", Row::CMD_AV_IS_MIC_AVAILABLE, &IAvManagerCtrl::isMicAvailable)
+            .method("enableMic", Row::CMD_AV_ENABLE_MIC, &IAvManagerCtrl::enableMic, "on")
+            .method("isMicEnabled", Row::CMD_AV_IS_MIC_ENABLED, &IAvManagerCtrl::isMicEnabled)
+            .method("getSN", Row::CMD_AV_GET_SN, &IAvManagerCtrl::getSN)
+            .method("setCameraZoomIn", Row::CMD_AV_CAMERA_ZOOM_IN, &IAvManagerCtrl::setCameraZoomIn)
+            .method("setCameraZoomOut", Row::CMD_AV_CAMERA_ZOOM_OUT,
+                    &IAvManagerCtrl::setCameraZoomOut)
+            .method("setCameraMoveUp", Row::CMD_AV_CAMERA_MOVE_UP, &IAvManagerCtrl::setCameraMoveUp)
+            .method("setCameraMoveDown", Row::CMD_AV_CAMERA_MOVE_DOWN,
                     &IAvManagerCtrl::setCameraMoveDown)
-            .method("setCameraMoveLeft", CMD_AV_CAMERA_MOVE_LEFT,
+            .method("setCameraMoveLeft", Row::CMD_AV_CAMERA_MOVE_LEFT,
                     &IAvManagerCtrl::setCameraMoveLeft)
-            .method("setCameraMoveRight", CMD_AV_CAMERA_MOVE_RIGHT,
+            .method("setCameraMoveRight", Row::CMD_AV_CAMERA_MOVE_RIGHT,
                     &IAvManagerCtrl::setCameraMoveRight)
-            .method("setCameraAutoFramingMode", CMD_AV_SET_CAMERA_AUTO_FRAMING_MODE,
+            .method("setCameraAutoFramingMode", Row::CMD_AV_SET_CAMERA_AUTO_FRAMING_MODE,
                     &IAvManagerCtrl::setCameraAutoFramingMode, "on")
-            .method("setCameraPresetPosition", CMD_AV_SET_CAMERA_PRESET_POSITION,
+            .method("setCameraPresetPosition", Row::CMD_AV_SET_CAMERA_PRESET_POSITION,
                     &IAvManagerCtrl::setCameraPresetPosition, "preset")
-            .method("getCameraPresetPosition", CMD_AV_GET_CAMERA_PRESET_POSITION,
+            .method("getCameraPresetPosition", Row::CMD_AV_GET_CAMERA_PRESET_POSITION,
                     &IAvManagerCtrl::getCameraPresetPosition)
-            .method("gotoCameraPresetPosition", CMD_AV_GOTO_CAMERA_PRESET_POSITION,
+            .method("gotoCameraPresetPosition", Row::CMD_AV_GOTO_CAMERA_PRESET_POSITION,
                     &IAvManagerCtrl::gotoCameraPresetPosition, "preset")
-            .method("delCameraPresetPosition", CMD_AV_DEL_CAMERA_PRESET_POSITION,
+            .method("delCameraPresetPosition", Row::CMD_AV_DEL_CAMERA_PRESET_POSITION,
                     &IAvManagerCtrl::delCameraPresetPosition, "preset")
-            .method("getCameraAutoFramingMode", CMD_AV_GET_CAMERA_AUTO_FRAMING_MODE,
+            .method("getCameraAutoFramingMode", Row::CMD_AV_GET_CAMERA_AUTO_FRAMING_MODE,
                     &IAvManagerCtrl::getCameraAutoFramingMode)
-            .method("getCameraSpeakerTrackingMode", CMD_AV_GET_CAMERA_SPEAKER_TRACKING_MODE,
+            .method("getCameraSpeakerTrackingMode", Row::CMD_AV_GET_CAMERA_SPEAKER_TRACKING_MODE,
                     &IAvManagerCtrl::getCameraSpeakerTrackingMode)
-            .method("setCameraSpeakerTrackingMode", CMD_AV_SET_CAMERA_SPEAKER_TRACKING_MODE,
+            .method("setCameraSpeakerTrackingMode", Row::CMD_AV_SET_CAMERA_SPEAKER_TRACKING_MODE,
                     &IAvManagerCtrl::setCameraSpeakerTrackingMode, "on")
-            .method("setMoveCam", CMD_AV_SET_MOVE_CAM, &IAvManagerCtrl::setMoveCam, "on")
-            .method("getMoveCam", CMD_AV_GET_MOVE_CAM, &IAvManagerCtrl::getMoveCam)
-            .method("transferDoaData", CMD_AV_TRANSFER_DOA_DATA, &IAvManagerCtrl::transferDoaData,
-                    "data")
-            .method("setCameraPtzMode", CMD_AV_SET_CAMERA_PTZ_MODE,
+            .method("setMoveCam", Row::CMD_AV_SET_MOVE_CAM, &IAvManagerCtrl::setMoveCam, "on")
+            .method("getMoveCam", Row::CMD_AV_GET_MOVE_CAM, &IAvManagerCtrl::getMoveCam)
+            .method("transferDoaData", Row::CMD_AV_TRANSFER_DOA_DATA,
+                    &IAvManagerCtrl::transferDoaData, "data")
+            .method("setCameraPtzMode", Row::CMD_AV_SET_CAMERA_PTZ_MODE,
                     &IAvManagerCtrl::setCameraPtzMode, "mode")
-            .method("getCameraPtzMode", CMD_AV_GET_CAMERA_PTZ_MODE,
+            .method("getCameraPtzMode", Row::CMD_AV_GET_CAMERA_PTZ_MODE,
                     &IAvManagerCtrl::getCameraPtzMode)
-            .adapted("getDspTestResult", CMD_AV_GET_DSP_TEST_RESULT,
+            .adapted("getDspTestResult", Row::CMD_AV_GET_DSP_TEST_RESULT,
                      &IAvManagerCtrl::getDspTestResult,
                      [](IAvManagerCtrl& av) { return av.getDspTestResult() != nullptr; })
-            .method("setCameraStatusUpdate", CMD_AV_SET_CAMERA_STATUS_UPDATE,
+            .method("setCameraStatusUpdate", Row::CMD_AV_SET_CAMERA_STATUS_UPDATE,
                     &IAvManagerCtrl::setCameraStatusUpdate, "on")
-            .method("getDspOtaModule", CMD_AV_GET_DSP_OTA_MODULE, &IAvManagerCtrl::getDspOtaModule)
-            .method("get_av_signal_format", CMD_AV_GET_SIGNAL_FORMAT,
+            .method("getDspOtaModule", Row::CMD_AV_GET_DSP_OTA_MODULE,
+                    &IAvManagerCtrl::getDspOtaModule)
+            .method("get_av_signal_format", Row::CMD_AV_GET_SIGNAL_FORMAT,
                     &IAvManagerCtrl::get_av_signal_format)
-            .method("setCameraZoomReset", CMD_AV_CAMERA_ZOOM_RESET,
+            .method("setCameraZoomReset", Row::CMD_AV_CAMERA_ZOOM_RESET,
                     &IAvManagerCtrl::setCameraZoomReset)
-            .method("setCameraPipMode", CMD_AV_SET_CAMERA_PIP_MODE,
+            .method("setCameraPipMode", Row::CMD_AV_SET_CAMERA_PIP_MODE,
                     &IAvManagerCtrl::setCameraPipMode, "mode")
-            .method("getCameraPipMode", CMD_AV_GET_CAMERA_PIP_MODE,
+            .method("getCameraPipMode", Row::CMD_AV_GET_CAMERA_PIP_MODE,
                     &IAvManagerCtrl::getCameraPipMode)
-            .method("setCameraAisrStatus", CMD_AV_SET_CAMERA_AISR_STATUS,
+            .method("setCameraAisrStatus", Row::CMD_AV_SET_CAMERA_AISR_STATUS,
                     &IAvManagerCtrl::setCameraAisrStatus, "status")
-            .method("getCameraAisrStatus", CMD_AV_GET_CAMERA_AISR_STATUS,
+            .method("getCameraAisrStatus", Row::CMD_AV_GET_CAMERA_AISR_STATUS,
                     &IAvManagerCtrl::getCameraAisrStatus)
-            .method("setCameraHdr", CMD_AV_SET_CAMERA_HDR, &IAvManagerCtrl::setCameraHdr, "mode")
-            .method("getCameraHdr", CMD_AV_GET_CAMERA_HDR, &IAvManagerCtrl::getCameraHdr)
-            .method("setCameraDeFogMode", CMD_AV_SET_CAMERA_DE_FOG_MODE,
+            .method("setCameraHdr", Row::CMD_AV_SET_CAMERA_HDR, &IAvManagerCtrl::setCameraHdr,
+                    "mode")
+            .method("getCameraHdr", Row::CMD_AV_GET_CAMERA_HDR, &IAvManagerCtrl::getCameraHdr)
+            .method("setCameraDeFogMode", Row::CMD_AV_SET_CAMERA_DE_FOG_MODE,
                     &IAvManagerCtrl::setCameraDeFogMode, "mode")
-            .method("getCameraDeFogMode", CMD_AV_GET_CAMERA_DE_FOG_MODE,
+            .method("getCameraDeFogMode", Row::CMD_AV_GET_CAMERA_DE_FOG_MODE,
                     &IAvManagerCtrl::getCameraDeFogMode);
 }
 

@@ -1,6 +1,5 @@
 #include <tarn/IBitmotionCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,20 +8,20 @@ namespace tarnctl {
 
 void registerBitmotionCtrl(std::vector<Controller>* registry) {
     Builder<IBitmotionCtrl>(registry, "bitmotion", "BitmotionCtrl", &ITarnManager::getBitmotionCtrl)
-            .method("setBrightness", CMD_BITMOTION_SET_BRIGHTNESS, &IBitmotionCtrl::setBrightness,
-                    "brightness")
-            .method("setDevicePortEnabled", CMD_BITMOTION_SET_DEVICE_PORT_ENABLED,
+            .method("setBrightness", Row::CMD_BITMOTION_SET_BRIGHTNESS,
+                    &IBitmotionCtrl::setBrightness, "brightness")
+            .method("setDevicePortEnabled", Row::CMD_BITMOTION_SET_DEVICE_PORT_ENABLED,
                     &IBitmotionCtrl::setDevicePortEnabled, "port, enabled")
-            .method("setWan1Address", CMD_BITMOTION_SET_WAN1_ADDRESS,
+            .method("setWan1Address", Row::CMD_BITMOTION_SET_WAN1_ADDRESS,
                     &IBitmotionCtrl::setWan1Address, "address")
-            .method("setWan2Address", CMD_BITMOTION_SET_WAN2_ADDRESS,
+            .method("setWan2Address", Row::CMD_BITMOTION_SET_WAN2_ADDRESS,
                     &IBitmotionCtrl::setWan2Address, "address")
-            .method("updateFirmware", CMD_BITMOTION_UPDATE_FIRMWARE,
+            .method("updateFirmware", Row::CMD_BITMOTION_UPDATE_FIRMWARE,
                     &IBitmotionCtrl::updateFirmware, "path")
-            .method("setupWorkMode", CMD_BITMOTION_SETUP_WORK_MODE, &IBitmotionCtrl::setupWorkMode,
-                    "mode")
-            .method("erase", CMD_BITMOTION_ERASE, &IBitmotionCtrl::erase, "what")
-            .method("getVersion", CMD_BITMOTION_GET_VERSION, &IBitmotionCtrl::getVersion);
+            .method("setupWorkMode", Row::CMD_BITMOTION_SETUP_WORK_MODE,
+                    &IBitmotionCtrl::setupWorkMode, "mode")
+            .method("erase", Row::CMD_BITMOTION_ERASE, &IBitmotionCtrl::erase, "what")
+            .method("getVersion", Row::CMD_BITMOTION_GET_VERSION, &IBitmotionCtrl::getVersion);
 }
 
 }  // namespace tarnctl

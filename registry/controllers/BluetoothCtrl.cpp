@@ -1,6 +1,5 @@
 #include <tarn/IBluetoothCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,9 +8,9 @@ namespace tarnctl {
 
 void registerBluetoothCtrl(std::vector<Controller>* registry) {
     Builder<IBluetoothCtrl>(registry, "bluetooth", "BluetoothCtrl", &ITarnManager::getBluetoothCtrl)
-            .method("isBleWakeup", CMD_BLUETOOTH_IS_BLE_WAKEUP, &IBluetoothCtrl::isBleWakeup)
-            .method("setBleWakeup", CMD_BLUETOOTH_SET_BLE_WAKEUP, &IBluetoothCtrl::setBleWakeup,
-                    "on");
+            .method("isBleWakeup", Row::CMD_BLUETOOTH_IS_BLE_WAKEUP, &IBluetoothCtrl::isBleWakeup)
+            .method("setBleWakeup", Row::CMD_BLUETOOTH_SET_BLE_WAKEUP,
+                    &IBluetoothCtrl::setBleWakeup, "on");
 }
 
 }  // namespace tarnctl

@@ -1,6 +1,5 @@
 #include <tarn/IBurnKeyCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -22,18 +21,18 @@ struct ResultWriter<EntitySwKey> {
 
 void registerBurnKeyCtrl(std::vector<Controller>* registry) {
     Builder<IBurnKeyCtrl>(registry, "burnKey", "BurnKeyCtrl", &ITarnManager::getBurnKeyCtrl)
-            .adapted("getSupportBurnKeyList", CMD_BURN_KEY_GET_SUPPORT_LIST,
+            .adapted("getSupportBurnKeyList", Row::CMD_BURN_KEY_GET_SUPPORT_LIST,
                      &IBurnKeyCtrl::getSupportBurnKeyList,
                      [](IBurnKeyCtrl& burnKey) {
                          std::vector<EntitySwKey> list;
                          const bool ok = burnKey.getSupportBurnKeyList(&list);
                          return fields({{"result", ok}, {"list", toJson(list)}});
                      })
-            .method("setBurnKey", CMD_BURN_KEY_SET_KEY, &IBurnKeyCtrl::setBurnKey, "type, key")
-            .method("setCleanBurnKey", CMD_BURN_KEY_CLEAN_KEY, &IBurnKeyCtrl::setCleanBurnKey,
+            .method("setBurnKey", Row::CMD_BURN_KEY_SET_KEY, &IBurnKeyCtrl::setBurnKey, "type, key")
+            .method("setCleanBurnKey", Row::CMD_BURN_KEY_CLEAN_KEY, &IBurnKeyCtrl::setCleanBurnKey,
                     "type")
-            .method("getBurnKey", CMD_BURN_KEY_GET_KEY, &IBurnKeyCtrl::getBurnKey, "type")
-            .method("getBurnKeyVersion", CMD_BURN_KEY_GET_KEY_VERSION,
+            .method("getBurnKey", Row::CMD_BURN_KEY_GET_KEY, &IBurnKeyCtrl::getBurnKey, "type")
+            .method("getBurnKeyVersion", Row::CMD_BURN_KEY_GET_KEY_VERSION,
                     &IBurnKeyCtrl::getBurnKeyVersion, "type");
 }
 

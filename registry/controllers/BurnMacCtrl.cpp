@@ -1,6 +1,5 @@
 #include <tarn/IBurnMacCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -23,24 +22,24 @@ void registerBurnMacCtrl(std::vector<Controller>* registry) {
     constexpr auto setBytes =
             overload<bool(_EnumBurnMacType, unsigned char*, int)>(&IBurnMacCtrl::setBurnMac);
     Builder<IBurnMacCtrl>(registry, "burnMac", "BurnMacCtrl", &ITarnManager::getBurnMacCtrl)
-            .adapted("getSupportBurnMacList", CMD_BURN_MAC_GET_SUPPORT_LIST,
+            .adapted("getSupportBurnMacList", Row::CMD_BURN_MAC_GET_SUPPORT_LIST,
                      &IBurnMacCtrl::getSupportBurnMacList,
                      [](IBurnMacCtrl& burnMac) {
                          std::vector<EntitySwMac> list;
                          const bool ok = burnMac.getSupportBurnMacList(&list);
                          return fields({{"result", ok}, {"list", toJson(list)}});
                      })
-            .method("setBurnMac", CMD_BURN_MAC_SET_MAC_TEXT,
+            .method("setBurnMac", Row::CMD_BURN_MAC_SET_MAC_TEXT,
                     overload<bool(_EnumBurnMacType, String16)>(&IBurnMacCtrl::setBurnMac),
                     "type, mac")
             .adapted(
-                    "setBurnMacBytes", CMD_BURN_MAC_SET_MAC_BYTES, setBytes,
+                    "setBurnMacBytes", Row::CMD_BURN_MAC_SET_MAC_BYTES, setBytes,
                     [](IBurnMacCtrl& burnMac, _EnumBurnMacType type, std::vector<uint8_t> mac) {
                         mac.reserve(1);  // so that no bytes are not a null array
                         return burnMac.setBurnMac(type, mac.data(), static_cast<int>(mac.size()));
                     },
                     "type, mac")
-            .method("getBurnMac", CMD_BURN_MAC_GET_MAC, &IBurnMacCtrl::getBurnMac, "type");
+            .method("getBurnMac", Row::CMD_BURN_MAC_GET_MAC, &IBurnMacCtrl::getBurnMac, "type");
 }
 
 }  // namespace tarnctl

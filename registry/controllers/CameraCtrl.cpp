@@ -1,6 +1,5 @@
 #include <tarn/ICameraCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -36,13 +35,13 @@ struct ResultWriter<EntityFwCamera> {
 
 void registerCameraCtrl(std::vector<Controller>* registry) {
     Builder<ICameraCtrl>(registry, "camera", "CameraCtrl", &ITarnManager::getCameraCtrl)
-            .method("getCameraEnable", CMD_CAMERA_GET_ENABLE, &ICameraCtrl::getCameraEnable)
-            .method("setCameraEnable", CMD_CAMERA_SET_ENABLE, &ICameraCtrl::setCameraEnable,
+            .method("getCameraEnable", Row::CMD_CAMERA_GET_ENABLE, &ICameraCtrl::getCameraEnable)
+            .method("setCameraEnable", Row::CMD_CAMERA_SET_ENABLE, &ICameraCtrl::setCameraEnable,
                     "enabled")
-            .method("getCameraDeviceName", CMD_CAMERA_GET_DEVICENAME,
+            .method("getCameraDeviceName", Row::CMD_CAMERA_GET_DEVICENAME,
                     &ICameraCtrl::getCameraDeviceName, "camera")
             .adapted(
-                    "getCameraDeviceInfo", CMD_CAMERA_GET_DEVICE_INFO,
+                    "getCameraDeviceInfo", Row::CMD_CAMERA_GET_DEVICE_INFO,
                     &ICameraCtrl::getCameraDeviceInfo,
                     [](ICameraCtrl& cameras, int camera) {
                         TarnCameraInfo info;
@@ -50,20 +49,20 @@ void registerCameraCtrl(std::vector<Controller>* registry) {
                         return fields({{"result", ok}, {"info", toJson(info)}});
                     },
                     "camera")
-            .method("isCameraEnabled", CMD_CAMERA_IS_ENABLED, &ICameraCtrl::isCameraEnabled,
+            .method("isCameraEnabled", Row::CMD_CAMERA_IS_ENABLED, &ICameraCtrl::isCameraEnabled,
                     "fwCameraType")
-            .method("setCameraEnabled", CMD_CAMERA_SET_ENABLED, &ICameraCtrl::setCameraEnabled,
+            .method("setCameraEnabled", Row::CMD_CAMERA_SET_ENABLED, &ICameraCtrl::setCameraEnabled,
                     "fwCameraType, enabled")
-            .adapted("getFwCameraList", CMD_CAMERA_GET_FW_LIST, &ICameraCtrl::getFwCameraList,
+            .adapted("getFwCameraList", Row::CMD_CAMERA_GET_FW_LIST, &ICameraCtrl::getFwCameraList,
                      [](ICameraCtrl& cameras) {
                          std::vector<EntityFwCamera> list;
                          const bool ok = cameras.getFwCameraList(&list);
                          return fields({{"result", ok}, {"list", toJson(list)}});
                      })
-            .method("setCameraIdDeviceMap", CMD_CAMERA_SET_ID_DEVICE_MAP,
+            .method("setCameraIdDeviceMap", Row::CMD_CAMERA_SET_ID_DEVICE_MAP,
                     &ICameraCtrl::setCameraIdDeviceMap, "id, device")
-            .method("getCameraDeviceSn", CMD_CAMERA_GET_DEVICESN, &ICameraCtrl::getCameraDeviceSn,
-                    "camera");
+            .method("getCameraDeviceSn", Row::CMD_CAMERA_GET_DEVICESN,
+                    &ICameraCtrl::getCameraDeviceSn, "camera");
 }
 
 }  // namespace tarnctl

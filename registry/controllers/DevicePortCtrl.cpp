@@ -1,6 +1,5 @@
 #include <tarn/IDevicePortCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -10,11 +9,11 @@ namespace tarnctl {
 void registerDevicePortCtrl(std::vector<Controller>* registry) {
     Builder<IDevicePortCtrl>(registry, "devicePort", "DevicePortCtrl",
                              &ITarnManager::getDevicePortCtrl)
-            .method("setDevicePortEnabled", CMD_DEVICE_PORT_SET_ENABLED,
+            .method("setDevicePortEnabled", Row::CMD_DEVICE_PORT_SET_ENABLED,
                     &IDevicePortCtrl::setDevicePortEnabled, "port, enabled")
-            .method("getDevicePortEnabled", CMD_DEVICE_PORT_GET_ENABLED,
+            .method("getDevicePortEnabled", Row::CMD_DEVICE_PORT_GET_ENABLED,
                     &IDevicePortCtrl::getDevicePortEnabled, "port")
-            .adapted("getDevicePortList", CMD_DEVICE_PORT_GET_LIST,
+            .adapted("getDevicePortList", Row::CMD_DEVICE_PORT_GET_LIST,
                      &IDevicePortCtrl::getDevicePortList, [](IDevicePortCtrl& ports) {
                          std::vector<String16> names;
                          const int result = ports.getDevicePortList(names);

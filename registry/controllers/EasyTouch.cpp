@@ -1,6 +1,5 @@
 #include <tarn/IEasyTouch.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,7 +8,7 @@ namespace tarnctl {
 
 void registerEasyTouch(std::vector<Controller>* registry) {
     Builder<IEasyTouch>(registry, "easyTouch", "EasyTouch", &ITarnManager::getEasyTouch)
-            .method("getEasyTouchLogInfo", CMD_EASY_TOUCH_GET_LOG_INFO,
+            .method("getEasyTouchLogInfo", Row::CMD_EASY_TOUCH_GET_LOG_INFO,
                     &IEasyTouch::getEasyTouchLogInfo);
 }
 

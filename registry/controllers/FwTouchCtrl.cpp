@@ -1,6 +1,5 @@
 #include <tarn/IFwTouchCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -58,20 +57,20 @@ struct ResultWriter<TouchFwDataList> {
 
 void registerFwTouchCtrl(std::vector<Controller>* registry) {
     Builder<IFwTouchCtrl>(registry, "fwTouch", "FwTouchCtrl", &ITarnManager::getFwTouchCtrl)
-            .adapted("getFwTouchList", CMD_FW_TOUCH_GET_LIST, &IFwTouchCtrl::getFwTouchList,
+            .adapted("getFwTouchList", Row::CMD_FW_TOUCH_GET_LIST, &IFwTouchCtrl::getFwTouchList,
                      [](IFwTouchCtrl& fwTouch) {
                          std::vector<EntityFwTouch> list;
                          const bool ok = fwTouch.getFwTouchList(&list);
                          return fields({{"result", ok}, {"list", toJson(list)}});
                      })
-            .adapted("getFwTouchDriverInfoList", CMD_FW_TOUCH_GET_DRIVER_LIST,
+            .adapted("getFwTouchDriverInfoList", Row::CMD_FW_TOUCH_GET_DRIVER_LIST,
                      &IFwTouchCtrl::getFwTouchDriverInfoList,
                      [](IFwTouchCtrl& fwTouch) {
                          std::vector<EntityFwTouchDriver> list;
                          const bool ok = fwTouch.getFwTouchDriverInfoList(&list);
                          return fields({{"result", ok}, {"list", toJson(list)}});
                      })
-            .adapted("getTouchFwDataList", CMD_FW_TOUCH_GET_DATA_LIST,
+            .adapted("getTouchFwDataList", Row::CMD_FW_TOUCH_GET_DATA_LIST,
                      &IFwTouchCtrl::getTouchFwDataList, [](IFwTouchCtrl& fwTouch) {
                          std::vector<TouchFwDataList> list;
                          const bool ok = fwTouch.getTouchFwDataList(&list);

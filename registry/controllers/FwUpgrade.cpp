@@ -1,6 +1,5 @@
 #include <tarn/IFwUpgrade.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -26,23 +25,23 @@ struct ResultWriter<EntityFwInfoMcu> {
 
 void registerFwUpgrade(std::vector<Controller>* registry) {
     Builder<IFwUpgrade>(registry, "fwUpgrade", "FwUpgrade", &ITarnManager::getFwUpgrade)
-            .method("setFirmwareUpgrade", CMD_FW_SET_UPGRADE, &IFwUpgrade::setFirmwareUpgrade,
+            .method("setFirmwareUpgrade", Row::CMD_FW_SET_UPGRADE, &IFwUpgrade::setFirmwareUpgrade,
                     "type, path")
-            .method("getMcuBinNameToUp", CMD_FW_GET_MCU_BIN_NAME_TO_UP,
+            .method("getMcuBinNameToUp", Row::CMD_FW_GET_MCU_BIN_NAME_TO_UP,
                     &IFwUpgrade::getMcuBinNameToUp, "type")
-            .method("getFwVersion", CMD_FW_GET_VERSION, &IFwUpgrade::getFwVersion, "type")
-            .method("getFwOtakey", CMD_FW_GET_OTAKEY, &IFwUpgrade::getFwOtakey, "type")
-            .method("getFwInfoTypecList", CMD_FW_GET_INFO_TYPEC_LIST,
+            .method("getFwVersion", Row::CMD_FW_GET_VERSION, &IFwUpgrade::getFwVersion, "type")
+            .method("getFwOtakey", Row::CMD_FW_GET_OTAKEY, &IFwUpgrade::getFwOtakey, "type")
+            .method("getFwInfoTypecList", Row::CMD_FW_GET_INFO_TYPEC_LIST,
                     &IFwUpgrade::getFwInfoTypecList)
-            .adapted("getFwMcuList", CMD_FW_GET_MCU_LIST, &IFwUpgrade::getFwMcuList,
+            .adapted("getFwMcuList", Row::CMD_FW_GET_MCU_LIST, &IFwUpgrade::getFwMcuList,
                      [](IFwUpgrade& fwUpgrade) {
                          std::vector<EntityFwInfoMcu> list;
                          const bool ok = fwUpgrade.getFwMcuList(list);
                          return fields({{"result", ok}, {"list", toJson(list)}});
                      })
-            .method("getFwTargetVersion", CMD_FW_GET_TARGET_VERSION,
+            .method("getFwTargetVersion", Row::CMD_FW_GET_TARGET_VERSION,
                     &IFwUpgrade::getFwTargetVersion, "type")
-            .method("getFwTargetBinPath", CMD_FW_GET_TARGET_BIN_PATH,
+            .method("getFwTargetBinPath", Row::CMD_FW_GET_TARGET_BIN_PATH,
                     &IFwUpgrade::getFwTargetBinPath, "type");
 }
 

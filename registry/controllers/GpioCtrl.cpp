@@ -1,6 +1,5 @@
 #include <tarn/IGpioCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,20 +8,22 @@ namespace tarnctl {
 
 void registerGpioCtrl(std::vector<Controller>* registry) {
     Builder<IGpioCtrl>(registry, "gpio", "GpioCtrl", &ITarnManager::getGpioCtrl)
-            .method("setGpioDirInput", CMD_GPIO_SET_DIR_INPUT, &IGpioCtrl::setGpioDirInput, "gpio")
-            .method("setGpioDirOutput", CMD_GPIO_SET_DIR_OUTPUT, &IGpioCtrl::setGpioDirOutput,
+            .method("setGpioDirInput", Row::CMD_GPIO_SET_DIR_INPUT, &IGpioCtrl::setGpioDirInput,
+                    "gpio")
+            .method("setGpioDirOutput", Row::CMD_GPIO_SET_DIR_OUTPUT, &IGpioCtrl::setGpioDirOutput,
                     "gpio")
             .adapted(
-                    "getGpioDirBit", CMD_GPIO_GET_DIR_BIT, &IGpioCtrl::getGpioDirBit,
+                    "getGpioDirBit", Row::CMD_GPIO_GET_DIR_BIT, &IGpioCtrl::getGpioDirBit,
                     [](IGpioCtrl& pins, unsigned int gpio) {
                         TARN_BOOL dir = 0;
                         const int result = pins.getGpioDirBit(gpio, &dir);
                         return fields({{"result", result}, {"dir", dir}});
                     },
                     "gpio")
-            .method("writeGpioBit", CMD_GPIO_WRITE_BIT, &IGpioCtrl::writeGpioBit, "gpio, value")
+            .method("writeGpioBit", Row::CMD_GPIO_WRITE_BIT, &IGpioCtrl::writeGpioBit,
+                    "gpio, value")
             .adapted(
-                    "readGpioBit", CMD_GPIO_READ_BIT, &IGpioCtrl::readGpioBit,
+                    "readGpioBit", Row::CMD_GPIO_READ_BIT, &IGpioCtrl::readGpioBit,
                     [](IGpioCtrl& pins, unsigned int gpio) {
                         TARN_BOOL value = 0;
                         const int result = pins.readGpioBit(gpio, &value);
@@ -30,7 +31,7 @@ void registerGpioCtrl(std::vector<Controller>* registry) {
                     },
                     "gpio")
             .adapted(
-                    "readGpioOutBit", CMD_GPIO_READ_OUT_BIT, &IGpioCtrl::readGpioOutBit,
+                    "readGpioOutBit", Row::CMD_GPIO_READ_OUT_BIT, &IGpioCtrl::readGpioOutBit,
                     [](IGpioCtrl& pins, unsigned int gpio) {
                         TARN_BOOL value = 0;
                         const int result = pins.readGpioOutBit(gpio, &value);

@@ -1,6 +1,5 @@
 #include <tarn/IIoBoxCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -28,9 +27,9 @@ struct ResultWriter<EntityFwIoBox> {
 
 void registerIoBoxCtrl(std::vector<Controller>* registry) {
     Builder<IIoBoxCtrl>(registry, "ioBox", "IoBoxCtrl", &ITarnManager::getIoBoxCtrl)
-            .method("getConnectStatus", CMD_IOBOX_GET_CONNECT_STATUS, &IIoBoxCtrl::getConnectStatus,
-                    "box")
-            .adapted("getFwIoBoxList", CMD_IOBOX_GET_FW_LIST, &IIoBoxCtrl::getFwIoBoxList,
+            .method("getConnectStatus", Row::CMD_IOBOX_GET_CONNECT_STATUS,
+                    &IIoBoxCtrl::getConnectStatus, "box")
+            .adapted("getFwIoBoxList", Row::CMD_IOBOX_GET_FW_LIST, &IIoBoxCtrl::getFwIoBoxList,
                      [](IIoBoxCtrl& ioBox) {
                          std::vector<EntityFwIoBox> list;
                          const bool ok = ioBox.getFwIoBoxList(&list);

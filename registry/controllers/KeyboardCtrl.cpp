@@ -1,6 +1,5 @@
 #include <tarn/IKeyboardCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,9 +8,9 @@ namespace tarnctl {
 
 void registerKeyboardCtrl(std::vector<Controller>* registry) {
     Builder<IKeyboardCtrl>(registry, "keyboard", "KeyboardCtrl", &ITarnManager::getKeyboardCtrl)
-            .method("getKeyboardByName", CMD_KEYBOARD_GET_BY_NAME,
+            .method("getKeyboardByName", Row::CMD_KEYBOARD_GET_BY_NAME,
                     &IKeyboardCtrl::getKeyboardByName, "name")
-            .method("getKeyboardByID", CMD_KEYBOARD_GET_BY_ID, &IKeyboardCtrl::getKeyboardByID,
+            .method("getKeyboardByID", Row::CMD_KEYBOARD_GET_BY_ID, &IKeyboardCtrl::getKeyboardByID,
                     "id0, id1");
 }
 

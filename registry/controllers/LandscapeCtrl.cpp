@@ -1,6 +1,5 @@
 #include <tarn/ILandscapeCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,9 +8,9 @@ namespace tarnctl {
 
 void registerLandscapeCtrl(std::vector<Controller>* registry) {
     Builder<ILandscapeCtrl>(registry, "landscape", "LandscapeCtrl", &ITarnManager::getLandscapeCtrl)
-            .method("setLandscapeAppList", CMD_LANDSCAPE_SET_APP_LIST,
+            .method("setLandscapeAppList", Row::CMD_LANDSCAPE_SET_APP_LIST,
                     &ILandscapeCtrl::setLandscapeAppList, "apps")
-            .method("getLandscapeAppList", CMD_LANDSCAPE_GET_APP_LIST,
+            .method("getLandscapeAppList", Row::CMD_LANDSCAPE_GET_APP_LIST,
                     &ILandscapeCtrl::getLandscapeAppList);
 }
 

@@ -1,6 +1,5 @@
 #include <tarn/ILightEffectCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -10,7 +9,7 @@ namespace tarnctl {
 void registerLightEffectCtrl(std::vector<Controller>* registry) {
     Builder<ILightEffectCtrl>(registry, "lightEffect", "LightEffectCtrl",
                               &ITarnManager::getLightEffectCtrl)
-            .method("setLightEffectMode", CMD_LIGHT_EFFECT_SET_MODE,
+            .method("setLightEffectMode", Row::CMD_LIGHT_EFFECT_SET_MODE,
                     &ILightEffectCtrl::setLightEffectMode, "device, mode");
 }
 

@@ -1,6 +1,5 @@
 #include <tarn/IMicrophoneCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -28,16 +27,16 @@ struct ResultWriter<EntityMicrophone> {
 void registerMicrophoneCtrl(std::vector<Controller>* registry) {
     Builder<IMicrophoneCtrl>(registry, "microphone", "MicrophoneCtrl",
                              &ITarnManager::getMicrophoneCtrl)
-            .adapted("getFwMicrophoneList", CMD_MICROPHONE_GET_FW_MICROPHONE_LIST,
+            .adapted("getFwMicrophoneList", Row::CMD_MICROPHONE_GET_FW_MICROPHONE_LIST,
                      &IMicrophoneCtrl::getFwMicrophoneList,
                      [](IMicrophoneCtrl& microphone) {
                          std::vector<EntityMicrophone> list;
                          const int result = microphone.getFwMicrophoneList(&list);
                          return fields({{"result", toJson(result)}, {"list", toJson(list)}});
                      })
-            .method("isBuildInMicEnabled", CMD_MICROPHONE_IS_BUILD_IN_MIC_ENABLED,
+            .method("isBuildInMicEnabled", Row::CMD_MICROPHONE_IS_BUILD_IN_MIC_ENABLED,
                     &IMicrophoneCtrl::isBuildInMicEnabled, "microphone")
-            .method("setBuildInMicEnabled", CMD_MICROPHONE_SET_BUILD_IN_MIC_ENABLED,
+            .method("setBuildInMicEnabled", Row::CMD_MICROPHONE_SET_BUILD_IN_MIC_ENABLED,
                     &IMicrophoneCtrl::setBuildInMicEnabled, "microphone, enabled");
 }
 

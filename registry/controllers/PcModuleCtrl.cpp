@@ -1,6 +1,5 @@
 #include <tarn/IPcModuleCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,21 +8,24 @@ namespace tarnctl {
 
 void registerPcModuleCtrl(std::vector<Controller>* registry) {
     Builder<IPcModuleCtrl>(registry, "pcModule", "PcModuleCtrl", &ITarnManager::getPcModuleCtrl)
-            .method("getPcState", CMD_PC_MODULE_GET_STATE, &IPcModuleCtrl::getPcState)
-            .method("setPcSwitchOn", CMD_PC_MODULE_SET_SWITCH_ON, &IPcModuleCtrl::setPcSwitchOn)
-            .method("setPcSwitchOff", CMD_PC_MODULE_SET_SWITCH_OFF, &IPcModuleCtrl::setPcSwitchOff)
-            .method("setPcRecovery", CMD_PC_MODULE_SET_RECOVERY, &IPcModuleCtrl::setPcRecovery)
+            .method("getPcState", Row::CMD_PC_MODULE_GET_STATE, &IPcModuleCtrl::getPcState)
+            .method("setPcSwitchOn", Row::CMD_PC_MODULE_SET_SWITCH_ON,
+                    &IPcModuleCtrl::setPcSwitchOn)
+            .method("setPcSwitchOff", Row::CMD_PC_MODULE_SET_SWITCH_OFF,
+                    &IPcModuleCtrl::setPcSwitchOff)
+            .method("setPcRecovery", Row::CMD_PC_MODULE_SET_RECOVERY, &IPcModuleCtrl::setPcRecovery)
             .adapted(
                     "sendSerialData", kNoCommand, &IPcModuleCtrl::sendSerialData,
                     [](IPcModuleCtrl& pcModule, std::vector<uint8_t> data) {
                         return pcModule.sendSerialData(data.data(), static_cast<int>(data.size()));
                     },
                     "data")
-            .method("getSupportPcBootModeList", CMD_PC_MODULE_GET_SUPPORTED_BOOT_MODES,
+            .method("getSupportPcBootModeList", Row::CMD_PC_MODULE_GET_SUPPORTED_BOOT_MODES,
                     &IPcModuleCtrl::getSupportPcBootModeList)
-            .method("setPcBootMode", CMD_PC_MODULE_SET_BOOT_MODE, &IPcModuleCtrl::setPcBootMode,
-                    "mode")
-            .method("getPcBootMode", CMD_PC_MODULE_GET_BOOT_MODE, &IPcModuleCtrl::getPcBootMode);
+            .method("setPcBootMode", Row::CMD_PC_MODULE_SET_BOOT_MODE,
+                    &IPcModuleCtrl::setPcBootMode, "mode")
+            .method("getPcBootMode", Row::CMD_PC_MODULE_GET_BOOT_MODE,
+                    &IPcModuleCtrl::getPcBootMode);
 }
 
 }  // namespace tarnctl

@@ -1,6 +1,5 @@
 #include <tarn/IPmsCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,11 +8,11 @@ namespace tarnctl {
 
 void registerPmsCtrl(std::vector<Controller>* registry) {
     Builder<IPmsCtrl>(registry, "pms", "PmsCtrl", &ITarnManager::getPmsCtrl)
-            .method("getWakeupSrc", CMD_PMS_GET_WAKEUP_SRC, &IPmsCtrl::getWakeupSrc)
-            .method("getWakeupSrcFromUboot", CMD_PMS_GET_WAKEUP_SRC_FROM_UBOOT,
+            .method("getWakeupSrc", Row::CMD_PMS_GET_WAKEUP_SRC, &IPmsCtrl::getWakeupSrc)
+            .method("getWakeupSrcFromUboot", Row::CMD_PMS_GET_WAKEUP_SRC_FROM_UBOOT,
                     &IPmsCtrl::getWakeupSrcFromUboot)
-            .method("readAssetData", CMD_PMS_READ_ASSET_DATA, &IPmsCtrl::readAssetData, "a, b")
-            .method("setPmsWakeupSources", CMD_PMS_SET_WAKEUP_SOURCES,
+            .method("readAssetData", Row::CMD_PMS_READ_ASSET_DATA, &IPmsCtrl::readAssetData, "a, b")
+            .method("setPmsWakeupSources", Row::CMD_PMS_SET_WAKEUP_SOURCES,
                     &IPmsCtrl::setPmsWakeupSources, "sources");
 }
 

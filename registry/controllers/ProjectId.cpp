@@ -1,6 +1,5 @@
 #include <tarn/IProjectId.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 #include "registry/Parcels.h"
 
@@ -23,62 +22,64 @@ auto filled(int (IProjectId::*method)(Parcel*)) {
 
 void registerProjectId(std::vector<Controller>* registry) {
     Builder<IProjectId>(registry, "projectId", "ProjectId", &ITarnManager::getProjectId)
-            .method("setProjectIdByIndex", CMD_PROJECT_ID_SET_BY_INDEX,
+            .method("setProjectIdByIndex", Row::CMD_PROJECT_ID_SET_BY_INDEX,
                     &IProjectId::setProjectIdByIndex, "index")
-            .method("getProjectIdIndex", CMD_PROJECT_ID_GET_INDEX, &IProjectId::getProjectIdIndex)
-            .method("getProjectIdBacklightMax", CMD_PROJECT_ID_GET_BACKLIGHT_MAX,
+            .method("getProjectIdIndex", Row::CMD_PROJECT_ID_GET_INDEX,
+                    &IProjectId::getProjectIdIndex)
+            .method("getProjectIdBacklightMax", Row::CMD_PROJECT_ID_GET_BACKLIGHT_MAX,
                     &IProjectId::getProjectIdBacklightMax)
-            .method("getProjectIdBacklightMin", CMD_PROJECT_ID_GET_BACKLIGHT_MIN,
+            .method("getProjectIdBacklightMin", Row::CMD_PROJECT_ID_GET_BACKLIGHT_MIN,
                     &IProjectId::getProjectIdBacklightMin)
-            .adapted("getProjectIdPqBcshCfgs", CMD_PROJECT_ID_GET_PQ_BCSH_CFGS,
+            .adapted("getProjectIdPqBcshCfgs", Row::CMD_PROJECT_ID_GET_PQ_BCSH_CFGS,
                      &IProjectId::getProjectIdPqBcshCfgs,
                      filled(&IProjectId::getProjectIdPqBcshCfgs))
             .undecoded()
-            .adapted("getProjectIdPqWBCfgs", CMD_PROJECT_ID_GET_PQ_WB_CFGS,
+            .adapted("getProjectIdPqWBCfgs", Row::CMD_PROJECT_ID_GET_PQ_WB_CFGS,
                      &IProjectId::getProjectIdPqWBCfgs, filled(&IProjectId::getProjectIdPqWBCfgs))
             .undecoded()
-            .adapted("getProjectIdPqSPGCfgs", CMD_PROJECT_ID_GET_PQ_SPG_CFGS,
+            .adapted("getProjectIdPqSPGCfgs", Row::CMD_PROJECT_ID_GET_PQ_SPG_CFGS,
                      &IProjectId::getProjectIdPqSPGCfgs, filled(&IProjectId::getProjectIdPqSPGCfgs))
             .undecoded()
-            .method("getProjectIdIniPraserDone", CMD_PROJECT_ID_GET_INI_PARSER_DONE,
+            .method("getProjectIdIniPraserDone", Row::CMD_PROJECT_ID_GET_INI_PARSER_DONE,
                     &IProjectId::getProjectIdIniPraserDone)
-            .adapted("getProjectIdDbcCfgs", CMD_PROJECT_ID_GET_DBC_CFGS,
+            .adapted("getProjectIdDbcCfgs", Row::CMD_PROJECT_ID_GET_DBC_CFGS,
                      &IProjectId::getProjectIdDbcCfgs, filled(&IProjectId::getProjectIdDbcCfgs))
             .undecoded()
-            .adapted("getProjectIdDcrCfgs", CMD_PROJECT_ID_GET_DCR_CFGS,
+            .adapted("getProjectIdDcrCfgs", Row::CMD_PROJECT_ID_GET_DCR_CFGS,
                      &IProjectId::getProjectIdDcrCfgs, filled(&IProjectId::getProjectIdDcrCfgs))
             .undecoded()
-            .adapted("getProjectIdLogoCfgs", CMD_PROJECT_ID_GET_LOGO_CFGS,
+            .adapted("getProjectIdLogoCfgs", Row::CMD_PROJECT_ID_GET_LOGO_CFGS,
                      &IProjectId::getProjectIdLogoCfgs, filled(&IProjectId::getProjectIdLogoCfgs))
             .undecoded()
-            .adapted("getProjectIdBootVideoCfgs", CMD_PROJECT_ID_GET_BOOT_VIDEO_CFGS,
+            .adapted("getProjectIdBootVideoCfgs", Row::CMD_PROJECT_ID_GET_BOOT_VIDEO_CFGS,
                      &IProjectId::getProjectIdBootVideoCfgs,
                      filled(&IProjectId::getProjectIdBootVideoCfgs))
             .undecoded()
-            .adapted("getProjectIdBootAnimationCfgs", CMD_PROJECT_ID_GET_BOOT_ANIMATION_CFGS,
+            .adapted("getProjectIdBootAnimationCfgs", Row::CMD_PROJECT_ID_GET_BOOT_ANIMATION_CFGS,
                      &IProjectId::getProjectIdBootAnimationCfgs,
                      filled(&IProjectId::getProjectIdBootAnimationCfgs))
             .undecoded()
-            .method("setProjectIdReplaceState", CMD_PROJECT_ID_SET_REPLACE_STATE,
+            .method("setProjectIdReplaceState", Row::CMD_PROJECT_ID_SET_REPLACE_STATE,
                     &IProjectId::setProjectIdReplaceState, "state")
-            .method("getProjectIdReplaceState", CMD_PROJECT_ID_GET_REPLACE_STATE,
+            .method("getProjectIdReplaceState", Row::CMD_PROJECT_ID_GET_REPLACE_STATE,
                     &IProjectId::getProjectIdReplaceState)
-            .method("CopyPidfileToBootvideo", CMD_PROJECT_ID_COPY_PIDFILE_TO_BOOTVIDEO,
+            .method("CopyPidfileToBootvideo", Row::CMD_PROJECT_ID_COPY_PIDFILE_TO_BOOTVIDEO,
                     &IProjectId::CopyPidfileToBootvideo)
-            .method("findUdiskLogoPath", CMD_PROJECT_ID_FIND_UDISK_LOGO_PATH,
+            .method("findUdiskLogoPath", Row::CMD_PROJECT_ID_FIND_UDISK_LOGO_PATH,
                     &IProjectId::findUdiskLogoPath)
-            .method("findUdiskAnimationPath", CMD_PROJECT_ID_FIND_UDISK_ANIMATION_PATH,
+            .method("findUdiskAnimationPath", Row::CMD_PROJECT_ID_FIND_UDISK_ANIMATION_PATH,
                     &IProjectId::findUdiskAnimationPath)
-            .method("findUdiskBootVideoPath", CMD_PROJECT_ID_FIND_UDISK_BOOOTVIDEO_PATH,
+            .method("findUdiskBootVideoPath", Row::CMD_PROJECT_ID_FIND_UDISK_BOOOTVIDEO_PATH,
                     &IProjectId::findUdiskBootVideoPath)
-            .method("presetApkBlackList", CMD_PROJECT_ID_REPLACE_APK_BLACK_LIST,
+            .method("presetApkBlackList", Row::CMD_PROJECT_ID_REPLACE_APK_BLACK_LIST,
                     &IProjectId::presetApkBlackList)
-            .method("presetEdidFile", CMD_PROJECT_ID_PRESET_EDID_FILE, &IProjectId::presetEdidFile)
-            .method("getEyePqFixedEnable", CMD_PROJECT_ID_GET_EYE_PQ_FIXED_ENABLE,
+            .method("presetEdidFile", Row::CMD_PROJECT_ID_PRESET_EDID_FILE,
+                    &IProjectId::presetEdidFile)
+            .method("getEyePqFixedEnable", Row::CMD_PROJECT_ID_GET_EYE_PQ_FIXED_ENABLE,
                     &IProjectId::getEyePqFixedEnable)
-            .method("getEyePqFixedValue", CMD_PROJECT_ID_GET_EYE_PQ_FIXED_VALUE,
+            .method("getEyePqFixedValue", Row::CMD_PROJECT_ID_GET_EYE_PQ_FIXED_VALUE,
                     &IProjectId::getEyePqFixedValue)
-            .method("getWifiCountryCode", CMD_PROJECT_ID_GET_WIFI_COUNTRY_CODE,
+            .method("getWifiCountryCode", Row::CMD_PROJECT_ID_GET_WIFI_COUNTRY_CODE,
                     &IProjectId::getWifiCountryCode);
 }
 

@@ -1,6 +1,5 @@
 #include <tarn/IPropertiesCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -18,14 +17,14 @@ void registerPropertiesCtrl(std::vector<Controller>* registry) {
     Builder<IPropertiesCtrl>(registry, "properties", "PropertiesCtrl",
                              &ITarnManager::getPropertiesCtrl)
             .adapted(
-                    "property_get", CMD_PROPERTIES_GET, &IPropertiesCtrl::property_get,
+                    "property_get", Row::CMD_PROPERTIES_GET, &IPropertiesCtrl::property_get,
                     [](IPropertiesCtrl& properties, const char* key, const char* defaultValue) {
                         char value[kValueSize] = "";
                         const int result = properties.property_get(key, value, defaultValue);
                         return fields({{"result", result}, {"value", value}});
                     },
                     "key, defaultValue")
-            .method("property_set", CMD_PROPERTIES_SET, &IPropertiesCtrl::property_set,
+            .method("property_set", Row::CMD_PROPERTIES_SET, &IPropertiesCtrl::property_set,
                     "key, value");
 }
 

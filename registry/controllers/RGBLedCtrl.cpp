@@ -1,6 +1,5 @@
 #include <tarn/IRGBLedCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,27 +8,28 @@ namespace tarnctl {
 
 void registerRGBLedCtrl(std::vector<Controller>* registry) {
     Builder<IRGBLedCtrl>(registry, "rgbLed", "RGBLedCtrl", &ITarnManager::getRGBLedCtrl)
-            .method("setPowerState", CMD_RGB_LED_SET_POWER_STATE, &IRGBLedCtrl::setPowerState,
+            .method("setPowerState", Row::CMD_RGB_LED_SET_POWER_STATE, &IRGBLedCtrl::setPowerState,
                     "state")
-            .method("setIRInputState", CMD_RGB_LED_SET_IR_INPUT_STATE,
+            .method("setIRInputState", Row::CMD_RGB_LED_SET_IR_INPUT_STATE,
                     &IRGBLedCtrl::setIRInputState)
-            .method("setBluetoothState", CMD_RGB_LED_SET_BLUETOOTH_STATE,
+            .method("setBluetoothState", Row::CMD_RGB_LED_SET_BLUETOOTH_STATE,
                     &IRGBLedCtrl::setBluetoothState, "state")
-            .method("setMicrophoneState", CMD_RGB_LED_SET_MICROPHONE_STATE,
+            .method("setMicrophoneState", Row::CMD_RGB_LED_SET_MICROPHONE_STATE,
                     &IRGBLedCtrl::setMicrophoneState, "state")
-            .method("setPowerLedEnableState", CMD_RGB_LED_SET_POWER_LED_ENABLE_STATE,
+            .method("setPowerLedEnableState", Row::CMD_RGB_LED_SET_POWER_LED_ENABLE_STATE,
                     &IRGBLedCtrl::setPowerLedEnableState, "state")
-            .method("setLedOtaState", CMD_RGB_LED_SET_LED_OTA_STATE, &IRGBLedCtrl::setLedOtaState,
-                    "state")
-            .method("setDiagnosisState", CMD_RGB_LED_SET_DIAGNOSIS_STATE,
+            .method("setLedOtaState", Row::CMD_RGB_LED_SET_LED_OTA_STATE,
+                    &IRGBLedCtrl::setLedOtaState, "state")
+            .method("setDiagnosisState", Row::CMD_RGB_LED_SET_DIAGNOSIS_STATE,
                     &IRGBLedCtrl::setDiagnosisState, "state")
-            .method("setPowerStandbyState", CMD_RGB_LED_SET_POWER_STANDBY_STATE,
+            .method("setPowerStandbyState", Row::CMD_RGB_LED_SET_POWER_STANDBY_STATE,
                     &IRGBLedCtrl::setPowerStandbyState, "state")
-            .method("setLedOn", CMD_RGB_LED_SET_LED_ON, &IRGBLedCtrl::setLedOn, "led")
-            .method("setLedOff", CMD_RGB_LED_SET_LED_OFF, &IRGBLedCtrl::setLedOff, "led")
-            .method("setVaLedState", CMD_RGB_LED_SET_VA_LED_STATE, &IRGBLedCtrl::setVaLedState,
+            .method("setLedOn", Row::CMD_RGB_LED_SET_LED_ON, &IRGBLedCtrl::setLedOn, "led")
+            .method("setLedOff", Row::CMD_RGB_LED_SET_LED_OFF, &IRGBLedCtrl::setLedOff, "led")
+            .method("setVaLedState", Row::CMD_RGB_LED_SET_VA_LED_STATE, &IRGBLedCtrl::setVaLedState,
                     "state")
-            .method("getVaLedState", CMD_RGB_LED_GET_VA_LED_STATE, &IRGBLedCtrl::getVaLedState);
+            .method("getVaLedState", Row::CMD_RGB_LED_GET_VA_LED_STATE,
+                    &IRGBLedCtrl::getVaLedState);
 }
 
 }  // namespace tarnctl

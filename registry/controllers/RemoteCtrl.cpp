@@ -1,6 +1,5 @@
 #include <tarn/IRemoteCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,10 +8,11 @@ namespace tarnctl {
 
 void registerRemoteCtrl(std::vector<Controller>* registry) {
     Builder<IRemoteCtrl>(registry, "remote", "RemoteCtrl", &ITarnManager::getRemoteCtrl)
-            .method("disableRemoteCtrl", CMD_REMOTE_DISABLE, &IRemoteCtrl::disableRemoteCtrl)
-            .method("enableRemoteCtrl", CMD_REMOTE_ENABLE, &IRemoteCtrl::enableRemoteCtrl)
-            .method("getParameter", CMD_REMOTE_GET_PARAMETER, &IRemoteCtrl::getParameter, "key")
-            .method("setParameter", CMD_REMOTE_SET_PARAMETER, &IRemoteCtrl::setParameter,
+            .method("disableRemoteCtrl", Row::CMD_REMOTE_DISABLE, &IRemoteCtrl::disableRemoteCtrl)
+            .method("enableRemoteCtrl", Row::CMD_REMOTE_ENABLE, &IRemoteCtrl::enableRemoteCtrl)
+            .method("getParameter", Row::CMD_REMOTE_GET_PARAMETER, &IRemoteCtrl::getParameter,
+                    "key")
+            .method("setParameter", Row::CMD_REMOTE_SET_PARAMETER, &IRemoteCtrl::setParameter,
                     "key, value");
 }
 

@@ -1,6 +1,5 @@
 #include <tarn/ISensorBoxCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -25,7 +24,7 @@ struct ResultWriter<EntitySensorBox> {
 
 void registerSensorBoxCtrl(std::vector<Controller>* registry) {
     Builder<ISensorBoxCtrl>(registry, "sensorBox", "SensorBoxCtrl", &ITarnManager::getSensorBoxCtrl)
-            .adapted("getFwSensorBoxList", CMD_SENSOR_BOX_GET_FW_LIST,
+            .adapted("getFwSensorBoxList", Row::CMD_SENSOR_BOX_GET_FW_LIST,
                      &ISensorBoxCtrl::getFwSensorBoxList, [](ISensorBoxCtrl& sensorBox) {
                          std::vector<EntitySensorBox> list;
                          const bool ok = sensorBox.getFwSensorBoxList(&list);

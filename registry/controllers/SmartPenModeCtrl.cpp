@@ -1,6 +1,5 @@
 #include <tarn/ISmartPenModeCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -10,11 +9,11 @@ namespace tarnctl {
 void registerSmartPenModeCtrl(std::vector<Controller>* registry) {
     Builder<ISmartPenModeCtrl>(registry, "smartPenMode", "SmartPenModeCtrl",
                                &ITarnManager::getSmartPenModeCtrl)
-            .method("getSupportSmartPenModeList", CMD_SMART_PEN_MODE_GET_SUPPORTED,
+            .method("getSupportSmartPenModeList", Row::CMD_SMART_PEN_MODE_GET_SUPPORTED,
                     &ISmartPenModeCtrl::getSupportSmartPenModeList)
-            .method("setSmartPenMode", CMD_SMART_PEN_MODE_SET_MODE,
+            .method("setSmartPenMode", Row::CMD_SMART_PEN_MODE_SET_MODE,
                     &ISmartPenModeCtrl::setSmartPenMode, "mode")
-            .method("getSmartPenMode", CMD_SMART_PEN_MODE_GET_MODE,
+            .method("getSmartPenMode", Row::CMD_SMART_PEN_MODE_GET_MODE,
                     &ISmartPenModeCtrl::getSmartPenMode);
 }
 

@@ -1,6 +1,5 @@
 #include <tarn/ISoundScreenAngleCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -18,9 +17,9 @@ struct ResultWriter<SoundScreenAngle> {
 void registerSoundScreenAngleCtrl(std::vector<Controller>* registry) {
     Builder<ISoundScreenAngleCtrl>(registry, "soundScreenAngle", "SoundScreenAngleCtrl",
                                    &ITarnManager::getSoundScreenAngleCtrl)
-            .method("setSoundScreenAngle", CMD_SOUND_SCREEN_ANGLE_SET_ANGLE,
+            .method("setSoundScreenAngle", Row::CMD_SOUND_SCREEN_ANGLE_SET_ANGLE,
                     &ISoundScreenAngleCtrl::setSoundScreenAngle, "first, second")
-            .method("getSoundScreenAngle", CMD_SOUND_SCREEN_ANGLE_GET_ANGLE,
+            .method("getSoundScreenAngle", Row::CMD_SOUND_SCREEN_ANGLE_GET_ANGLE,
                     &ISoundScreenAngleCtrl::getSoundScreenAngle);
 }
 

@@ -1,6 +1,5 @@
 #include <tarn/ISuspendCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,12 +8,13 @@ namespace tarnctl {
 
 void registerSuspendCtrl(std::vector<Controller>* registry) {
     Builder<ISuspendCtrl>(registry, "suspend", "SuspendCtrl", &ITarnManager::getSuspendCtrl)
-            .method("getSuspendStatus", CMD_SUSPEND_GET_STATUS, &ISuspendCtrl::getSuspendStatus)
-            .method("setSuspendStatus", CMD_SUSPEND_SET_STATUS, &ISuspendCtrl::setSuspendStatus,
-                    "on")
-            .method("getFakeStandyStatus", CMD_SUSPEND_GET_FAKE_STANDBY_STATUS,
+            .method("getSuspendStatus", Row::CMD_SUSPEND_GET_STATUS,
+                    &ISuspendCtrl::getSuspendStatus)
+            .method("setSuspendStatus", Row::CMD_SUSPEND_SET_STATUS,
+                    &ISuspendCtrl::setSuspendStatus, "on")
+            .method("getFakeStandyStatus", Row::CMD_SUSPEND_GET_FAKE_STANDBY_STATUS,
                     &ISuspendCtrl::getFakeStandyStatus)
-            .method("setFakeStandyStatus", CMD_SUSPEND_SET_FAKE_STANDBY_STATUS,
+            .method("setFakeStandyStatus", Row::CMD_SUSPEND_SET_FAKE_STANDBY_STATUS,
                     &ISuspendCtrl::setFakeStandyStatus, "on");
 }
 

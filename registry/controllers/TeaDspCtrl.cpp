@@ -1,6 +1,5 @@
 #include <tarn/ITeaDspCtrl.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,38 +8,39 @@ namespace tarnctl {
 
 void registerTeaDspCtrl(std::vector<Controller>* registry) {
     Builder<ITeaDspCtrl>(registry, "teaDsp", "TeaDspCtrl", &ITarnManager::getTeaDspCtrl)
-            .method("setTeaMicAlgorithm", CMD_TEADSP_SET_MIC_ALGORITHM,
+            .method("setTeaMicAlgorithm", Row::CMD_TEADSP_SET_MIC_ALGORITHM,
                     &ITeaDspCtrl::setTeaMicAlgorithm, "on")
-            .method("getTeaMicAlgorithm", CMD_TEADSP_GET_MIC_ALGORITHM,
+            .method("getTeaMicAlgorithm", Row::CMD_TEADSP_GET_MIC_ALGORITHM,
                     &ITeaDspCtrl::getTeaMicAlgorithm)
-            .method("getDeviceStatus", CMD_TEADSP_GET_DEVICE_STATUS, &ITeaDspCtrl::getDeviceStatus)
-            .method("GetDeviceInformation", CMD_TEADSP_GET_DEVICE_INFORMATION,
+            .method("getDeviceStatus", Row::CMD_TEADSP_GET_DEVICE_STATUS,
+                    &ITeaDspCtrl::getDeviceStatus)
+            .method("GetDeviceInformation", Row::CMD_TEADSP_GET_DEVICE_INFORMATION,
                     &ITeaDspCtrl::GetDeviceInformation)
-            .method("GetDeviceMute", CMD_TEADSP_GET_DEVICE_MUTE, &ITeaDspCtrl::GetDeviceMute,
+            .method("GetDeviceMute", Row::CMD_TEADSP_GET_DEVICE_MUTE, &ITeaDspCtrl::GetDeviceMute,
                     "device")
-            .method("SetDevicePoeSinkRouteMode", CMD_TEADSP_SET_POE_SINK_ROUTE_MODE,
+            .method("SetDevicePoeSinkRouteMode", Row::CMD_TEADSP_SET_POE_SINK_ROUTE_MODE,
                     &ITeaDspCtrl::SetDevicePoeSinkRouteMode, "mode")
-            .method("GetDevicePoeSinkRouteMode", CMD_TEADSP_GET_POE_SINK_ROUTE_MODE,
+            .method("GetDevicePoeSinkRouteMode", Row::CMD_TEADSP_GET_POE_SINK_ROUTE_MODE,
                     &ITeaDspCtrl::GetDevicePoeSinkRouteMode)
-            .method("DevicePortAttachStateUpdate", CMD_TEADSP_PORT_ATTACH_STATE_UPDATE,
+            .method("DevicePortAttachStateUpdate", Row::CMD_TEADSP_PORT_ATTACH_STATE_UPDATE,
                     &ITeaDspCtrl::DevicePortAttachStateUpdate,
                     "port, type, device, attached, extra")
-            .method("GetAllDeviceInformation", CMD_TEADSP_GET_ALL_DEVICE_INFORMATION,
+            .method("GetAllDeviceInformation", Row::CMD_TEADSP_GET_ALL_DEVICE_INFORMATION,
                     &ITeaDspCtrl::GetAllDeviceInformation)
-            .method("SetDeviceLineoutSinkRouteMode", CMD_TEADSP_SET_LINEOUT_SINK_ROUTE_MODE,
+            .method("SetDeviceLineoutSinkRouteMode", Row::CMD_TEADSP_SET_LINEOUT_SINK_ROUTE_MODE,
                     &ITeaDspCtrl::SetDeviceLineoutSinkRouteMode, "mode")
-            .method("GetDeviceLineoutSinkRouteMode", CMD_TEADSP_GET_LINEOUT_SINK_ROUTE_MODE,
+            .method("GetDeviceLineoutSinkRouteMode", Row::CMD_TEADSP_GET_LINEOUT_SINK_ROUTE_MODE,
                     &ITeaDspCtrl::GetDeviceLineoutSinkRouteMode)
-            .method("GetDevicePortAttachInformation", CMD_TEADSP_GET_PORT_ATTACH_INFORMATION,
+            .method("GetDevicePortAttachInformation", Row::CMD_TEADSP_GET_PORT_ATTACH_INFORMATION,
                     &ITeaDspCtrl::GetDevicePortAttachInformation)
-            .method("SetDeviceOffHook", CMD_TEADSP_SET_OFF_HOOK, &ITeaDspCtrl::SetDeviceOffHook,
-                    "state")
-            .method("SetDeviceMicrophoneOverallMute", CMD_TEADSP_SET_MICROPHONE_OVERALL_MUTE,
+            .method("SetDeviceOffHook", Row::CMD_TEADSP_SET_OFF_HOOK,
+                    &ITeaDspCtrl::SetDeviceOffHook, "state")
+            .method("SetDeviceMicrophoneOverallMute", Row::CMD_TEADSP_SET_MICROPHONE_OVERALL_MUTE,
                     &ITeaDspCtrl::SetDeviceMicrophoneOverallMute, "mute")
-            .method("GetDeviceMicrophoneOverallMute", CMD_TEADSP_GET_MICROPHONE_OVERALL_MUTE,
+            .method("GetDeviceMicrophoneOverallMute", Row::CMD_TEADSP_GET_MICROPHONE_OVERALL_MUTE,
                     &ITeaDspCtrl::GetDeviceMicrophoneOverallMute)
-            .method("SetDeviceRingCall", CMD_TEADSP_SET_RING_CALL, &ITeaDspCtrl::SetDeviceRingCall,
-                    "state");
+            .method("SetDeviceRingCall", Row::CMD_TEADSP_SET_RING_CALL,
+                    &ITeaDspCtrl::SetDeviceRingCall, "state");
 }
 
 }  // namespace tarnctl

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -22,22 +21,23 @@ int countOf(const std::vector<int>& values) {
 
 void registerTxbCtrl(std::vector<Controller>* registry) {
     Builder<ITxbCtrl>(registry, "txb", "TxbCtrl", &ITarnManager::getTxbCtrl)
-            .method("sendTxbKeycode", CMD_TXB_SEND_KEYCODE, &ITxbCtrl::sendTxbKeycode, "key")
-            .method("sendTxbMaterial", CMD_TXB_SEND_MATERIAL, &ITxbCtrl::sendTxbMaterial,
+            .method("sendTxbKeycode", Row::CMD_TXB_SEND_KEYCODE, &ITxbCtrl::sendTxbKeycode, "key")
+            .method("sendTxbMaterial", Row::CMD_TXB_SEND_MATERIAL, &ITxbCtrl::sendTxbMaterial,
                     "material")
             .adapted(
-                    "sendTxbSignalAmplitude", CMD_TXB_SEND_SIGNAL_AMPLITUDE,
+                    "sendTxbSignalAmplitude", Row::CMD_TXB_SEND_SIGNAL_AMPLITUDE,
                     &ITxbCtrl::sendTxbSignalAmplitude,
                     [](ITxbCtrl& txb, std::vector<int> values) {
                         return txb.sendTxbSignalAmplitude(values.data(), countOf(values));
                     },
                     "values")
-            .method("getTxbSensorMuteState", CMD_TXB_GET_SENSOR_MUTE_STATE,
+            .method("getTxbSensorMuteState", Row::CMD_TXB_GET_SENSOR_MUTE_STATE,
                     &ITxbCtrl::getTxbSensorMuteState)
-            .method("setTxbSensorMuteState", CMD_TXB_SET_SENSOR_MUTE_STATE,
+            .method("setTxbSensorMuteState", Row::CMD_TXB_SET_SENSOR_MUTE_STATE,
                     &ITxbCtrl::setTxbSensorMuteState, "sensor, mute")
-            .method("sendTxbPenCoord", CMD_TXB_SEND_PEN_COORD, &ITxbCtrl::sendTxbPenCoord, "x, y")
-            .adapted("getTxbSensorSelfTestState", CMD_TXB_GET_SENSOR_SELF_TEST_STATE,
+            .method("sendTxbPenCoord", Row::CMD_TXB_SEND_PEN_COORD, &ITxbCtrl::sendTxbPenCoord,
+                    "x, y")
+            .adapted("getTxbSensorSelfTestState", Row::CMD_TXB_GET_SENSOR_SELF_TEST_STATE,
                      &ITxbCtrl::getTxbSensorSelfTestState,
                      [](ITxbCtrl& txb) {
                          std::vector<int> states(kLargestReply);
@@ -46,7 +46,7 @@ void registerTxbCtrl(std::vector<Controller>* registry) {
                          return fields({{"result", count}, {"states", toJson(states)}});
                      })
             .adapted(
-                    "setTxbSensorSelfTestState", CMD_TXB_SET_SENSOR_SELF_TEST_STATE,
+                    "setTxbSensorSelfTestState", Row::CMD_TXB_SET_SENSOR_SELF_TEST_STATE,
                     &ITxbCtrl::setTxbSensorSelfTestState,
                     [](ITxbCtrl& txb, std::vector<int> values) {
                         return txb.setTxbSensorSelfTestState(values.data(), countOf(values));

@@ -1,6 +1,5 @@
 #include <tarn/IVgaAdjust.h>
 
-#include "protocol/Commands.h"
 #include "registry/Builder.h"
 
 using namespace android;
@@ -9,9 +8,9 @@ namespace tarnctl {
 
 void registerVgaAdjust(std::vector<Controller>* registry) {
     Builder<IVgaAdjust>(registry, "vgaAdjust", "VgaAdjust", &ITarnManager::getVgaAdjust)
-            .method("setvgaAdjustData", CMD_VGA_SET_ADJUST_DATA, &IVgaAdjust::setvgaAdjustData,
+            .method("setvgaAdjustData", Row::CMD_VGA_SET_ADJUST_DATA, &IVgaAdjust::setvgaAdjustData,
                     "item, value")
-            .method("getvgaAdjustData", CMD_VGA_GET_ADJUST_DATA, &IVgaAdjust::getvgaAdjustData,
+            .method("getvgaAdjustData", Row::CMD_VGA_GET_ADJUST_DATA, &IVgaAdjust::getvgaAdjustData,
                     "item");
 }
 

@@ -170,9 +170,9 @@ class Replayer {
         if (result != wireCase.result) {
             fail(wireCase, "gave " + compact(result) + " instead of " + compact(wireCase.result));
         }
-        if (method.code != tarnctl::kNoCommand && !sent.empty() &&
+        if (method.row != nullptr && !sent.empty() &&
             std::none_of(sent.begin(), sent.end(), [&method](const Bytes& request) {
-                return firstWord(request) == method.code;
+                return firstWord(request) == method.row->code;
             })) {
             fail(wireCase, "did not send the command that it is described with");
         }

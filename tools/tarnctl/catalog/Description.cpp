@@ -45,9 +45,7 @@ Json::Value describeMethod(const Controller& controller, const Method& method) {
     }
     json["result"] = method.result;
     json["commands"] = Json::Value(Json::arrayValue);
-    for (const Command* command : commandsOf(controller, method)) {
-        json["commands"].append(layouts(*command));
-    }
+    if (method.row != nullptr) json["commands"].append(layouts(*method.row));
     return json;
 }
 
@@ -59,12 +57,12 @@ std::vector<std::string> methodLines(const Controller& controller, const Method&
             lines.push_back("  " + argument.name + ": " + argument.type);
         }
     }
-    const auto commands = commandsOf(controller, method);
-    if (commands.empty()) lines.push_back("  command  none of its own");
-    for (const Command* command : commands) {
+    if (const Command* command = method.row) {
         lines.push_back(std::string("  command  ") + command->name + " " + hexCode(command->code));
         lines.push_back("  request  " + requestText(*command));
         lines.push_back("  reply    " + replyText(*command));
+    } else {
+        lines.push_back("  command  none of its own");
     }
     return lines;
 }

@@ -103,23 +103,11 @@ std::vector<const Command*> requireCommands(const std::string& nameOrCode) {
     return rows;
 }
 
-std::vector<const Command*> commandsOf(const Controller& controller, const Method& method) {
-    if (method.code == kNoCommand) return {};
-    const auto rows = ::tarn::protocol::findCommands(method.code);
-    std::vector<const Command*> own;
-    for (const Command* row : rows) {
-        if (controller.className == row->controller) own.push_back(row);
-    }
-    return own.empty() ? rows : own;
-}
-
 std::vector<std::string> methodsOf(const Command& command) {
     std::vector<std::string> paths;
     for (const Controller& controller : controllers()) {
         for (const Method& method : controller.methods) {
-            for (const Command* row : commandsOf(controller, method)) {
-                if (row == &command) paths.push_back(pathOf(controller, method));
-            }
+            if (method.row == &command) paths.push_back(pathOf(controller, method));
         }
     }
     return paths;

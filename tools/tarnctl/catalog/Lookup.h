@@ -38,10 +38,6 @@ int32_t requireCode(const std::string& nameOrCode);
 /** Whether this is a command's name or code rather than a controller's or a method's name. */
 bool looksLikeCommand(const std::string& text);
 
-/** The rows that a method sends: its controller's if it has one of that code. */
-std::vector<const ::tarn::protocol::Command*> commandsOf(const Controller& controller,
-                                                         const Method& method);
-
 /** The methods that send a command, as "audio.setVolume". */
 std::vector<std::string> methodsOf(const ::tarn::protocol::Command& command);
 

@@ -29,12 +29,10 @@ Json::Value decoded(const Json::Value& result, const ::tarn::protocol::Command& 
 int callMethod(Context& context, const Target& target, const std::vector<std::string>& values) {
     const Method& method = requireOverload(target, values.size());
     method.call(nullptr, values);
-    return invoke(context,
-                  [&method, controller = target.controller, values](TracingManager& manager) {
-                      const Json::Value result = method.call(&manager, values);
-                      if (!method.undecoded) return result;
-                      return decoded(result, *commandsOf(*controller, method).front());
-                  });
+    return invoke(context, [&method, values](TracingManager& manager) {
+        const Json::Value result = method.call(&manager, values);
+        return method.undecoded ? decoded(result, *method.row) : result;
+    });
 }
 
 }  // namespace tarnctl
