@@ -6,14 +6,14 @@
 
 #include "registry/Registry.h"
 
-using tarnctl::Controller;
-using tarnctl::Method;
+using tarn::registry::Controller;
+using tarn::registry::Method;
 
 namespace {
 
 std::string signature(const Method& method) {
     std::string text = method.name + "(";
-    for (const tarnctl::Argument& argument : method.arguments) {
+    for (const tarn::registry::Argument& argument : method.arguments) {
         if (text.back() != '(') text += ", ";
         text += argument.type + " " + argument.name;
     }
@@ -43,7 +43,7 @@ int main() {
            "and "
            "shows them; the request stands\nbehind the command's code, the reply behind the status "
            "word. Without a reply the status is the answer.\n");
-    for (const Controller& controller : tarnctl::controllers()) {
+    for (const Controller& controller : tarn::registry::controllers()) {
         printf("\n## %s (`%s`)\n\n", controller.className.c_str(), controller.name.c_str());
         printf("| method | result | code | command | request | reply "
                "|\n|---|---|---|---|---|---|\n");

@@ -8,7 +8,7 @@
 
 #include "registry/Registry.h"
 
-namespace tarnctl {
+namespace tarn::registry {
 
 namespace {
 
@@ -153,4 +153,4 @@ std::vector<std::string> splitList(const std::string& text) {
     return parts;
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -8,7 +8,7 @@
 #include <type_traits>
 #include <vector>
 
-namespace tarnctl {
+namespace tarn::registry {
 
 // Reading one argument of the command line. Each function throws BadArgument, which names the
 // argument, quotes the text and tells what is accepted.
@@ -147,4 +147,4 @@ class HeldArgument {
     Value mValue;
 };
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

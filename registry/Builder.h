@@ -11,9 +11,9 @@
 #include "registry/Registry.h"
 #include "registry/Results.h"
 
-namespace tarnctl {
+namespace tarn::registry {
 
-using ::tarn::protocol::Row;
+using protocol::Row;
 
 /** The row of a method that sends no command. */
 constexpr std::nullopt_t kNoCommand = std::nullopt;
@@ -87,7 +87,7 @@ class Builder {
                  std::function<Result(Interface&, Parameters...)> function) {
         Method method;
         method.name = name;
-        if (row) method.row = &::tarn::protocol::commandOf(*row);
+        if (row) method.row = &protocol::commandOf(*row);
         method.slot = slot;
         method.arguments = describeArguments<Parameters...>(argumentNames);
         method.result = ResultWriter<std::decay_t<Result>>::kType;
@@ -131,4 +131,4 @@ class Builder {
     Accessor mAccessor;
 };
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

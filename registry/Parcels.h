@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace tarnctl {
+namespace tarn::registry {
 
 /** A parcel that holds exactly these bytes, at position 0. */
 inline std::unique_ptr<android::Parcel> parcelOf(const std::vector<uint8_t>& bytes) {
@@ -27,4 +27,4 @@ inline std::string hexOf(const android::Parcel& parcel) {
     return hex;
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

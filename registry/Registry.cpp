@@ -1,6 +1,6 @@
 #include "registry/Registry.h"
 
-namespace tarnctl {
+namespace tarn::registry {
 
 // One function per controller, in controllers/<Class>.cpp.
 #define COMMAND(name, code, request, reply)
@@ -41,4 +41,4 @@ std::vector<const Method*> findMethods(const Controller& controller, const std::
     return found;
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -11,7 +11,7 @@
 
 #include "protocol/Catalog.h"
 
-namespace tarnctl {
+namespace tarn::registry {
 
 /** An argument on the command line that can't be used; says which, why and what is accepted. */
 class BadArgument : public std::invalid_argument {
@@ -28,8 +28,8 @@ struct Argument {
 /** A controller's method, callable by name with texts. */
 struct Method {
     std::string name;
-    const ::tarn::protocol::Command* row = nullptr;  // what it sends, or null
-    size_t slot;                                     // in the interface's virtual table
+    const protocol::Command* row = nullptr;  // what it sends, or null
+    size_t slot;                             // in the interface's virtual table
     std::vector<Argument> arguments;
     std::string result;      // type of the result, for people
     bool undecoded = false;  // the result's "data" is the bytes of the reply behind its status
@@ -57,4 +57,4 @@ const Controller* findController(const std::string& name);
 /** The methods of that name: none, one, or overloads. */
 std::vector<const Method*> findMethods(const Controller& controller, const std::string& name);
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

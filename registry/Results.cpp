@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void appendField(Json::Value* record, const std::string& name, const Json::Value& value) {
     const auto place = static_cast<ptrdiff_t>(record->size());
@@ -28,4 +28,4 @@ std::string toUtf8(const android::String16& text) {
     return std::string(utf8.c_str(), utf8.size());
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

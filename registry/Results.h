@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-namespace tarnctl {
+namespace tarn::registry {
 
 /**
  * How a result of type T is shown: kType for people, toJson() for the value. Records specialise
@@ -110,4 +110,4 @@ struct ResultWriter<std::vector<T>> {
     }
 };
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

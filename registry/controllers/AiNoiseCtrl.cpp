@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerAiNoiseCtrl(std::vector<Controller>* registry) {
     Builder<IAiNoiseCtrl>(registry, "aiNoise", "AiNoiseCtrl", &ITarnManager::getAiNoiseCtrl)
@@ -13,4 +13,4 @@ void registerAiNoiseCtrl(std::vector<Controller>* registry) {
             .method("getAiNoise", Row::CMD_AI_NOISE_GET_AI_NOISE, &IAiNoiseCtrl::getAiNoise);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

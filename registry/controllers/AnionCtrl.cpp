@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerAnionCtrl(std::vector<Controller>* registry) {
     Builder<IAnionCtrl>(registry, "anion", "AnionCtrl", &ITarnManager::getAnionCtrl)
@@ -12,4 +12,4 @@ void registerAnionCtrl(std::vector<Controller>* registry) {
                     "status");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerAoipCtrl(std::vector<Controller>* registry) {
     Builder<IAoipCtrl>(registry, "aoip", "AoipCtrl", &ITarnManager::getAoipCtrl)
@@ -22,4 +22,4 @@ void registerAoipCtrl(std::vector<Controller>* registry) {
             .method("testAT", Row::CMD_AOIP_TEST_AT, &IAoipCtrl::testAT);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

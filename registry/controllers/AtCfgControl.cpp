@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerAtCfgControl(std::vector<Controller>* registry) {
     Builder<IAtCfgControl>(registry, "atCfg", "AtCfgControl", &ITarnManager::getAtCfgControl)
@@ -29,4 +29,4 @@ void registerAtCfgControl(std::vector<Controller>* registry) {
                     "key");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -5,7 +5,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerAudioCtrl(std::vector<Controller>* registry) {
     Builder<IAudioCtrl>(registry, "audio", "AudioCtrl", &ITarnManager::getAudioCtrl)
@@ -109,4 +109,4 @@ void registerAudioCtrl(std::vector<Controller>* registry) {
                     &IAudioCtrl::getLineInConnectStatus);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 /** A metadata header: its eight items in order. */
 template <>
@@ -184,4 +184,4 @@ void registerAvManagerCtrl(std::vector<Controller>* registry) {
                     &IAvManagerCtrl::getCameraDeFogMode);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerBacklightCtrl(std::vector<Controller>* registry) {
     Builder<IBacklightCtrl>(registry, "backlight", "BacklightCtrl", &ITarnManager::getBacklightCtrl)
@@ -32,4 +32,4 @@ void registerBacklightCtrl(std::vector<Controller>* registry) {
                     &IBacklightCtrl::getMaxBrightnessSetEnable);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

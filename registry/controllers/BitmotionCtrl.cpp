@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerBitmotionCtrl(std::vector<Controller>* registry) {
     Builder<IBitmotionCtrl>(registry, "bitmotion", "BitmotionCtrl", &ITarnManager::getBitmotionCtrl)
@@ -24,4 +24,4 @@ void registerBitmotionCtrl(std::vector<Controller>* registry) {
             .method("getVersion", Row::CMD_BITMOTION_GET_VERSION, &IBitmotionCtrl::getVersion);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerBluetoothCtrl(std::vector<Controller>* registry) {
     Builder<IBluetoothCtrl>(registry, "bluetooth", "BluetoothCtrl", &ITarnManager::getBluetoothCtrl)
@@ -13,4 +13,4 @@ void registerBluetoothCtrl(std::vector<Controller>* registry) {
                     &IBluetoothCtrl::setBleWakeup, "on");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 template <>
 struct ResultWriter<EntitySwKey> {
@@ -36,4 +36,4 @@ void registerBurnKeyCtrl(std::vector<Controller>* registry) {
                     &IBurnKeyCtrl::getBurnKeyVersion, "type");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

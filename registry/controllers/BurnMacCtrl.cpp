@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 template <>
 struct ResultWriter<EntitySwMac> {
@@ -42,4 +42,4 @@ void registerBurnMacCtrl(std::vector<Controller>* registry) {
             .method("getBurnMac", Row::CMD_BURN_MAC_GET_MAC, &IBurnMacCtrl::getBurnMac, "type");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 template <>
 struct ResultWriter<TarnCameraInfo> {
@@ -65,4 +65,4 @@ void registerCameraCtrl(std::vector<Controller>* registry) {
                     &ICameraCtrl::getCameraDeviceSn, "camera");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerDebugCtrl(std::vector<Controller>* registry) {
     Builder<IDebugCtrl>(registry, "debug", "DebugCtrl", &ITarnManager::getDebugCtrl)
@@ -14,4 +14,4 @@ void registerDebugCtrl(std::vector<Controller>* registry) {
                     &IDebugCtrl::setSuperRootState, "state");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

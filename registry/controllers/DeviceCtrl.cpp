@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerDeviceCtrl(std::vector<Controller>* registry) {
     Builder<IDeviceCtrl>(registry, "device", "DeviceCtrl", &ITarnManager::getDeviceCtrl)
@@ -46,4 +46,4 @@ void registerDeviceCtrl(std::vector<Controller>* registry) {
                     &IDeviceCtrl::getUsbSwFollowConfig);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerDevicePortCtrl(std::vector<Controller>* registry) {
     Builder<IDevicePortCtrl>(registry, "devicePort", "DevicePortCtrl",
@@ -21,4 +21,4 @@ void registerDevicePortCtrl(std::vector<Controller>* registry) {
                      });
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

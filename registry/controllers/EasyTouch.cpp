@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerEasyTouch(std::vector<Controller>* registry) {
     Builder<IEasyTouch>(registry, "easyTouch", "EasyTouch", &ITarnManager::getEasyTouch)
@@ -12,4 +12,4 @@ void registerEasyTouch(std::vector<Controller>* registry) {
                     &IEasyTouch::getEasyTouchLogInfo);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerExtendDisplayCtrl(std::vector<Controller>* registry) {
     Builder<IExtendDisplayCtrl>(registry, "extendDisplay", "ExtendDisplayCtrl",
@@ -43,4 +43,4 @@ void registerExtendDisplayCtrl(std::vector<Controller>* registry) {
                     &IExtendDisplayCtrl::getExtendDisplaySuportColorFormatList);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

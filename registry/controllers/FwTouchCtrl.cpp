@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 template <>
 struct ResultWriter<EntityFwTouch> {
@@ -43,13 +43,13 @@ struct ResultWriter<TouchFwDataList> {
     static Json::Value toJson(const TouchFwDataList& data) {
         return fields({{"short0", data.short0},
                        {"short1", data.short1},
-                       {"touch", tarnctl::toJson(data.touch)},
+                       {"touch", registry::toJson(data.touch)},
                        {"text0", data.text0},
                        {"short2", data.short2},
                        {"reserved0", data.reserved0},
                        {"short3", data.short3},
                        {"short4", data.short4},
-                       {"driver", tarnctl::toJson(data.driver)},
+                       {"driver", registry::toJson(data.driver)},
                        {"text1", data.text1},
                        {"short5", data.short5}});
     }
@@ -78,4 +78,4 @@ void registerFwTouchCtrl(std::vector<Controller>* registry) {
                      });
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 template <>
 struct ResultWriter<EntityFwInfoMcu> {
@@ -45,4 +45,4 @@ void registerFwUpgrade(std::vector<Controller>* registry) {
                     &IFwUpgrade::getFwTargetBinPath, "type");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

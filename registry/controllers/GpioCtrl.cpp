@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerGpioCtrl(std::vector<Controller>* registry) {
     Builder<IGpioCtrl>(registry, "gpio", "GpioCtrl", &ITarnManager::getGpioCtrl)
@@ -40,4 +40,4 @@ void registerGpioCtrl(std::vector<Controller>* registry) {
                     "gpio");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 template <>
 struct ResultWriter<EntityFwIoBox> {
@@ -37,4 +37,4 @@ void registerIoBoxCtrl(std::vector<Controller>* registry) {
                      });
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerKeyboardCtrl(std::vector<Controller>* registry) {
     Builder<IKeyboardCtrl>(registry, "keyboard", "KeyboardCtrl", &ITarnManager::getKeyboardCtrl)
@@ -14,4 +14,4 @@ void registerKeyboardCtrl(std::vector<Controller>* registry) {
                     "id0, id1");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerLandscapeCtrl(std::vector<Controller>* registry) {
     Builder<ILandscapeCtrl>(registry, "landscape", "LandscapeCtrl", &ITarnManager::getLandscapeCtrl)
@@ -14,4 +14,4 @@ void registerLandscapeCtrl(std::vector<Controller>* registry) {
                     &ILandscapeCtrl::getLandscapeAppList);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

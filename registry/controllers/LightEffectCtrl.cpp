@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerLightEffectCtrl(std::vector<Controller>* registry) {
     Builder<ILightEffectCtrl>(registry, "lightEffect", "LightEffectCtrl",
@@ -13,4 +13,4 @@ void registerLightEffectCtrl(std::vector<Controller>* registry) {
                     &ILightEffectCtrl::setLightEffectMode, "device, mode");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

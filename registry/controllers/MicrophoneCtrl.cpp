@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 template <>
 struct ResultWriter<EntityMicrophone> {
@@ -40,4 +40,4 @@ void registerMicrophoneCtrl(std::vector<Controller>* registry) {
                     &IMicrophoneCtrl::setBuildInMicEnabled, "microphone, enabled");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerNetworkCtrl(std::vector<Controller>* registry) {
     Builder<INetworkCtrl>(registry, "network", "NetworkCtrl", &ITarnManager::getNetworkCtrl)
@@ -71,4 +71,4 @@ void registerNetworkCtrl(std::vector<Controller>* registry) {
                     &INetworkCtrl::GetWOLPCOnlyEnable);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

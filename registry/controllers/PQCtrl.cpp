@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 template <>
 struct ResultWriter<PresetColorTempValues> {
@@ -98,4 +98,4 @@ void registerPQCtrl(std::vector<Controller>* registry) {
             .method("setAspectMode", Row::CMD_PQ_SET_ASPECT_MODE, &IPQCtrl::setAspectMode, "mode");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerPcModuleCtrl(std::vector<Controller>* registry) {
     Builder<IPcModuleCtrl>(registry, "pcModule", "PcModuleCtrl", &ITarnManager::getPcModuleCtrl)
@@ -28,4 +28,4 @@ void registerPcModuleCtrl(std::vector<Controller>* registry) {
                     &IPcModuleCtrl::getPcBootMode);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerPmsCtrl(std::vector<Controller>* registry) {
     Builder<IPmsCtrl>(registry, "pms", "PmsCtrl", &ITarnManager::getPmsCtrl)
@@ -16,4 +16,4 @@ void registerPmsCtrl(std::vector<Controller>* registry) {
                     &IPmsCtrl::setPmsWakeupSources, "sources");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

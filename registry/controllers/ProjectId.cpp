@@ -5,7 +5,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 namespace {
 
@@ -83,4 +83,4 @@ void registerProjectId(std::vector<Controller>* registry) {
                     &IProjectId::getWifiCountryCode);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 namespace {
 
@@ -28,4 +28,4 @@ void registerPropertiesCtrl(std::vector<Controller>* registry) {
                     "key, value");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

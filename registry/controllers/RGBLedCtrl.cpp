@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerRGBLedCtrl(std::vector<Controller>* registry) {
     Builder<IRGBLedCtrl>(registry, "rgbLed", "RGBLedCtrl", &ITarnManager::getRGBLedCtrl)
@@ -32,4 +32,4 @@ void registerRGBLedCtrl(std::vector<Controller>* registry) {
                     &IRGBLedCtrl::getVaLedState);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

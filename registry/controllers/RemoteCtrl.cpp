@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerRemoteCtrl(std::vector<Controller>* registry) {
     Builder<IRemoteCtrl>(registry, "remote", "RemoteCtrl", &ITarnManager::getRemoteCtrl)
@@ -16,4 +16,4 @@ void registerRemoteCtrl(std::vector<Controller>* registry) {
                     "key, value");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

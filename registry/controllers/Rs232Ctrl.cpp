@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerRs232Ctrl(std::vector<Controller>* registry) {
     Builder<IRs232Ctrl>(registry, "rs232", "Rs232Ctrl", &ITarnManager::getRs232Ctrl)
@@ -26,4 +26,4 @@ void registerRs232Ctrl(std::vector<Controller>* registry) {
                     &IRs232Ctrl::getSmartRs232PcStatus);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 template <>
 struct ResultWriter<EntitySensorBox> {
@@ -32,4 +32,4 @@ void registerSensorBoxCtrl(std::vector<Controller>* registry) {
                      });
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

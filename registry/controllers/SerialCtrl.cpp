@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerSerialCtrl(std::vector<Controller>* registry) {
     Builder<ISerialCtrl>(registry, "serial", "SerialCtrl", &ITarnManager::getSerialCtrl)
@@ -23,4 +23,4 @@ void registerSerialCtrl(std::vector<Controller>* registry) {
                     &ISerialCtrl::getSerialDeviceId, "device");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerSmartPenModeCtrl(std::vector<Controller>* registry) {
     Builder<ISmartPenModeCtrl>(registry, "smartPenMode", "SmartPenModeCtrl",
@@ -17,4 +17,4 @@ void registerSmartPenModeCtrl(std::vector<Controller>* registry) {
                     &ISmartPenModeCtrl::getSmartPenMode);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 template <>
 struct ResultWriter<SoundScreenAngle> {
@@ -23,4 +23,4 @@ void registerSoundScreenAngleCtrl(std::vector<Controller>* registry) {
                     &ISoundScreenAngleCtrl::getSoundScreenAngle);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

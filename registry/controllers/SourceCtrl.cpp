@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerSourceCtrl(std::vector<Controller>* registry) {
     Builder<ISourceCtrl>(registry, "source", "SourceCtrl", &ITarnManager::getSourceCtrl)
@@ -28,4 +28,4 @@ void registerSourceCtrl(std::vector<Controller>* registry) {
                     &ISourceCtrl::getHdmiStandbyEn);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerSuspendCtrl(std::vector<Controller>* registry) {
     Builder<ISuspendCtrl>(registry, "suspend", "SuspendCtrl", &ITarnManager::getSuspendCtrl)
@@ -18,4 +18,4 @@ void registerSuspendCtrl(std::vector<Controller>* registry) {
                     &ISuspendCtrl::setFakeStandyStatus, "on");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

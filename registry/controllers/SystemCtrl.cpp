@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerSystemCtrl(std::vector<Controller>* registry) {
     Builder<ISystemCtrl>(registry, "system", "SystemCtrl", &ITarnManager::getSystemCtrl)
@@ -154,4 +154,4 @@ void registerSystemCtrl(std::vector<Controller>* registry) {
                     &ISystemCtrl::getPirDeviceType);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

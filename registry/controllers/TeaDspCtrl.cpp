@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerTeaDspCtrl(std::vector<Controller>* registry) {
     Builder<ITeaDspCtrl>(registry, "teaDsp", "TeaDspCtrl", &ITarnManager::getTeaDspCtrl)
@@ -43,4 +43,4 @@ void registerTeaDspCtrl(std::vector<Controller>* registry) {
                     &ITeaDspCtrl::SetDeviceRingCall, "state");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

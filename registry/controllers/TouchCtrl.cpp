@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 template <>
 struct ArgumentReader<TouchRect> {
@@ -137,4 +137,4 @@ void registerTouchCtrl(std::vector<Controller>* registry) {
                     &ITouchCtrl::getTouchAreaRecognitionMethod);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -6,7 +6,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 namespace {
 
@@ -54,4 +54,4 @@ void registerTxbCtrl(std::vector<Controller>* registry) {
                     "values");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerUwbCtrl(std::vector<Controller>* registry) {
     Builder<IUwbCtrl>(registry, "uwb", "UwbCtrl", &ITarnManager::getUwbCtrl)
@@ -42,4 +42,4 @@ void registerUwbCtrl(std::vector<Controller>* registry) {
             .method("getUwbRcuSn", Row::CMD_GET_UWB_RCU_SN, &IUwbCtrl::getUwbRcuSn);
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerVgaAdjust(std::vector<Controller>* registry) {
     Builder<IVgaAdjust>(registry, "vgaAdjust", "VgaAdjust", &ITarnManager::getVgaAdjust)
@@ -14,4 +14,4 @@ void registerVgaAdjust(std::vector<Controller>* registry) {
                     "item");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

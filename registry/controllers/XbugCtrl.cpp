@@ -4,7 +4,7 @@
 
 using namespace android;
 
-namespace tarnctl {
+namespace tarn::registry {
 
 void registerXbugCtrl(std::vector<Controller>* registry) {
     Builder<IXbugCtrl>(registry, "xbug", "XbugCtrl", &ITarnManager::getXbugCtrl)
@@ -23,4 +23,4 @@ void registerXbugCtrl(std::vector<Controller>* registry) {
             .method("getNodeInfo", Row::CMD_XBUG_GET_NODE_INFO, &IXbugCtrl::getNodeInfo, "node");
 }
 
-}  // namespace tarnctl
+}  // namespace tarn::registry

@@ -24,8 +24,8 @@ using android::ITarnManager;
 using android::ITarnPlatform;
 using android::ITarnService;
 using android::TarnManager;
-using tarnctl::Controller;
-using tarnctl::slotOf;
+using tarn::registry::Controller;
+using tarn::registry::slotOf;
 using vendor::zunt::hwtarn::V1_0::IHwTarn;
 using vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
 
@@ -75,7 +75,7 @@ size_t expectedSlot(const std::string& controller, size_t index) {
 }
 
 TEST(Registry, HasEveryControllerInTheOrderOfTheAccessors) {
-    const std::vector<Controller>& controllers = tarnctl::controllers();
+    const std::vector<Controller>& controllers = tarn::registry::controllers();
     ASSERT_EQ(controllers.size(), std::size(kMethods));
     size_t total = 0;
     for (size_t i = 0; i < controllers.size(); i++) {
@@ -87,7 +87,7 @@ TEST(Registry, HasEveryControllerInTheOrderOfTheAccessors) {
 }
 
 TEST(Registry, HasEveryMethodInItsSlot) {
-    for (const Controller& controller : tarnctl::controllers()) {
+    for (const Controller& controller : tarn::registry::controllers()) {
         for (size_t i = 0; i < controller.methods.size(); i++) {
             EXPECT_EQ(controller.methods[i].slot, expectedSlot(controller.className, i))
                     << controller.className << "::" << controller.methods[i].name;

@@ -14,8 +14,8 @@ namespace tarn::test {
 
 using android::ITarnManager;
 using android::sp;
-using tarnctl::Controller;
-using tarnctl::Method;
+using registry::Controller;
+using registry::Method;
 
 namespace {
 
@@ -107,7 +107,7 @@ class Replayer {
         Json::Value result;
         try {
             result = method->call(mManager.get(), wireCase.arguments);
-        } catch (const tarnctl::BadArgument& error) {
+        } catch (const registry::BadArgument& error) {
             fail(wireCase, error.what());
             return;
         }
@@ -142,7 +142,7 @@ class Replayer {
     }
 
     const Method* find(const WireCase& wireCase) const {
-        for (const Method* method : tarnctl::findMethods(mController, wireCase.method)) {
+        for (const Method* method : registry::findMethods(mController, wireCase.method)) {
             if (method->arguments.size() == wireCase.arguments.size()) return method;
         }
         return nullptr;

@@ -20,6 +20,6 @@ struct ReplayReport {
 };
 
 /** Runs the cases of DIRECTORY/<Class>.wire and checks that they cover the controller. */
-ReplayReport replay(const tarnctl::Controller& controller, const std::string& directory);
+ReplayReport replay(const registry::Controller& controller, const std::string& directory);
 
 }  // namespace tarn::test

@@ -16,7 +16,7 @@ namespace {
 class FrozenBytes : public testing::TestWithParam<std::string> {};
 
 TEST_P(FrozenBytes, CoverAndMatchEveryMethod) {
-    const tarnctl::Controller* controller = tarnctl::findController(GetParam());
+    const tarn::registry::Controller* controller = tarn::registry::findController(GetParam());
     ASSERT_NE(controller, nullptr) << GetParam() << " is not registered";
     const ReplayReport report = replay(*controller, TARN_WIRE_DIR);
     for (const std::string& failure : report.failures) ADD_FAILURE() << failure;
@@ -28,7 +28,7 @@ INSTANTIATE_TEST_SUITE_P(, FrozenBytes, testing::ValuesIn(tarn::protocol::contro
 
 TEST(Vocabulary, HasNoRowThatIsNeverSent) {
     std::set<int32_t> sent;
-    for (const tarnctl::Controller& controller : tarnctl::controllers()) {
+    for (const tarn::registry::Controller& controller : tarn::registry::controllers()) {
         const ReplayReport report = replay(controller, TARN_WIRE_DIR);
         sent.insert(report.codesSent.begin(), report.codesSent.end());
     }
@@ -41,15 +41,15 @@ int printTable() {
     size_t methods = 0;
     size_t covered = 0;
     printf("%-22s %8s %8s %8s\n", "controller", "methods", "covered", "cases");
-    for (const tarnctl::Controller& controller : tarnctl::controllers()) {
+    for (const tarn::registry::Controller& controller : tarn::registry::controllers()) {
         const ReplayReport report = replay(controller, TARN_WIRE_DIR);
         printf("%-22s %8zu %8zu %8zu\n", report.controller.c_str(), report.methods, report.covered,
                report.cases);
         methods += report.methods;
         covered += report.covered;
     }
-    printf("%zu controllers, frozen bytes for %zu of %zu methods\n", tarnctl::controllers().size(),
-           covered, methods);
+    printf("%zu controllers, frozen bytes for %zu of %zu methods\n",
+           tarn::registry::controllers().size(), covered, methods);
     return covered == methods ? 0 : 1;
 }
 

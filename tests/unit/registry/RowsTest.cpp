@@ -12,11 +12,11 @@
 
 using android::sp;
 using tarn::protocol::Command;
+using tarn::registry::Argument;
+using tarn::registry::Controller;
+using tarn::registry::Method;
 using tarn::test::Bytes;
 using tarn::test::RecordingManager;
-using tarnctl::Argument;
-using tarnctl::Controller;
-using tarnctl::Method;
 
 namespace {
 
@@ -51,7 +51,7 @@ std::set<int32_t> codesSentBy(const Method& method) {
 }
 
 TEST(Rows, AreThoseOfTheCommandsThatTheMethodsSend) {
-    for (const Controller& controller : tarnctl::controllers()) {
+    for (const Controller& controller : tarn::registry::controllers()) {
         for (const Method& method : controller.methods) {
             const std::set<int32_t> sent = codesSentBy(method);
             if (method.row == nullptr) {
@@ -65,7 +65,7 @@ TEST(Rows, AreThoseOfTheCommandsThatTheMethodsSend) {
 }
 
 TEST(Rows, BelongToTheirMethodsController) {
-    for (const Controller& controller : tarnctl::controllers()) {
+    for (const Controller& controller : tarn::registry::controllers()) {
         for (const Method& method : controller.methods) {
             if (method.row == nullptr) continue;
             EXPECT_EQ(controller.className, method.row->controller) << pathOf(controller, method);
@@ -75,7 +75,7 @@ TEST(Rows, BelongToTheirMethodsController) {
 
 TEST(Rows, HaveOneMethodEach) {
     std::map<const Command*, std::vector<std::string>> methods;
-    for (const Controller& controller : tarnctl::controllers()) {
+    for (const Controller& controller : tarn::registry::controllers()) {
         for (const Method& method : controller.methods) {
             methods[method.row].push_back(pathOf(controller, method));
         }
@@ -98,7 +98,7 @@ TEST(Rows, OfOneCodeAreNotSwapped) {
             {"touch.getTouchStateDisabled", "CMD_TOUCH_GET_STATE_DISABLED"},
     };
     std::map<std::string, std::string> sharing;
-    for (const Controller& controller : tarnctl::controllers()) {
+    for (const Controller& controller : tarn::registry::controllers()) {
         for (const Method& method : controller.methods) {
             if (method.row == nullptr) continue;
             if (tarn::protocol::findCommands(method.row->code).size() == 1) continue;

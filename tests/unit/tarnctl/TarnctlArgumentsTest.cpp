@@ -18,6 +18,7 @@
 #include "tools/tarnctl/output/Format.h"
 #include "tools/tarnctl/verbs/Wire.h"
 
+using namespace tarn::registry;
 using namespace tarnctl;
 using std::chrono::milliseconds;
 using testing::ElementsAre;

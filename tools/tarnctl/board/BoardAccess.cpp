@@ -10,6 +10,9 @@
 
 namespace tarnctl {
 
+using ::tarn::registry::BadArgument;
+using ::tarn::registry::parseText;
+
 namespace {
 
 std::string plainName(const std::string& name) {

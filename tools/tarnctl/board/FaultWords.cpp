@@ -6,6 +6,9 @@
 
 namespace tarnctl {
 
+using ::tarn::registry::parseFloat;
+using ::tarn::registry::parseInt;
+
 namespace {
 
 enum class Takes { kNothing, kInt, kFloat };

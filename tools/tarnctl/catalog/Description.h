@@ -10,6 +10,9 @@
 
 namespace tarnctl {
 
+using ::tarn::registry::Controller;
+using ::tarn::registry::Method;
+
 /** A method and what it sends: {"method", "arguments", "result", "commands"}. */
 Json::Value describeMethod(const Controller& controller, const Method& method);
 

@@ -10,6 +10,7 @@
 namespace tarnctl {
 
 using ::tarn::protocol::Command;
+using ::tarn::registry::parseInt;
 
 namespace {
 

@@ -9,6 +9,13 @@
 
 namespace tarnctl {
 
+using ::tarn::registry::Argument;
+using ::tarn::registry::Controller;
+using ::tarn::registry::controllers;
+using ::tarn::registry::findController;
+using ::tarn::registry::findMethods;
+using ::tarn::registry::Method;
+
 // Finding things by what a person types. Each throws Failure: kNoSuchName, with names that may have
 // been meant, or kBadUsage.
 

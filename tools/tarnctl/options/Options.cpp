@@ -9,6 +9,9 @@
 
 namespace tarnctl {
 
+using ::tarn::registry::BadArgument;
+using ::tarn::registry::parseInt;
+
 namespace {
 
 constexpr double kLongestTimeoutSeconds = 1e6;

@@ -11,6 +11,8 @@
 
 namespace tarnctl {
 
+using ::tarn::registry::fieldNames;
+
 namespace {
 
 /** Digits that bring every float back, and no more: 0.1 rather than 0.100000001. */

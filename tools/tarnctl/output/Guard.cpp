@@ -5,6 +5,8 @@
 
 namespace tarnctl {
 
+using ::tarn::registry::BadArgument;
+
 int guarded(const Diagnostics& diagnostics, const std::function<int()>& function) try {
     return function();
 } catch (const Failure& failure) {

@@ -12,6 +12,10 @@
 
 namespace tarnctl {
 
+using ::tarn::registry::BadArgument;
+using ::tarn::registry::parseBytes;
+using ::tarn::registry::parseUnsigned;
+
 namespace {
 
 constexpr char kAllCommands[] = "*";

@@ -8,6 +8,11 @@
 
 namespace tarnctl {
 
+using ::tarn::registry::appendField;
+using ::tarn::registry::fieldNames;
+using ::tarn::registry::parcelOf;
+using ::tarn::registry::parseBytes;
+
 namespace {
 
 /** The result with the fields that its data holds in the data's place, if it is as the layout says.

@@ -12,6 +12,7 @@ namespace tarnctl {
 
 using android::Parcel;
 using ::tarn::protocol::Command;
+using ::tarn::registry::appendField;
 
 namespace {
 

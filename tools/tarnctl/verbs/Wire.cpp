@@ -15,6 +15,13 @@ using android::String16;
 using ::tarn::protocol::Field;
 using ::tarn::protocol::Layout;
 using ::tarn::protocol::Type;
+using ::tarn::registry::appendField;
+using ::tarn::registry::ArgumentReader;
+using ::tarn::registry::parseBool;
+using ::tarn::registry::parseBytes;
+using ::tarn::registry::parseFloat;
+using ::tarn::registry::parseInt;
+using ::tarn::registry::toUtf8;
 
 namespace {
 
