@@ -6,8 +6,6 @@
 #include <iterator>
 #include <limits>
 
-#include "registry/Registry.h"
-
 namespace tarn::registry {
 
 namespace {

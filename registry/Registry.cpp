@@ -1,5 +1,7 @@
 #include "registry/Registry.h"
 
+#include "registry/Results.h"
+
 namespace tarn::registry {
 
 // One function per controller, in controllers/<Class>.cpp.
@@ -20,6 +22,26 @@ std::vector<Controller> registerAll() {
 }
 
 }  // namespace
+
+std::vector<Value> Method::read(const std::vector<std::string>& texts) const {
+    std::vector<Value> values(arguments.size());
+    for (size_t i = 0; i < arguments.size(); i++) {
+        arguments[i].parameter->read(arguments[i].name, texts[i], &values[i]);
+    }
+    return values;
+}
+
+Json::Value Method::callWith(android::ITarnManager* manager, std::vector<Value> values) const {
+    Answer answer;
+    signature->invoke(target, manager, values.data(), &answer);
+    return answer.json;
+}
+
+Json::Value Method::call(android::ITarnManager* manager,
+                         const std::vector<std::string>& texts) const {
+    std::vector<Value> values = read(texts);
+    return manager != nullptr ? callWith(manager, std::move(values)) : Json::Value();
+}
 
 const std::vector<Controller>& controllers() {
     static const std::vector<Controller> registry = registerAll();

@@ -4,41 +4,49 @@
 #include <tarn/ITarnManager.h>
 
 #include <cstddef>
-#include <functional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "protocol/Catalog.h"
+#include "registry/Arguments.h"
+#include "registry/Call.h"
+#include "registry/Parameters.h"
 
 namespace tarn::registry {
 
-/** An argument on the command line that can't be used; says which, why and what is accepted. */
-class BadArgument : public std::invalid_argument {
-  public:
-    using std::invalid_argument::invalid_argument;
-};
-
-/** One argument of a method as the command line takes it. */
+/** One argument of a method. */
 struct Argument {
     std::string name;
     std::string type;  // for people: "int", "bool", "text", ...
+    const ParameterType* parameter;
+
+    Kind kind() const { return parameter->kind; }
 };
 
-/** A controller's method, callable by name with texts. */
+/** A controller's method, callable by name with texts or values. */
 struct Method {
     std::string name;
     const protocol::Command* row = nullptr;  // what it sends, or null
-    size_t slot;                             // in the interface's virtual table
+    size_t slot = 0;                         // in the interface's virtual table
     std::vector<Argument> arguments;
-    std::string result;      // type of the result, for people
+    Kind resultKind = Kind::kInt;
+    std::string result;      // its type, for people
     bool undecoded = false;  // the result's "data" is the bytes of the reply behind its status
+
+    /** The arguments' values; throws BadArgument. The count must be arguments.size(). */
+    std::vector<Value> read(const std::vector<std::string>& texts) const;
+
+    /** The result of a call with a value for each argument. */
+    Json::Value callWith(android::ITarnManager* manager, std::vector<Value> values) const;
 
     /**
      * Throws BadArgument before anything is sent; the count must be arguments.size(). Without a
      * manager the arguments are only checked, and the result is null.
      */
-    std::function<Json::Value(android::ITarnManager*, const std::vector<std::string>&)> call;
+    Json::Value call(android::ITarnManager* manager, const std::vector<std::string>& texts) const;
+
+    const Signature* signature = nullptr;
+    Target target;
 };
 
 /** A controller with its methods in slot order. */

@@ -5,30 +5,57 @@
 
 #include <initializer_list>
 #include <string>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "registry/ResultTypes.h"
+
 namespace tarn::registry {
 
+/** What a call gave. */
+struct Answer {
+    Json::Value json;
+};
+
+template <typename T>
+Json::Value toJson(const T& value) {
+    return ResultType<T>::toJson(value);
+}
+
 /**
- * How a result of type T is shown: kType for people, toJson() for the value. Records specialise
- * it next to their controller:
+ * A record; specialised next to its controller:
  *
  *     template <>
- *     struct ResultWriter<android::SoundScreenAngle> {
- *         static constexpr const char* kType = "angles";
+ *     struct ResultType<android::SoundScreenAngle> : RecordResult<android::SoundScreenAngle> {
+ *         static constexpr const char* kWords = "angles";
  *         static Json::Value toJson(const android::SoundScreenAngle& angle) {
  *             return fields({{"first", angle.first}, {"second", angle.second}});
  *         }
  *     };
  */
-template <typename T, typename Enable = void>
-struct ResultWriter;
+template <typename T>
+struct RecordResult {
+    static constexpr Kind kKind = Kind::kRecord;
+    static void write(const T& value, Answer* answer) {
+        answer->json = ResultType<T>::toJson(value);
+    }
+};
 
 template <typename T>
-Json::Value toJson(const T& value) {
-    return ResultWriter<T>::toJson(value);
+Json::Value ResultType<T, std::enable_if_t<std::is_enum_v<T>>>::toJson(T value) {
+    return static_cast<Json::Int>(value);
+}
+
+template <typename T>
+Json::Value ResultType<std::vector<T>>::toJson(const std::vector<T>& list) {
+    Json::Value array(Json::arrayValue);
+    for (const T& element : list) array.append(ResultType<T>::toJson(element));
+    return array;
+}
+
+template <typename T>
+void ResultType<std::vector<T>>::write(const std::vector<T>& list, Answer* answer) {
+    answer->json = toJson(list);
 }
 
 /**
@@ -41,73 +68,8 @@ void appendField(Json::Value* record, const std::string& name, const Json::Value
 std::vector<std::string> fieldNames(const Json::Value& record);
 
 /** A JSON object of named values, which keeps their order. */
-inline Json::Value fields(std::initializer_list<std::pair<const char*, Json::Value>> members) {
-    Json::Value object(Json::objectValue);
-    for (const auto& [name, value] : members) appendField(&object, name, value);
-    return object;
-}
+Json::Value fields(std::initializer_list<std::pair<const char*, Json::Value>> members);
 
 std::string toUtf8(const android::String16& text);
-
-template <>
-struct ResultWriter<int> {
-    static constexpr const char* kType = "int";
-    static Json::Value toJson(int value) { return value; }
-};
-
-template <>
-struct ResultWriter<bool> {
-    static constexpr const char* kType = "bool";
-    static Json::Value toJson(bool value) { return value; }
-};
-
-template <>
-struct ResultWriter<float> {
-    static constexpr const char* kType = "float";
-    static Json::Value toJson(float value) { return value; }
-};
-
-template <>
-struct ResultWriter<std::string> {
-    static constexpr const char* kType = "text";
-    static Json::Value toJson(const std::string& value) { return value; }
-};
-
-template <>
-struct ResultWriter<char*> {
-    static constexpr const char* kType = "text";
-    static Json::Value toJson(const char* value) {
-        return value ? Json::Value(value) : Json::Value();
-    }
-};
-
-template <>
-struct ResultWriter<android::String16> {
-    static constexpr const char* kType = "text";
-    static Json::Value toJson(const android::String16& value) { return toUtf8(value); }
-};
-
-/** A result that an adapted method has put together itself; see Builder::adapted(). */
-template <>
-struct ResultWriter<Json::Value> {
-    static constexpr const char* kType = "record";
-    static Json::Value toJson(const Json::Value& value) { return value; }
-};
-
-template <typename T>
-struct ResultWriter<T, std::enable_if_t<std::is_enum_v<T>>> {
-    static constexpr const char* kType = "int";
-    static Json::Value toJson(T value) { return static_cast<Json::Int>(value); }
-};
-
-template <typename T>
-struct ResultWriter<std::vector<T>> {
-    static inline const std::string kType = std::string("list of ") + ResultWriter<T>::kType;
-    static Json::Value toJson(const std::vector<T>& list) {
-        Json::Value array(Json::arrayValue);
-        for (const T& element : list) array.append(ResultWriter<T>::toJson(element));
-        return array;
-    }
-};
 
 }  // namespace tarn::registry

@@ -7,10 +7,10 @@ using namespace android;
 namespace tarn::registry {
 
 void registerAiNoiseCtrl(std::vector<Controller>* registry) {
-    Builder<IAiNoiseCtrl>(registry, "aiNoise", "AiNoiseCtrl", &ITarnManager::getAiNoiseCtrl)
-            .method("setAiNoise", Row::CMD_AI_NOISE_SET_AI_NOISE, &IAiNoiseCtrl::setAiNoise,
-                    "level")
-            .method("getAiNoise", Row::CMD_AI_NOISE_GET_AI_NOISE, &IAiNoiseCtrl::getAiNoise);
+    Builder<IAiNoiseCtrl> builder(registry, "aiNoise", "AiNoiseCtrl",
+                                  &ITarnManager::getAiNoiseCtrl);
+    METHOD(setAiNoise, CMD_AI_NOISE_SET_AI_NOISE);
+    METHOD(getAiNoise, CMD_AI_NOISE_GET_AI_NOISE);
 }
 
 }  // namespace tarn::registry

@@ -7,9 +7,8 @@ using namespace android;
 namespace tarn::registry {
 
 void registerAnionCtrl(std::vector<Controller>* registry) {
-    Builder<IAnionCtrl>(registry, "anion", "AnionCtrl", &ITarnManager::getAnionCtrl)
-            .method("setAnionStatus", Row::CMD_ANION_SET_STATUS, &IAnionCtrl::setAnionStatus,
-                    "status");
+    Builder<IAnionCtrl> builder(registry, "anion", "AnionCtrl", &ITarnManager::getAnionCtrl);
+    METHOD(setAnionStatus, CMD_ANION_SET_STATUS);
 }
 
 }  // namespace tarn::registry

@@ -7,26 +7,18 @@ using namespace android;
 namespace tarn::registry {
 
 void registerAtCfgControl(std::vector<Controller>* registry) {
-    Builder<IAtCfgControl>(registry, "atCfg", "AtCfgControl", &ITarnManager::getAtCfgControl)
-            .method("readWidevinevKey", Row::CMD_AT_CFG_CTRL_READ_WVKEYBOX,
-                    &IAtCfgControl::readWidevinevKey)
-            .method("installWidevineKey", Row::CMD_AT_CFG_CTRL_INSTALL_WVKEYBOX,
-                    &IAtCfgControl::installWidevineKey, "keybox")
-            .method("deleteWidevineKey", Row::CMD_AT_CFG_CTRL_DELETE_WVKEYBOX,
-                    &IAtCfgControl::deleteWidevineKey)
-            .method("readAttestationKey", Row::CMD_AT_CFG_CTRL_READ_ATTESTATIONKEY,
-                    &IAtCfgControl::readAttestationKey)
-            .method("installAttestationKey", Row::CMD_AT_CFG_CTRL_INSTALL_ATTESTATIONKEY,
-                    &IAtCfgControl::installAttestationKey, "key")
-            .method("deleteAttestationKey", Row::CMD_AT_CFG_CTRL_DELETE_ATTESTATIONKEY,
-                    &IAtCfgControl::deleteAttestationKey)
-            .method("setString", Row::CMD_AT_CFG_CTRL_SET_STRING, &IAtCfgControl::setString,
-                    "key, value")
-            .method("getString", Row::CMD_AT_CFG_CTRL_GET_STRING, &IAtCfgControl::getString, "key")
-            .method("setInteger", Row::CMD_AT_CFG_CTRL_SET_INTEGER, &IAtCfgControl::setInteger,
-                    "key, value")
-            .method("getInteger", Row::CMD_AT_CFG_CTRL_GET_INTEGER, &IAtCfgControl::getInteger,
-                    "key");
+    Builder<IAtCfgControl> builder(registry, "atCfg", "AtCfgControl",
+                                   &ITarnManager::getAtCfgControl);
+    METHOD(readWidevinevKey, CMD_AT_CFG_CTRL_READ_WVKEYBOX);
+    METHOD(installWidevineKey, CMD_AT_CFG_CTRL_INSTALL_WVKEYBOX);
+    METHOD(deleteWidevineKey, CMD_AT_CFG_CTRL_DELETE_WVKEYBOX);
+    METHOD(readAttestationKey, CMD_AT_CFG_CTRL_READ_ATTESTATIONKEY);
+    METHOD(installAttestationKey, CMD_AT_CFG_CTRL_INSTALL_ATTESTATIONKEY);
+    METHOD(deleteAttestationKey, CMD_AT_CFG_CTRL_DELETE_ATTESTATIONKEY);
+    METHOD(setString, CMD_AT_CFG_CTRL_SET_STRING);
+    METHOD(getString, CMD_AT_CFG_CTRL_GET_STRING);
+    METHOD(setInteger, CMD_AT_CFG_CTRL_SET_INTEGER);
+    METHOD(getInteger, CMD_AT_CFG_CTRL_GET_INTEGER);
 }
 
 }  // namespace tarn::registry

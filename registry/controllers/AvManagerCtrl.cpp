@@ -1,27 +1,40 @@
 #include <tarn/IAvManagerCtrl.h>
 
+#include "registry/Arguments.h"
 #include "registry/Builder.h"
+#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
+namespace {
+
+void readHeader(const std::string& name, const std::string& text, Value* value) {
+    kIntsParameter.read(name, text, value);
+    if (value->numbers.size() != 8) {
+        throw BadArgument(name + ": \"" + text +
+                          "\" can't be used; accepted: eight ints, separated by commas");
+    }
+}
+
+const ParameterType kHeaderParameter = {Kind::kInts, "eight ints, separated by commas", readHeader};
+
+}  // namespace
+
 /** A metadata header: its eight items in order. */
 template <>
-struct ArgumentReader<_EunmAvCtrlHdmiout_> {
-    static constexpr const char* kType = "eight ints, separated by commas";
-    static _EunmAvCtrlHdmiout_ parse(const std::string& name, const std::string& text) {
-        const auto items = ArgumentReader<std::vector<int>>::parse(name, text);
-        if (items.size() != 8) {
-            throw BadArgument(name + ": \"" + text + "\" can't be used; accepted: " + kType);
-        }
-        return {items[0], items[1], items[2], items[3], items[4], items[5], items[6], items[7]};
+struct Parameter<_EunmAvCtrlHdmiout_> {
+    static constexpr const ParameterType* kType = &kHeaderParameter;
+    static _EunmAvCtrlHdmiout_ from(const Value& value) {
+        const auto item = [&value](size_t i) { return value.numbers.at(i); };
+        return {item(0), item(1), item(2), item(3), item(4), item(5), item(6), item(7)};
     }
 };
 
 template <>
-struct ResultWriter<AvSignalFormat> {
-    static constexpr const char* kType = "signal format";
+struct ResultType<AvSignalFormat> : RecordResult<AvSignalFormat> {
+    static constexpr const char* kWords = "signal format";
     static Json::Value toJson(const AvSignalFormat& format) {
         return fields({{"item1", format.item1},
                        {"item2", format.item2},
@@ -45,143 +58,96 @@ struct ResultWriter<AvSignalFormat> {
 // getDspTestResult() hands on no length, so its bytes can't be printed: it shows whether there
 // was a result.
 void registerAvManagerCtrl(std::vector<Controller>* registry) {
-    Builder<IAvManagerCtrl>(registry, "avManager", "AvManagerCtrl", &ITarnManager::getAvManagerCtrl)
-            .method("init", Row::CMD_AV_INIT, &IAvManagerCtrl::init)
-            .method("release", Row::CMD_AV_RELEASE, &IAvManagerCtrl::release)
-            .adapted(
-                    "send_metadata_process", Row::CMD_AV_SEND_METADATA,
-                    &IAvManagerCtrl::send_metadata_process,
-                    [](IAvManagerCtrl& av, _EunmAvCtrlHdmiout_ header, std::vector<uint8_t> data) {
-                        return av.send_metadata_process(&header, data.data(),
-                                                        static_cast<int>(data.size()));
-                    },
-                    "header, data")
-            .method("setDspVolume", Row::CMD_AV_SET_DSP_VOLUME, &IAvManagerCtrl::setDspVolume,
-                    "channel, volume")
-            .method("getDspVolume", Row::CMD_AV_GET_DSP_VOLUME, &IAvManagerCtrl::getDspVolume,
-                    "channel")
-            .method("setDspMute", Row::CMD_AV_SET_DSP_MUTE, &IAvManagerCtrl::setDspMute,
-                    "channel, mute")
-            .method("getDspMute", Row::CMD_AV_GET_DSP_MUTE, &IAvManagerCtrl::getDspMute, "channel")
-            .method("setDspAmpMute", Row::CMD_AV_SET_DSP_AMP_MUTE, &IAvManagerCtrl::setDspAmpMute,
-                    "mute")
-            .method("getDspAmpMute", Row::CMD_AV_GET_DSP_AMP_MUTE, &IAvManagerCtrl::getDspAmpMute)
-            .method("setDspBalance", Row::CMD_AV_SET_DSP_BALANCE, &IAvManagerCtrl::setDspBalance,
-                    "balance")
-            .method("getDspBalance", Row::CMD_AV_GET_DSP_BALANCE, &IAvManagerCtrl::getDspBalance)
-            .method("getDspPerStat", Row::CMD_AV_GET_DSP_PER_STAT, &IAvManagerCtrl::getDspPerStat,
-                    "channel")
-            .method("setDspSoundMode", Row::CMD_AV_SET_DSP_SOUND_MODE,
-                    &IAvManagerCtrl::setDspSoundMode, "mode")
-            .method("getDspSoundMode", Row::CMD_AV_GET_DSP_SOUND_MODE,
-                    &IAvManagerCtrl::getDspSoundMode)
-            .method("setDspTreble", Row::CMD_AV_SET_DSP_TREBLE, &IAvManagerCtrl::setDspTreble,
-                    "treble")
-            .method("getDspTreble", Row::CMD_AV_GET_DSP_TREBLE, &IAvManagerCtrl::getDspTreble)
-            .method("setDspBass", Row::CMD_AV_SET_DSP_BASS, &IAvManagerCtrl::setDspBass, "bass")
-            .method("getDspBass", Row::CMD_AV_GET_DSP_BASS, &IAvManagerCtrl::getDspBass)
-            .method("init_codecBoard", Row::CMD_AV_INIT_CODEC_BOARD,
-                    &IAvManagerCtrl::init_codecBoard, "first, second")
-            .method("deinit_codecBoard", Row::CMD_AV_DEINIT_CODEC_BOARD,
-                    &IAvManagerCtrl::deinit_codecBoard)
-            .method("connect_codecBoard", Row::CMD_AV_CONNECT_CODEC_BOARD,
-                    &IAvManagerCtrl::connect_codecBoard)
-            .method("disconnect_codecBoard", Row::CMD_AV_DISCONNECT_CODEC_BOARD,
-                    &IAvManagerCtrl::disconnect_codecBoard)
-            .method("setOutputDevice", Row::CMD_AV_SET_OUTPUT_DEVICE,
-                    &IAvManagerCtrl::setOutputDevice, "device")
-            .method("getOutputDevice", Row::CMD_AV_GET_OUTPUT_DEVICE,
-                    &IAvManagerCtrl::getOutputDevice)
-            .method("setPowerDown", Row::CMD_AV_SET_POWER_DOWN, &IAvManagerCtrl::setPowerDown)
-            .method("setDspUsbEnable", Row::CMD_AV_SET_DSP_USB_ENABLE,
-                    &IAvManagerCtrl::setDspUsbEnable, "on")
-            .method("getDspUsbEnable", Row::CMD_AV_GET_DSP_USB_ENABLE,
-                    &IAvManagerCtrl::getDspUsbEnable)
-            .method("setSpkOutPutMode", Row::CMD_AV_SET_SPK_OUTPUT_MODE,
-                    &IAvManagerCtrl::setSpkOutPutMode, "mode")
-            .method("getSpkOutPutMode", Row::CMD_AV_GET_SPK_OUTPUT_MODE,
-                    &IAvManagerCtrl::getSpkOutPutMode)
-            .method("setMicAlgorithm", Row::CMD_AV_SET_MIC_ALGORITHM,
-                    overload<bool(int)>(&IAvManagerCtrl::setMicAlgorithm), "algorithm")
-            .method("getMicAlgorithm", Row::CMD_AV_GET_MIC_ALGORITHM,
-                    overload<int()>(&IAvManagerCtrl::getMicAlgorithm))
-            .method("setMicAlgorithm", Row::CMD_AV_SET_MIC_ALGORITHM_STATE,
-                    overload<bool(int, bool)>(&IAvManagerCtrl::setMicAlgorithm), "algorithm, on")
-            .method("getMicAlgorithm", Row::CMD_AV_GET_MIC_ALGORITHM_STATE,
-                    overload<bool(int)>(&IAvManagerCtrl::getMicAlgorithm), "algorithm")
-            .method("setMicAlgorithmParameters", Row::CMD_AV_SET_MIC_ALGORITHM_PARAMETERS,
-                    &IAvManagerCtrl::setMicAlgorithmParameters, "algorithm, value")
-            .method("getMicAlgorithmParameters", Row::CMD_AV_GET_MIC_ALGORITHM_PARAMETERS,
-                    &IAvManagerCtrl::getMicAlgorithmParameters, "algorithm")
-            .method("setMicMute", Row::CMD_AV_SET_MIC_MUTE, &IAvManagerCtrl::setMicMute, "mute")
-            .method("getMicMute", Row::CMD_AV_GET_MIC_MUTE, &IAvManagerCtrl::getMicMute)
-            .method("setMicVolume", Row::CMD_AV_SET_MIC_VOLUME, &IAvManagerCtrl::setMicVolume,
-                    "volume")
-            .method("getMicVolume", Row::CMD_AV_GET_MIC_VOLUME, &IAvManagerCtrl::getMicVolume)
-            .method("isMicAvailable", Row::CMD_AV_IS_MIC_AVAILABLE, &IAvManagerCtrl::isMicAvailable)
-            .method("enableMic", Row::CMD_AV_ENABLE_MIC, &IAvManagerCtrl::enableMic, "on")
-            .method("isMicEnabled", Row::CMD_AV_IS_MIC_ENABLED, &IAvManagerCtrl::isMicEnabled)
-            .method("getSN", Row::CMD_AV_GET_SN, &IAvManagerCtrl::getSN)
-            .method("setCameraZoomIn", Row::CMD_AV_CAMERA_ZOOM_IN, &IAvManagerCtrl::setCameraZoomIn)
-            .method("setCameraZoomOut", Row::CMD_AV_CAMERA_ZOOM_OUT,
-                    &IAvManagerCtrl::setCameraZoomOut)
-            .method("setCameraMoveUp", Row::CMD_AV_CAMERA_MOVE_UP, &IAvManagerCtrl::setCameraMoveUp)
-            .method("setCameraMoveDown", Row::CMD_AV_CAMERA_MOVE_DOWN,
-                    &IAvManagerCtrl::setCameraMoveDown)
-            .method("setCameraMoveLeft", Row::CMD_AV_CAMERA_MOVE_LEFT,
-                    &IAvManagerCtrl::setCameraMoveLeft)
-            .method("setCameraMoveRight", Row::CMD_AV_CAMERA_MOVE_RIGHT,
-                    &IAvManagerCtrl::setCameraMoveRight)
-            .method("setCameraAutoFramingMode", Row::CMD_AV_SET_CAMERA_AUTO_FRAMING_MODE,
-                    &IAvManagerCtrl::setCameraAutoFramingMode, "on")
-            .method("setCameraPresetPosition", Row::CMD_AV_SET_CAMERA_PRESET_POSITION,
-                    &IAvManagerCtrl::setCameraPresetPosition, "preset")
-            .method("getCameraPresetPosition", Row::CMD_AV_GET_CAMERA_PRESET_POSITION,
-                    &IAvManagerCtrl::getCameraPresetPosition)
-            .method("gotoCameraPresetPosition", Row::CMD_AV_GOTO_CAMERA_PRESET_POSITION,
-                    &IAvManagerCtrl::gotoCameraPresetPosition, "preset")
-            .method("delCameraPresetPosition", Row::CMD_AV_DEL_CAMERA_PRESET_POSITION,
-                    &IAvManagerCtrl::delCameraPresetPosition, "preset")
-            .method("getCameraAutoFramingMode", Row::CMD_AV_GET_CAMERA_AUTO_FRAMING_MODE,
-                    &IAvManagerCtrl::getCameraAutoFramingMode)
-            .method("getCameraSpeakerTrackingMode", Row::CMD_AV_GET_CAMERA_SPEAKER_TRACKING_MODE,
-                    &IAvManagerCtrl::getCameraSpeakerTrackingMode)
-            .method("setCameraSpeakerTrackingMode", Row::CMD_AV_SET_CAMERA_SPEAKER_TRACKING_MODE,
-                    &IAvManagerCtrl::setCameraSpeakerTrackingMode, "on")
-            .method("setMoveCam", Row::CMD_AV_SET_MOVE_CAM, &IAvManagerCtrl::setMoveCam, "on")
-            .method("getMoveCam", Row::CMD_AV_GET_MOVE_CAM, &IAvManagerCtrl::getMoveCam)
-            .method("transferDoaData", Row::CMD_AV_TRANSFER_DOA_DATA,
-                    &IAvManagerCtrl::transferDoaData, "data")
-            .method("setCameraPtzMode", Row::CMD_AV_SET_CAMERA_PTZ_MODE,
-                    &IAvManagerCtrl::setCameraPtzMode, "mode")
-            .method("getCameraPtzMode", Row::CMD_AV_GET_CAMERA_PTZ_MODE,
-                    &IAvManagerCtrl::getCameraPtzMode)
-            .adapted("getDspTestResult", Row::CMD_AV_GET_DSP_TEST_RESULT,
-                     &IAvManagerCtrl::getDspTestResult,
-                     [](IAvManagerCtrl& av) { return av.getDspTestResult() != nullptr; })
-            .method("setCameraStatusUpdate", Row::CMD_AV_SET_CAMERA_STATUS_UPDATE,
-                    &IAvManagerCtrl::setCameraStatusUpdate, "on")
-            .method("getDspOtaModule", Row::CMD_AV_GET_DSP_OTA_MODULE,
-                    &IAvManagerCtrl::getDspOtaModule)
-            .method("get_av_signal_format", Row::CMD_AV_GET_SIGNAL_FORMAT,
-                    &IAvManagerCtrl::get_av_signal_format)
-            .method("setCameraZoomReset", Row::CMD_AV_CAMERA_ZOOM_RESET,
-                    &IAvManagerCtrl::setCameraZoomReset)
-            .method("setCameraPipMode", Row::CMD_AV_SET_CAMERA_PIP_MODE,
-                    &IAvManagerCtrl::setCameraPipMode, "mode")
-            .method("getCameraPipMode", Row::CMD_AV_GET_CAMERA_PIP_MODE,
-                    &IAvManagerCtrl::getCameraPipMode)
-            .method("setCameraAisrStatus", Row::CMD_AV_SET_CAMERA_AISR_STATUS,
-                    &IAvManagerCtrl::setCameraAisrStatus, "status")
-            .method("getCameraAisrStatus", Row::CMD_AV_GET_CAMERA_AISR_STATUS,
-                    &IAvManagerCtrl::getCameraAisrStatus)
-            .method("setCameraHdr", Row::CMD_AV_SET_CAMERA_HDR, &IAvManagerCtrl::setCameraHdr,
-                    "mode")
-            .method("getCameraHdr", Row::CMD_AV_GET_CAMERA_HDR, &IAvManagerCtrl::getCameraHdr)
-            .method("setCameraDeFogMode", Row::CMD_AV_SET_CAMERA_DE_FOG_MODE,
-                    &IAvManagerCtrl::setCameraDeFogMode, "mode")
-            .method("getCameraDeFogMode", Row::CMD_AV_GET_CAMERA_DE_FOG_MODE,
-                    &IAvManagerCtrl::getCameraDeFogMode);
+    Builder<IAvManagerCtrl> builder(registry, "avManager", "AvManagerCtrl",
+                                    &ITarnManager::getAvManagerCtrl);
+    METHOD(init, CMD_AV_INIT);
+    METHOD(release, CMD_AV_RELEASE);
+    builder.adapted(
+            "send_metadata_process", Row::CMD_AV_SEND_METADATA,
+            &IAvManagerCtrl::send_metadata_process,
+            +[](IAvManagerCtrl& av, _EunmAvCtrlHdmiout_ header, std::vector<uint8_t> data) {
+                return av.send_metadata_process(&header, data.data(),
+                                                static_cast<int>(data.size()));
+            },
+            "header, data");
+    METHOD(setDspVolume, CMD_AV_SET_DSP_VOLUME);
+    METHOD(getDspVolume, CMD_AV_GET_DSP_VOLUME);
+    METHOD(setDspMute, CMD_AV_SET_DSP_MUTE);
+    METHOD(getDspMute, CMD_AV_GET_DSP_MUTE);
+    METHOD(setDspAmpMute, CMD_AV_SET_DSP_AMP_MUTE);
+    METHOD(getDspAmpMute, CMD_AV_GET_DSP_AMP_MUTE);
+    METHOD(setDspBalance, CMD_AV_SET_DSP_BALANCE);
+    METHOD(getDspBalance, CMD_AV_GET_DSP_BALANCE);
+    METHOD(getDspPerStat, CMD_AV_GET_DSP_PER_STAT);
+    METHOD(setDspSoundMode, CMD_AV_SET_DSP_SOUND_MODE);
+    METHOD(getDspSoundMode, CMD_AV_GET_DSP_SOUND_MODE);
+    METHOD(setDspTreble, CMD_AV_SET_DSP_TREBLE);
+    METHOD(getDspTreble, CMD_AV_GET_DSP_TREBLE);
+    METHOD(setDspBass, CMD_AV_SET_DSP_BASS);
+    METHOD(getDspBass, CMD_AV_GET_DSP_BASS);
+    METHOD(init_codecBoard, CMD_AV_INIT_CODEC_BOARD);
+    METHOD(deinit_codecBoard, CMD_AV_DEINIT_CODEC_BOARD);
+    METHOD(connect_codecBoard, CMD_AV_CONNECT_CODEC_BOARD);
+    METHOD(disconnect_codecBoard, CMD_AV_DISCONNECT_CODEC_BOARD);
+    METHOD(setOutputDevice, CMD_AV_SET_OUTPUT_DEVICE);
+    METHOD(getOutputDevice, CMD_AV_GET_OUTPUT_DEVICE);
+    METHOD(setPowerDown, CMD_AV_SET_POWER_DOWN);
+    METHOD(setDspUsbEnable, CMD_AV_SET_DSP_USB_ENABLE);
+    METHOD(getDspUsbEnable, CMD_AV_GET_DSP_USB_ENABLE);
+    METHOD(setSpkOutPutMode, CMD_AV_SET_SPK_OUTPUT_MODE);
+    METHOD(getSpkOutPutMode, CMD_AV_GET_SPK_OUTPUT_MODE);
+    builder.method("setMicAlgorithm", Row::CMD_AV_SET_MIC_ALGORITHM,
+                   overload<bool(int)>(&IAvManagerCtrl::setMicAlgorithm), "algorithm");
+    builder.method("getMicAlgorithm", Row::CMD_AV_GET_MIC_ALGORITHM,
+                   overload<int()>(&IAvManagerCtrl::getMicAlgorithm), "");
+    builder.method("setMicAlgorithm", Row::CMD_AV_SET_MIC_ALGORITHM_STATE,
+                   overload<bool(int, bool)>(&IAvManagerCtrl::setMicAlgorithm), "algorithm, on");
+    builder.method("getMicAlgorithm", Row::CMD_AV_GET_MIC_ALGORITHM_STATE,
+                   overload<bool(int)>(&IAvManagerCtrl::getMicAlgorithm), "algorithm");
+    METHOD(setMicAlgorithmParameters, CMD_AV_SET_MIC_ALGORITHM_PARAMETERS);
+    METHOD(getMicAlgorithmParameters, CMD_AV_GET_MIC_ALGORITHM_PARAMETERS);
+    METHOD(setMicMute, CMD_AV_SET_MIC_MUTE);
+    METHOD(getMicMute, CMD_AV_GET_MIC_MUTE);
+    METHOD(setMicVolume, CMD_AV_SET_MIC_VOLUME);
+    METHOD(getMicVolume, CMD_AV_GET_MIC_VOLUME);
+    METHOD(isMicAvailable, CMD_AV_IS_MIC_AVAILABLE);
+    METHOD(enableMic, CMD_AV_ENABLE_MIC);
+    METHOD(isMicEnabled, CMD_AV_IS_MIC_ENABLED);
+    METHOD(getSN, CMD_AV_GET_SN);
+    METHOD(setCameraZoomIn, CMD_AV_CAMERA_ZOOM_IN);
+    METHOD(setCameraZoomOut, CMD_AV_CAMERA_ZOOM_OUT);
+    METHOD(setCameraMoveUp, CMD_AV_CAMERA_MOVE_UP);
+    METHOD(setCameraMoveDown, CMD_AV_CAMERA_MOVE_DOWN);
+    METHOD(setCameraMoveLeft, CMD_AV_CAMERA_MOVE_LEFT);
+    METHOD(setCameraMoveRight, CMD_AV_CAMERA_MOVE_RIGHT);
+    METHOD(setCameraAutoFramingMode, CMD_AV_SET_CAMERA_AUTO_FRAMING_MODE);
+    METHOD(setCameraPresetPosition, CMD_AV_SET_CAMERA_PRESET_POSITION);
+    METHOD(getCameraPresetPosition, CMD_AV_GET_CAMERA_PRESET_POSITION);
+    METHOD(gotoCameraPresetPosition, CMD_AV_GOTO_CAMERA_PRESET_POSITION);
+    METHOD(delCameraPresetPosition, CMD_AV_DEL_CAMERA_PRESET_POSITION);
+    METHOD(getCameraAutoFramingMode, CMD_AV_GET_CAMERA_AUTO_FRAMING_MODE);
+    METHOD(getCameraSpeakerTrackingMode, CMD_AV_GET_CAMERA_SPEAKER_TRACKING_MODE);
+    METHOD(setCameraSpeakerTrackingMode, CMD_AV_SET_CAMERA_SPEAKER_TRACKING_MODE);
+    METHOD(setMoveCam, CMD_AV_SET_MOVE_CAM);
+    METHOD(getMoveCam, CMD_AV_GET_MOVE_CAM);
+    METHOD(transferDoaData, CMD_AV_TRANSFER_DOA_DATA);
+    METHOD(setCameraPtzMode, CMD_AV_SET_CAMERA_PTZ_MODE);
+    METHOD(getCameraPtzMode, CMD_AV_GET_CAMERA_PTZ_MODE);
+    builder.adapted(
+            "getDspTestResult", Row::CMD_AV_GET_DSP_TEST_RESULT, &IAvManagerCtrl::getDspTestResult,
+            +[](IAvManagerCtrl& av) { return av.getDspTestResult() != nullptr; });
+    METHOD(setCameraStatusUpdate, CMD_AV_SET_CAMERA_STATUS_UPDATE);
+    METHOD(getDspOtaModule, CMD_AV_GET_DSP_OTA_MODULE);
+    METHOD(get_av_signal_format, CMD_AV_GET_SIGNAL_FORMAT);
+    METHOD(setCameraZoomReset, CMD_AV_CAMERA_ZOOM_RESET);
+    METHOD(setCameraPipMode, CMD_AV_SET_CAMERA_PIP_MODE);
+    METHOD(getCameraPipMode, CMD_AV_GET_CAMERA_PIP_MODE);
+    METHOD(setCameraAisrStatus, CMD_AV_SET_CAMERA_AISR_STATUS);
+    METHOD(getCameraAisrStatus, CMD_AV_GET_CAMERA_AISR_STATUS);
+    METHOD(setCameraHdr, CMD_AV_SET_CAMERA_HDR);
+    METHOD(getCameraHdr, CMD_AV_GET_CAMERA_HDR);
+    METHOD(setCameraDeFogMode, CMD_AV_SET_CAMERA_DE_FOG_MODE);
+    METHOD(getCameraDeFogMode, CMD_AV_GET_CAMERA_DE_FOG_MODE);
 }
 
 }  // namespace tarn::registry

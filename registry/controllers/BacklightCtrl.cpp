@@ -7,29 +7,19 @@ using namespace android;
 namespace tarn::registry {
 
 void registerBacklightCtrl(std::vector<Controller>* registry) {
-    Builder<IBacklightCtrl>(registry, "backlight", "BacklightCtrl", &ITarnManager::getBacklightCtrl)
-            .method("getScreenBrightness", Row::CMD_BACKLIGHT_GET_SCREEN_BRIGHTNESS,
-                    &IBacklightCtrl::getScreenBrightness)
-            .method("setScreenBrightness", Row::CMD_BACKLIGHT_SET_SCREEN_BRIGHTNESS,
-                    &IBacklightCtrl::setScreenBrightness, "brightness")
-            .method("getScreenMaxBrightness", Row::CMD_BACKLIGHT_GET_SCREEN_MAX_BRIGHTNESS,
-                    &IBacklightCtrl::getScreenMaxBrightness)
-            .method("setScreenMaxBrightness", Row::CMD_BACKLIGHT_SET_SCREEN_MAX_BRIGHTNESS,
-                    &IBacklightCtrl::setScreenMaxBrightness, "brightness")
-            .method("getScreenMinBrightness", Row::CMD_BACKLIGHT_GET_SCREEN_MIN_BRIGHTNESS,
-                    &IBacklightCtrl::getScreenMinBrightness)
-            .method("setScreenMinBrightness", Row::CMD_BACKLIGHT_SET_SCREEN_MIN_BRIGHTNESS,
-                    &IBacklightCtrl::setScreenMinBrightness, "brightness")
-            .method("getScreenRealBrightness", Row::CMD_BACKLIGHT_GET_SCREEN_REAL_BRIGHTNESS,
-                    &IBacklightCtrl::getScreenRealBrightness)
-            .method("setScreenRealBrightness", Row::CMD_BACKLIGHT_SET_SCREEN_REAL_BRIGHTNESS,
-                    &IBacklightCtrl::setScreenRealBrightness, "brightness")
-            .method("getCustomerMinBacklight", Row::CMD_BACKLIGHT_GET_CUSTOMER_MIN_BACKLIGHT,
-                    &IBacklightCtrl::getCustomerMinBacklight)
-            .method("getCustomerMaxBacklight", Row::CMD_BACKLIGHT_GET_CUSTOMER_MAX_BACKLIGHT,
-                    &IBacklightCtrl::getCustomerMaxBacklight)
-            .method("getMaxBrightnessSetEnable", Row::CMD_BACKLIGHT_GET_MAX_BRIGHTNESS_SET_ENABLE,
-                    &IBacklightCtrl::getMaxBrightnessSetEnable);
+    Builder<IBacklightCtrl> builder(registry, "backlight", "BacklightCtrl",
+                                    &ITarnManager::getBacklightCtrl);
+    METHOD(getScreenBrightness, CMD_BACKLIGHT_GET_SCREEN_BRIGHTNESS);
+    METHOD(setScreenBrightness, CMD_BACKLIGHT_SET_SCREEN_BRIGHTNESS);
+    METHOD(getScreenMaxBrightness, CMD_BACKLIGHT_GET_SCREEN_MAX_BRIGHTNESS);
+    METHOD(setScreenMaxBrightness, CMD_BACKLIGHT_SET_SCREEN_MAX_BRIGHTNESS);
+    METHOD(getScreenMinBrightness, CMD_BACKLIGHT_GET_SCREEN_MIN_BRIGHTNESS);
+    METHOD(setScreenMinBrightness, CMD_BACKLIGHT_SET_SCREEN_MIN_BRIGHTNESS);
+    METHOD(getScreenRealBrightness, CMD_BACKLIGHT_GET_SCREEN_REAL_BRIGHTNESS);
+    METHOD(setScreenRealBrightness, CMD_BACKLIGHT_SET_SCREEN_REAL_BRIGHTNESS);
+    METHOD(getCustomerMinBacklight, CMD_BACKLIGHT_GET_CUSTOMER_MIN_BACKLIGHT);
+    METHOD(getCustomerMaxBacklight, CMD_BACKLIGHT_GET_CUSTOMER_MAX_BACKLIGHT);
+    METHOD(getMaxBrightnessSetEnable, CMD_BACKLIGHT_GET_MAX_BRIGHTNESS_SET_ENABLE);
 }
 
 }  // namespace tarn::registry

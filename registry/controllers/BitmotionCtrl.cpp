@@ -7,21 +7,16 @@ using namespace android;
 namespace tarn::registry {
 
 void registerBitmotionCtrl(std::vector<Controller>* registry) {
-    Builder<IBitmotionCtrl>(registry, "bitmotion", "BitmotionCtrl", &ITarnManager::getBitmotionCtrl)
-            .method("setBrightness", Row::CMD_BITMOTION_SET_BRIGHTNESS,
-                    &IBitmotionCtrl::setBrightness, "brightness")
-            .method("setDevicePortEnabled", Row::CMD_BITMOTION_SET_DEVICE_PORT_ENABLED,
-                    &IBitmotionCtrl::setDevicePortEnabled, "port, enabled")
-            .method("setWan1Address", Row::CMD_BITMOTION_SET_WAN1_ADDRESS,
-                    &IBitmotionCtrl::setWan1Address, "address")
-            .method("setWan2Address", Row::CMD_BITMOTION_SET_WAN2_ADDRESS,
-                    &IBitmotionCtrl::setWan2Address, "address")
-            .method("updateFirmware", Row::CMD_BITMOTION_UPDATE_FIRMWARE,
-                    &IBitmotionCtrl::updateFirmware, "path")
-            .method("setupWorkMode", Row::CMD_BITMOTION_SETUP_WORK_MODE,
-                    &IBitmotionCtrl::setupWorkMode, "mode")
-            .method("erase", Row::CMD_BITMOTION_ERASE, &IBitmotionCtrl::erase, "what")
-            .method("getVersion", Row::CMD_BITMOTION_GET_VERSION, &IBitmotionCtrl::getVersion);
+    Builder<IBitmotionCtrl> builder(registry, "bitmotion", "BitmotionCtrl",
+                                    &ITarnManager::getBitmotionCtrl);
+    METHOD(setBrightness, CMD_BITMOTION_SET_BRIGHTNESS);
+    METHOD(setDevicePortEnabled, CMD_BITMOTION_SET_DEVICE_PORT_ENABLED);
+    METHOD(setWan1Address, CMD_BITMOTION_SET_WAN1_ADDRESS);
+    METHOD(setWan2Address, CMD_BITMOTION_SET_WAN2_ADDRESS);
+    METHOD(updateFirmware, CMD_BITMOTION_UPDATE_FIRMWARE);
+    METHOD(setupWorkMode, CMD_BITMOTION_SETUP_WORK_MODE);
+    METHOD(erase, CMD_BITMOTION_ERASE);
+    METHOD(getVersion, CMD_BITMOTION_GET_VERSION);
 }
 
 }  // namespace tarn::registry

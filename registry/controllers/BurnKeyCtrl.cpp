@@ -1,14 +1,15 @@
 #include <tarn/IBurnKeyCtrl.h>
 
 #include "registry/Builder.h"
+#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultWriter<EntitySwKey> {
-    static constexpr const char* kType = "kind of key";
+struct ResultType<EntitySwKey> : RecordResult<EntitySwKey> {
+    static constexpr const char* kWords = "kind of key";
     static Json::Value toJson(const EntitySwKey& key) {
         return fields({{"keyId", key.keyId},
                        {"keyText1", key.keyText1},
@@ -20,20 +21,19 @@ struct ResultWriter<EntitySwKey> {
 };
 
 void registerBurnKeyCtrl(std::vector<Controller>* registry) {
-    Builder<IBurnKeyCtrl>(registry, "burnKey", "BurnKeyCtrl", &ITarnManager::getBurnKeyCtrl)
-            .adapted("getSupportBurnKeyList", Row::CMD_BURN_KEY_GET_SUPPORT_LIST,
-                     &IBurnKeyCtrl::getSupportBurnKeyList,
-                     [](IBurnKeyCtrl& burnKey) {
-                         std::vector<EntitySwKey> list;
-                         const bool ok = burnKey.getSupportBurnKeyList(&list);
-                         return fields({{"result", ok}, {"list", toJson(list)}});
-                     })
-            .method("setBurnKey", Row::CMD_BURN_KEY_SET_KEY, &IBurnKeyCtrl::setBurnKey, "type, key")
-            .method("setCleanBurnKey", Row::CMD_BURN_KEY_CLEAN_KEY, &IBurnKeyCtrl::setCleanBurnKey,
-                    "type")
-            .method("getBurnKey", Row::CMD_BURN_KEY_GET_KEY, &IBurnKeyCtrl::getBurnKey, "type")
-            .method("getBurnKeyVersion", Row::CMD_BURN_KEY_GET_KEY_VERSION,
-                    &IBurnKeyCtrl::getBurnKeyVersion, "type");
+    Builder<IBurnKeyCtrl> builder(registry, "burnKey", "BurnKeyCtrl",
+                                  &ITarnManager::getBurnKeyCtrl);
+    builder.adapted(
+            "getSupportBurnKeyList", Row::CMD_BURN_KEY_GET_SUPPORT_LIST,
+            &IBurnKeyCtrl::getSupportBurnKeyList, +[](IBurnKeyCtrl& burnKey) {
+                std::vector<EntitySwKey> list;
+                const bool ok = burnKey.getSupportBurnKeyList(&list);
+                return fields({{"result", ok}, {"list", toJson(list)}});
+            });
+    METHOD(setBurnKey, CMD_BURN_KEY_SET_KEY);
+    METHOD(setCleanBurnKey, CMD_BURN_KEY_CLEAN_KEY);
+    METHOD(getBurnKey, CMD_BURN_KEY_GET_KEY);
+    METHOD(getBurnKeyVersion, CMD_BURN_KEY_GET_KEY_VERSION);
 }
 
 }  // namespace tarn::registry

@@ -1,22 +1,23 @@
 #include <tarn/ICameraCtrl.h>
 
 #include "registry/Builder.h"
+#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultWriter<TarnCameraInfo> {
-    static constexpr const char* kType = "camera information";
+struct ResultType<TarnCameraInfo> : RecordResult<TarnCameraInfo> {
+    static constexpr const char* kWords = "camera information";
     static Json::Value toJson(const TarnCameraInfo& info) {
         return fields({{"text0", info.text0}, {"value0", info.value0}, {"value1", info.value1}});
     }
 };
 
 template <>
-struct ResultWriter<EntityFwCamera> {
-    static constexpr const char* kType = "camera firmware";
+struct ResultType<EntityFwCamera> : RecordResult<EntityFwCamera> {
+    static constexpr const char* kWords = "camera firmware";
     static Json::Value toJson(const EntityFwCamera& camera) {
         return fields({{"value0", camera.value0},
                        {"value1", camera.value1},
@@ -34,35 +35,30 @@ struct ResultWriter<EntityFwCamera> {
 };
 
 void registerCameraCtrl(std::vector<Controller>* registry) {
-    Builder<ICameraCtrl>(registry, "camera", "CameraCtrl", &ITarnManager::getCameraCtrl)
-            .method("getCameraEnable", Row::CMD_CAMERA_GET_ENABLE, &ICameraCtrl::getCameraEnable)
-            .method("setCameraEnable", Row::CMD_CAMERA_SET_ENABLE, &ICameraCtrl::setCameraEnable,
-                    "enabled")
-            .method("getCameraDeviceName", Row::CMD_CAMERA_GET_DEVICENAME,
-                    &ICameraCtrl::getCameraDeviceName, "camera")
-            .adapted(
-                    "getCameraDeviceInfo", Row::CMD_CAMERA_GET_DEVICE_INFO,
-                    &ICameraCtrl::getCameraDeviceInfo,
-                    [](ICameraCtrl& cameras, int camera) {
-                        TarnCameraInfo info;
-                        const bool ok = cameras.getCameraDeviceInfo(camera, info);
-                        return fields({{"result", ok}, {"info", toJson(info)}});
-                    },
-                    "camera")
-            .method("isCameraEnabled", Row::CMD_CAMERA_IS_ENABLED, &ICameraCtrl::isCameraEnabled,
-                    "fwCameraType")
-            .method("setCameraEnabled", Row::CMD_CAMERA_SET_ENABLED, &ICameraCtrl::setCameraEnabled,
-                    "fwCameraType, enabled")
-            .adapted("getFwCameraList", Row::CMD_CAMERA_GET_FW_LIST, &ICameraCtrl::getFwCameraList,
-                     [](ICameraCtrl& cameras) {
-                         std::vector<EntityFwCamera> list;
-                         const bool ok = cameras.getFwCameraList(&list);
-                         return fields({{"result", ok}, {"list", toJson(list)}});
-                     })
-            .method("setCameraIdDeviceMap", Row::CMD_CAMERA_SET_ID_DEVICE_MAP,
-                    &ICameraCtrl::setCameraIdDeviceMap, "id, device")
-            .method("getCameraDeviceSn", Row::CMD_CAMERA_GET_DEVICESN,
-                    &ICameraCtrl::getCameraDeviceSn, "camera");
+    Builder<ICameraCtrl> builder(registry, "camera", "CameraCtrl", &ITarnManager::getCameraCtrl);
+    METHOD(getCameraEnable, CMD_CAMERA_GET_ENABLE);
+    METHOD(setCameraEnable, CMD_CAMERA_SET_ENABLE);
+    METHOD(getCameraDeviceName, CMD_CAMERA_GET_DEVICENAME);
+    builder.adapted(
+            "getCameraDeviceInfo", Row::CMD_CAMERA_GET_DEVICE_INFO,
+            &ICameraCtrl::getCameraDeviceInfo,
+            +[](ICameraCtrl& cameras, int camera) {
+                TarnCameraInfo info;
+                const bool ok = cameras.getCameraDeviceInfo(camera, info);
+                return fields({{"result", ok}, {"info", toJson(info)}});
+            },
+            "camera");
+    METHOD(isCameraEnabled, CMD_CAMERA_IS_ENABLED);
+    METHOD(setCameraEnabled, CMD_CAMERA_SET_ENABLED);
+    builder.adapted(
+            "getFwCameraList", Row::CMD_CAMERA_GET_FW_LIST, &ICameraCtrl::getFwCameraList,
+            +[](ICameraCtrl& cameras) {
+                std::vector<EntityFwCamera> list;
+                const bool ok = cameras.getFwCameraList(&list);
+                return fields({{"result", ok}, {"list", toJson(list)}});
+            });
+    METHOD(setCameraIdDeviceMap, CMD_CAMERA_SET_ID_DEVICE_MAP);
+    METHOD(getCameraDeviceSn, CMD_CAMERA_GET_DEVICESN);
 }
 
 }  // namespace tarn::registry

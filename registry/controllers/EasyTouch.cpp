@@ -7,9 +7,8 @@ using namespace android;
 namespace tarn::registry {
 
 void registerEasyTouch(std::vector<Controller>* registry) {
-    Builder<IEasyTouch>(registry, "easyTouch", "EasyTouch", &ITarnManager::getEasyTouch)
-            .method("getEasyTouchLogInfo", Row::CMD_EASY_TOUCH_GET_LOG_INFO,
-                    &IEasyTouch::getEasyTouchLogInfo);
+    Builder<IEasyTouch> builder(registry, "easyTouch", "EasyTouch", &ITarnManager::getEasyTouch);
+    METHOD(getEasyTouchLogInfo, CMD_EASY_TOUCH_GET_LOG_INFO);
 }
 
 }  // namespace tarn::registry

@@ -1,14 +1,15 @@
 #include <tarn/IFwTouchCtrl.h>
 
 #include "registry/Builder.h"
+#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultWriter<EntityFwTouch> {
-    static constexpr const char* kType = "touch device";
+struct ResultType<EntityFwTouch> : RecordResult<EntityFwTouch> {
+    static constexpr const char* kWords = "touch device";
     static Json::Value toJson(const EntityFwTouch& touch) {
         return fields({{"value0", touch.value0},
                        {"value1", touch.value1},
@@ -25,8 +26,8 @@ struct ResultWriter<EntityFwTouch> {
 };
 
 template <>
-struct ResultWriter<EntityFwTouchDriver> {
-    static constexpr const char* kType = "touch driver";
+struct ResultType<EntityFwTouchDriver> : RecordResult<EntityFwTouchDriver> {
+    static constexpr const char* kWords = "touch driver";
     static Json::Value toJson(const EntityFwTouchDriver& driver) {
         return fields({{"value0", driver.value0},
                        {"value1", driver.value1},
@@ -38,8 +39,8 @@ struct ResultWriter<EntityFwTouchDriver> {
 };
 
 template <>
-struct ResultWriter<TouchFwDataList> {
-    static constexpr const char* kType = "touch device with driver";
+struct ResultType<TouchFwDataList> : RecordResult<TouchFwDataList> {
+    static constexpr const char* kWords = "touch device with driver";
     static Json::Value toJson(const TouchFwDataList& data) {
         return fields({{"short0", data.short0},
                        {"short1", data.short1},
@@ -56,26 +57,29 @@ struct ResultWriter<TouchFwDataList> {
 };
 
 void registerFwTouchCtrl(std::vector<Controller>* registry) {
-    Builder<IFwTouchCtrl>(registry, "fwTouch", "FwTouchCtrl", &ITarnManager::getFwTouchCtrl)
-            .adapted("getFwTouchList", Row::CMD_FW_TOUCH_GET_LIST, &IFwTouchCtrl::getFwTouchList,
-                     [](IFwTouchCtrl& fwTouch) {
-                         std::vector<EntityFwTouch> list;
-                         const bool ok = fwTouch.getFwTouchList(&list);
-                         return fields({{"result", ok}, {"list", toJson(list)}});
-                     })
-            .adapted("getFwTouchDriverInfoList", Row::CMD_FW_TOUCH_GET_DRIVER_LIST,
-                     &IFwTouchCtrl::getFwTouchDriverInfoList,
-                     [](IFwTouchCtrl& fwTouch) {
-                         std::vector<EntityFwTouchDriver> list;
-                         const bool ok = fwTouch.getFwTouchDriverInfoList(&list);
-                         return fields({{"result", ok}, {"list", toJson(list)}});
-                     })
-            .adapted("getTouchFwDataList", Row::CMD_FW_TOUCH_GET_DATA_LIST,
-                     &IFwTouchCtrl::getTouchFwDataList, [](IFwTouchCtrl& fwTouch) {
-                         std::vector<TouchFwDataList> list;
-                         const bool ok = fwTouch.getTouchFwDataList(&list);
-                         return fields({{"result", ok}, {"list", toJson(list)}});
-                     });
+    Builder<IFwTouchCtrl> builder(registry, "fwTouch", "FwTouchCtrl",
+                                  &ITarnManager::getFwTouchCtrl);
+    builder.adapted(
+            "getFwTouchList", Row::CMD_FW_TOUCH_GET_LIST, &IFwTouchCtrl::getFwTouchList,
+            +[](IFwTouchCtrl& fwTouch) {
+                std::vector<EntityFwTouch> list;
+                const bool ok = fwTouch.getFwTouchList(&list);
+                return fields({{"result", ok}, {"list", toJson(list)}});
+            });
+    builder.adapted(
+            "getFwTouchDriverInfoList", Row::CMD_FW_TOUCH_GET_DRIVER_LIST,
+            &IFwTouchCtrl::getFwTouchDriverInfoList, +[](IFwTouchCtrl& fwTouch) {
+                std::vector<EntityFwTouchDriver> list;
+                const bool ok = fwTouch.getFwTouchDriverInfoList(&list);
+                return fields({{"result", ok}, {"list", toJson(list)}});
+            });
+    builder.adapted(
+            "getTouchFwDataList", Row::CMD_FW_TOUCH_GET_DATA_LIST,
+            &IFwTouchCtrl::getTouchFwDataList, +[](IFwTouchCtrl& fwTouch) {
+                std::vector<TouchFwDataList> list;
+                const bool ok = fwTouch.getTouchFwDataList(&list);
+                return fields({{"result", ok}, {"list", toJson(list)}});
+            });
 }
 
 }  // namespace tarn::registry

@@ -1,14 +1,15 @@
 #include <tarn/IFwUpgrade.h>
 
 #include "registry/Builder.h"
+#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultWriter<EntityFwInfoMcu> {
-    static constexpr const char* kType = "MCU firmware";
+struct ResultType<EntityFwInfoMcu> : RecordResult<EntityFwInfoMcu> {
+    static constexpr const char* kWords = "MCU firmware";
     static Json::Value toJson(const EntityFwInfoMcu& mcu) {
         return fields({{"intField1", mcu.intField1},
                        {"intField2", mcu.intField2},
@@ -24,25 +25,22 @@ struct ResultWriter<EntityFwInfoMcu> {
 };
 
 void registerFwUpgrade(std::vector<Controller>* registry) {
-    Builder<IFwUpgrade>(registry, "fwUpgrade", "FwUpgrade", &ITarnManager::getFwUpgrade)
-            .method("setFirmwareUpgrade", Row::CMD_FW_SET_UPGRADE, &IFwUpgrade::setFirmwareUpgrade,
-                    "type, path")
-            .method("getMcuBinNameToUp", Row::CMD_FW_GET_MCU_BIN_NAME_TO_UP,
-                    &IFwUpgrade::getMcuBinNameToUp, "type")
-            .method("getFwVersion", Row::CMD_FW_GET_VERSION, &IFwUpgrade::getFwVersion, "type")
-            .method("getFwOtakey", Row::CMD_FW_GET_OTAKEY, &IFwUpgrade::getFwOtakey, "type")
-            .method("getFwInfoTypecList", Row::CMD_FW_GET_INFO_TYPEC_LIST,
-                    &IFwUpgrade::getFwInfoTypecList)
-            .adapted("getFwMcuList", Row::CMD_FW_GET_MCU_LIST, &IFwUpgrade::getFwMcuList,
-                     [](IFwUpgrade& fwUpgrade) {
-                         std::vector<EntityFwInfoMcu> list;
-                         const bool ok = fwUpgrade.getFwMcuList(list);
-                         return fields({{"result", ok}, {"list", toJson(list)}});
-                     })
-            .method("getFwTargetVersion", Row::CMD_FW_GET_TARGET_VERSION,
-                    &IFwUpgrade::getFwTargetVersion, "type")
-            .method("getFwTargetBinPath", Row::CMD_FW_GET_TARGET_BIN_PATH,
-                    &IFwUpgrade::getFwTargetBinPath, "type");
+    Builder<IFwUpgrade> builder(registry, "fwUpgrade", "FwUpgrade", &ITarnManager::getFwUpgrade);
+    builder.method("setFirmwareUpgrade", Row::CMD_FW_SET_UPGRADE, &IFwUpgrade::setFirmwareUpgrade,
+                   "type, path");
+    METHOD(getMcuBinNameToUp, CMD_FW_GET_MCU_BIN_NAME_TO_UP);
+    METHOD(getFwVersion, CMD_FW_GET_VERSION);
+    METHOD(getFwOtakey, CMD_FW_GET_OTAKEY);
+    METHOD(getFwInfoTypecList, CMD_FW_GET_INFO_TYPEC_LIST);
+    builder.adapted(
+            "getFwMcuList", Row::CMD_FW_GET_MCU_LIST, &IFwUpgrade::getFwMcuList,
+            +[](IFwUpgrade& fwUpgrade) {
+                std::vector<EntityFwInfoMcu> list;
+                const bool ok = fwUpgrade.getFwMcuList(list);
+                return fields({{"result", ok}, {"list", toJson(list)}});
+            });
+    METHOD(getFwTargetVersion, CMD_FW_GET_TARGET_VERSION);
+    METHOD(getFwTargetBinPath, CMD_FW_GET_TARGET_BIN_PATH);
 }
 
 }  // namespace tarn::registry

@@ -1,14 +1,15 @@
 #include <tarn/IIoBoxCtrl.h>
 
 #include "registry/Builder.h"
+#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultWriter<EntityFwIoBox> {
-    static constexpr const char* kType = "I/O box firmware";
+struct ResultType<EntityFwIoBox> : RecordResult<EntityFwIoBox> {
+    static constexpr const char* kWords = "I/O box firmware";
     static Json::Value toJson(const EntityFwIoBox& box) {
         return fields({{"value0", box.value0},
                        {"value1", box.value1},
@@ -26,15 +27,15 @@ struct ResultWriter<EntityFwIoBox> {
 };
 
 void registerIoBoxCtrl(std::vector<Controller>* registry) {
-    Builder<IIoBoxCtrl>(registry, "ioBox", "IoBoxCtrl", &ITarnManager::getIoBoxCtrl)
-            .method("getConnectStatus", Row::CMD_IOBOX_GET_CONNECT_STATUS,
-                    &IIoBoxCtrl::getConnectStatus, "box")
-            .adapted("getFwIoBoxList", Row::CMD_IOBOX_GET_FW_LIST, &IIoBoxCtrl::getFwIoBoxList,
-                     [](IIoBoxCtrl& ioBox) {
-                         std::vector<EntityFwIoBox> list;
-                         const bool ok = ioBox.getFwIoBoxList(&list);
-                         return fields({{"result", ok}, {"list", toJson(list)}});
-                     });
+    Builder<IIoBoxCtrl> builder(registry, "ioBox", "IoBoxCtrl", &ITarnManager::getIoBoxCtrl);
+    METHOD(getConnectStatus, CMD_IOBOX_GET_CONNECT_STATUS);
+    builder.adapted(
+            "getFwIoBoxList", Row::CMD_IOBOX_GET_FW_LIST, &IIoBoxCtrl::getFwIoBoxList,
+            +[](IIoBoxCtrl& ioBox) {
+                std::vector<EntityFwIoBox> list;
+                const bool ok = ioBox.getFwIoBoxList(&list);
+                return fields({{"result", ok}, {"list", toJson(list)}});
+            });
 }
 
 }  // namespace tarn::registry

@@ -7,11 +7,10 @@ using namespace android;
 namespace tarn::registry {
 
 void registerKeyboardCtrl(std::vector<Controller>* registry) {
-    Builder<IKeyboardCtrl>(registry, "keyboard", "KeyboardCtrl", &ITarnManager::getKeyboardCtrl)
-            .method("getKeyboardByName", Row::CMD_KEYBOARD_GET_BY_NAME,
-                    &IKeyboardCtrl::getKeyboardByName, "name")
-            .method("getKeyboardByID", Row::CMD_KEYBOARD_GET_BY_ID, &IKeyboardCtrl::getKeyboardByID,
-                    "id0, id1");
+    Builder<IKeyboardCtrl> builder(registry, "keyboard", "KeyboardCtrl",
+                                   &ITarnManager::getKeyboardCtrl);
+    METHOD(getKeyboardByName, CMD_KEYBOARD_GET_BY_NAME);
+    METHOD(getKeyboardByID, CMD_KEYBOARD_GET_BY_ID);
 }
 
 }  // namespace tarn::registry

@@ -7,10 +7,9 @@ using namespace android;
 namespace tarn::registry {
 
 void registerLightEffectCtrl(std::vector<Controller>* registry) {
-    Builder<ILightEffectCtrl>(registry, "lightEffect", "LightEffectCtrl",
-                              &ITarnManager::getLightEffectCtrl)
-            .method("setLightEffectMode", Row::CMD_LIGHT_EFFECT_SET_MODE,
-                    &ILightEffectCtrl::setLightEffectMode, "device, mode");
+    Builder<ILightEffectCtrl> builder(registry, "lightEffect", "LightEffectCtrl",
+                                      &ITarnManager::getLightEffectCtrl);
+    METHOD(setLightEffectMode, CMD_LIGHT_EFFECT_SET_MODE);
 }
 
 }  // namespace tarn::registry

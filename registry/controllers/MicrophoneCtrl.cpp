@@ -1,14 +1,15 @@
 #include <tarn/IMicrophoneCtrl.h>
 
 #include "registry/Builder.h"
+#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultWriter<EntityMicrophone> {
-    static constexpr const char* kType = "microphone";
+struct ResultType<EntityMicrophone> : RecordResult<EntityMicrophone> {
+    static constexpr const char* kWords = "microphone";
     static Json::Value toJson(const EntityMicrophone& microphone) {
         return fields({{"value0", microphone.value0},
                        {"value1", microphone.value1},
@@ -25,19 +26,17 @@ struct ResultWriter<EntityMicrophone> {
 };
 
 void registerMicrophoneCtrl(std::vector<Controller>* registry) {
-    Builder<IMicrophoneCtrl>(registry, "microphone", "MicrophoneCtrl",
-                             &ITarnManager::getMicrophoneCtrl)
-            .adapted("getFwMicrophoneList", Row::CMD_MICROPHONE_GET_FW_MICROPHONE_LIST,
-                     &IMicrophoneCtrl::getFwMicrophoneList,
-                     [](IMicrophoneCtrl& microphone) {
-                         std::vector<EntityMicrophone> list;
-                         const int result = microphone.getFwMicrophoneList(&list);
-                         return fields({{"result", toJson(result)}, {"list", toJson(list)}});
-                     })
-            .method("isBuildInMicEnabled", Row::CMD_MICROPHONE_IS_BUILD_IN_MIC_ENABLED,
-                    &IMicrophoneCtrl::isBuildInMicEnabled, "microphone")
-            .method("setBuildInMicEnabled", Row::CMD_MICROPHONE_SET_BUILD_IN_MIC_ENABLED,
-                    &IMicrophoneCtrl::setBuildInMicEnabled, "microphone, enabled");
+    Builder<IMicrophoneCtrl> builder(registry, "microphone", "MicrophoneCtrl",
+                                     &ITarnManager::getMicrophoneCtrl);
+    builder.adapted(
+            "getFwMicrophoneList", Row::CMD_MICROPHONE_GET_FW_MICROPHONE_LIST,
+            &IMicrophoneCtrl::getFwMicrophoneList, +[](IMicrophoneCtrl& microphone) {
+                std::vector<EntityMicrophone> list;
+                const int result = microphone.getFwMicrophoneList(&list);
+                return fields({{"result", toJson(result)}, {"list", toJson(list)}});
+            });
+    METHOD(isBuildInMicEnabled, CMD_MICROPHONE_IS_BUILD_IN_MIC_ENABLED);
+    METHOD(setBuildInMicEnabled, CMD_MICROPHONE_SET_BUILD_IN_MIC_ENABLED);
 }
 
 }  // namespace tarn::registry

@@ -7,68 +7,40 @@ using namespace android;
 namespace tarn::registry {
 
 void registerNetworkCtrl(std::vector<Controller>* registry) {
-    Builder<INetworkCtrl>(registry, "network", "NetworkCtrl", &ITarnManager::getNetworkCtrl)
-            .method("SetEthernetEnable", Row::CMD_NETWORK_SET_ETHERNET_ENABLE,
-                    &INetworkCtrl::SetEthernetEnable, "port, on")
-            .method("SetEthernetNatEnable", Row::CMD_NETWORK_SET_ETHERNET_NAT_ENABLE,
-                    &INetworkCtrl::SetEthernetNatEnable, "port, on")
-            .method("getAntennaRssi", Row::CMD_NETWORK_GET_ANTENNA_RSSI,
-                    &INetworkCtrl::getAntennaRssi, "antenna")
-            .method("setEthernetRate", Row::CMD_NETWORK_SET_ETHERNET_RATE,
-                    &INetworkCtrl::setEthernetRate, "port, rate")
-            .method("getEthernetRate", Row::CMD_NETWORK_GET_ETHERNET_RATE,
-                    &INetworkCtrl::getEthernetRate, "port")
-            .method("setMcuDhcpEnable", Row::CMD_NETWORK_SET_MCU_DHCP_ENABLE,
-                    &INetworkCtrl::setMcuDhcpEnable, "on")
-            .method("setMcuDhcpIp", Row::CMD_NETWORK_SET_MCU_DHCP_IP, &INetworkCtrl::setMcuDhcpIp,
-                    "ip")
-            .method("setMcuDhcpGw", Row::CMD_NETWORK_SET_MCU_DHCP_GW, &INetworkCtrl::setMcuDhcpGw,
-                    "gateway")
-            .method("setMcuDhcpMsk", Row::CMD_NETWORK_SET_MCU_DHCP_MSK,
-                    &INetworkCtrl::setMcuDhcpMsk, "mask")
-            .method("SetWOLEnable", Row::CMD_NETWORK_SET_WOL_ENABLE, &INetworkCtrl::SetWOLEnable,
-                    "on")
-            .method("GetWOLEnable", Row::CMD_NETWORK_GET_WOL_ENABLE, &INetworkCtrl::GetWOLEnable)
-            .method("SetWOWEnable", Row::CMD_NETWORK_SET_WOW_ENABLE, &INetworkCtrl::SetWOWEnable,
-                    "on")
-            .method("GetWOWEnable", Row::CMD_NETWORK_GET_WOW_ENABLE, &INetworkCtrl::GetWOWEnable)
-            .method("getWifiDongleStatus", Row::CMD_NETWORK_GET_WIFI_DONGLE_STATUS,
-                    &INetworkCtrl::getWifiDongleStatus)
-            .method("setMcuToControlMonitorNetwork",
-                    Row::CMD_NETWORK_SET_MCU_TO_CONTROL_MONITOR_NETWORK,
-                    &INetworkCtrl::setMcuToControlMonitorNetwork, "on")
-            .method("disableApUsbDevice", Row::CMD_NETWORK_DISABLE_AP_USB_DEVICE,
-                    &INetworkCtrl::disableApUsbDevice, "disable")
-            .method("setVlanParams", Row::CMD_NETWORK_SET_VLAN_PARAMS, &INetworkCtrl::setVlanParams,
-                    "vid, priority")
-            .method("getVlanParamsVid", Row::CMD_NETWORK_GET_VLAN_PARAMS_VID,
-                    &INetworkCtrl::getVlanParamsVid)
-            .method("getVlanParamsVidPriority", Row::CMD_NETWORK_GET_VLAN_PARAMS_VID_PRIORITY,
-                    &INetworkCtrl::getVlanParamsVidPriority)
-            .method("setVlanEnable", Row::CMD_NETWORK_SET_VLAN_ENABLE, &INetworkCtrl::setVlanEnable,
-                    "on")
-            .method("getVlanEnable", Row::CMD_NETWORK_GET_VLAN_ENABLE, &INetworkCtrl::getVlanEnable)
-            .method("getTracerouteMessage", Row::CMD_NETWORK_GET_TRACEROUTE_MESSAGE,
-                    &INetworkCtrl::getTracerouteMessage, "target")
-            .method("setLldpParams", Row::CMD_NETWORK_SET_LLDP_PARAMS, &INetworkCtrl::setLldpParams,
-                    "params")
-            .method("getLldpParams", Row::CMD_NETWORK_GET_LLDP_PARAMS, &INetworkCtrl::getLldpParams)
-            .method("setSharingDirection", Row::CMD_NETWORK_SET_SHARING_DIRECTION,
-                    &INetworkCtrl::setSharingDirection, "direction")
-            .method("getSharingDirection", Row::CMD_NETWORK_GET_SHARING_DIRECTION,
-                    &INetworkCtrl::getSharingDirection)
-            .method("setAndroidToPcSharing", Row::CMD_NETWORK_SET_ANDROID_TO_PC_SHARING,
-                    &INetworkCtrl::setAndroidToPcSharing, "on")
-            .method("getAndroidToPcSharing", Row::CMD_NETWORK_GET_ANDROID_TO_PC_SHARING,
-                    &INetworkCtrl::getAndroidToPcSharing)
-            .method("setHotspotSharing", Row::CMD_NETWORK_SET_HOTSPOT_SHARING,
-                    &INetworkCtrl::setHotspotSharing, "on")
-            .method("getHotspotSharing", Row::CMD_NETWORK_GET_HOTSPOT_SHARING,
-                    &INetworkCtrl::getHotspotSharing)
-            .method("SetWOLPCOnlyEnable", Row::CMD_NETWORK_SET_WOL_PC_ONLY_ENABLE,
-                    &INetworkCtrl::SetWOLPCOnlyEnable, "on")
-            .method("GetWOLPCOnlyEnable", Row::CMD_NETWORK_GET_WOL_PC_ONLY_ENABLE,
-                    &INetworkCtrl::GetWOLPCOnlyEnable);
+    Builder<INetworkCtrl> builder(registry, "network", "NetworkCtrl",
+                                  &ITarnManager::getNetworkCtrl);
+    METHOD(SetEthernetEnable, CMD_NETWORK_SET_ETHERNET_ENABLE);
+    METHOD(SetEthernetNatEnable, CMD_NETWORK_SET_ETHERNET_NAT_ENABLE);
+    METHOD(getAntennaRssi, CMD_NETWORK_GET_ANTENNA_RSSI);
+    METHOD(setEthernetRate, CMD_NETWORK_SET_ETHERNET_RATE);
+    METHOD(getEthernetRate, CMD_NETWORK_GET_ETHERNET_RATE);
+    METHOD(setMcuDhcpEnable, CMD_NETWORK_SET_MCU_DHCP_ENABLE);
+    METHOD(setMcuDhcpIp, CMD_NETWORK_SET_MCU_DHCP_IP);
+    METHOD(setMcuDhcpGw, CMD_NETWORK_SET_MCU_DHCP_GW);
+    METHOD(setMcuDhcpMsk, CMD_NETWORK_SET_MCU_DHCP_MSK);
+    METHOD(SetWOLEnable, CMD_NETWORK_SET_WOL_ENABLE);
+    METHOD(GetWOLEnable, CMD_NETWORK_GET_WOL_ENABLE);
+    METHOD(SetWOWEnable, CMD_NETWORK_SET_WOW_ENABLE);
+    METHOD(GetWOWEnable, CMD_NETWORK_GET_WOW_ENABLE);
+    METHOD(getWifiDongleStatus, CMD_NETWORK_GET_WIFI_DONGLE_STATUS);
+    METHOD(setMcuToControlMonitorNetwork, CMD_NETWORK_SET_MCU_TO_CONTROL_MONITOR_NETWORK);
+    METHOD(disableApUsbDevice, CMD_NETWORK_DISABLE_AP_USB_DEVICE);
+    METHOD(setVlanParams, CMD_NETWORK_SET_VLAN_PARAMS);
+    METHOD(getVlanParamsVid, CMD_NETWORK_GET_VLAN_PARAMS_VID);
+    METHOD(getVlanParamsVidPriority, CMD_NETWORK_GET_VLAN_PARAMS_VID_PRIORITY);
+    METHOD(setVlanEnable, CMD_NETWORK_SET_VLAN_ENABLE);
+    METHOD(getVlanEnable, CMD_NETWORK_GET_VLAN_ENABLE);
+    METHOD(getTracerouteMessage, CMD_NETWORK_GET_TRACEROUTE_MESSAGE);
+    METHOD(setLldpParams, CMD_NETWORK_SET_LLDP_PARAMS);
+    METHOD(getLldpParams, CMD_NETWORK_GET_LLDP_PARAMS);
+    METHOD(setSharingDirection, CMD_NETWORK_SET_SHARING_DIRECTION);
+    METHOD(getSharingDirection, CMD_NETWORK_GET_SHARING_DIRECTION);
+    METHOD(setAndroidToPcSharing, CMD_NETWORK_SET_ANDROID_TO_PC_SHARING);
+    METHOD(getAndroidToPcSharing, CMD_NETWORK_GET_ANDROID_TO_PC_SHARING);
+    METHOD(setHotspotSharing, CMD_NETWORK_SET_HOTSPOT_SHARING);
+    METHOD(getHotspotSharing, CMD_NETWORK_GET_HOTSPOT_SHARING);
+    METHOD(SetWOLPCOnlyEnable, CMD_NETWORK_SET_WOL_PC_ONLY_ENABLE);
+    METHOD(GetWOLPCOnlyEnable, CMD_NETWORK_GET_WOL_PC_ONLY_ENABLE);
 }
 
 }  // namespace tarn::registry

@@ -1,14 +1,15 @@
 #include <tarn/IPQCtrl.h>
 
 #include "registry/Builder.h"
+#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultWriter<PresetColorTempValues> {
-    static constexpr const char* kType = "preset";
+struct ResultType<PresetColorTempValues> : RecordResult<PresetColorTempValues> {
+    static constexpr const char* kWords = "preset";
     static Json::Value toJson(const PresetColorTempValues& values) {
         return fields(
                 {{"first", values.first}, {"second", values.second}, {"third", values.third}});
@@ -16,86 +17,60 @@ struct ResultWriter<PresetColorTempValues> {
 };
 
 void registerPQCtrl(std::vector<Controller>* registry) {
-    Builder<IPQCtrl>(registry, "pq", "PQCtrl", &ITarnManager::getPQCtrol)
-            .method("getDCREnable", Row::CMD_PQ_GET_DCR_ENABLE, &IPQCtrl::getDCREnable)
-            .method("getDcrMaxBacklight", Row::CMD_PQ_GET_DCR_MAX_BACKLIGHT,
-                    &IPQCtrl::getDcrMaxBacklight)
-            .method("getDcrMinBacklight", Row::CMD_PQ_GET_DCR_MIN_BACKLIGHT,
-                    &IPQCtrl::getDcrMinBacklight)
-            .method("getDcrStepTime", Row::CMD_PQ_GET_DCR_STEP_TIME, &IPQCtrl::getDcrStepTime)
-            .method("getDcrStepValue", Row::CMD_PQ_GET_DCR_STEP_VALUE, &IPQCtrl::getDcrStepValue)
-            .method("setDCREnable", Row::CMD_PQ_SET_DCR_ENABLE, &IPQCtrl::setDCREnable, "on")
-            .method("setDcrMaxBacklight", Row::CMD_PQ_SET_DCR_MAX_BACKLIGHT,
-                    &IPQCtrl::setDcrMaxBacklight, "level")
-            .method("setDcrMinBacklight", Row::CMD_PQ_SET_DCR_MIN_BACKLIGHT,
-                    &IPQCtrl::setDcrMinBacklight, "level")
-            .method("setDcrStepTime", Row::CMD_PQ_SET_DCR_STEP_TIME, &IPQCtrl::setDcrStepTime,
-                    "time")
-            .method("setDcrStepValue", Row::CMD_PQ_SET_DCR_STEP_VALUE, &IPQCtrl::setDcrStepValue,
-                    "value")
-            .method("getDBCEnable", Row::CMD_PQ_GET_DBC_ENABLE, &IPQCtrl::getDBCEnable)
-            .method("setDBCEnable", Row::CMD_PQ_SET_DBC_ENABLE, &IPQCtrl::setDBCEnable, "on")
-            .method("getPQRGain", Row::CMD_PQ_GET_R_GAIN, &IPQCtrl::getPQRGain)
-            .method("setPQRGain", Row::CMD_PQ_SET_R_GAIN, &IPQCtrl::setPQRGain, "gain")
-            .method("getPQGGain", Row::CMD_PQ_GET_G_GAIN, &IPQCtrl::getPQGGain)
-            .method("setPQGGain", Row::CMD_PQ_SET_G_GAIN, &IPQCtrl::setPQGGain, "gain")
-            .method("getPQBGain", Row::CMD_PQ_GET_B_GAIN, &IPQCtrl::getPQBGain)
-            .method("setPQBGain", Row::CMD_PQ_SET_B_GAIN, &IPQCtrl::setPQBGain, "gain")
-            .method("getColorTemp", Row::CMD_PQ_GET_COLOR_TEMP, &IPQCtrl::getColorTemp)
-            .method("setColorTemp", Row::CMD_PQ_SET_COLOR_TEMP, &IPQCtrl::setColorTemp, "colorTemp")
-            .method("getSaturation", Row::CMD_PQ_GET_SATURATION, &IPQCtrl::getSaturation)
-            .method("setSaturation", Row::CMD_PQ_SET_SATURATION, &IPQCtrl::setSaturation,
-                    "saturation")
-            .method("getSharpness", Row::CMD_PQ_GET_SHARPNESS, &IPQCtrl::getSharpness)
-            .method("setSharpness", Row::CMD_PQ_SET_SHARPNESS, &IPQCtrl::setSharpness, "sharpness")
-            .method("getContrast", Row::CMD_PQ_GET_CONTRAST, &IPQCtrl::getContrast)
-            .method("setContrast", Row::CMD_PQ_SET_CONTRAST, &IPQCtrl::setContrast, "contrast")
-            .method("getHue", Row::CMD_PQ_GET_HUE, &IPQCtrl::getHue)
-            .method("setHue", Row::CMD_PQ_SET_HUE, &IPQCtrl::setHue, "hue")
-            .method("getPictureMode", Row::CMD_PQ_GET_PICTURE_MODE, &IPQCtrl::getPictureMode)
-            .method("setPictureMode", Row::CMD_PQ_SET_PICTURE_MODE, &IPQCtrl::setPictureMode,
-                    "mode")
-            .method("getGammaMode", Row::CMD_PQ_GET_GAMMA_MODE, &IPQCtrl::getGammaMode)
-            .method("setGammaMode", Row::CMD_PQ_SET_GAMMA_MODE, &IPQCtrl::setGammaMode, "mode")
-            .method("getBrightness", Row::CMD_PQ_GET_BRIGHTNESS, &IPQCtrl::getBrightness)
-            .method("setBrightness", Row::CMD_PQ_SET_BRIGHTNESS, &IPQCtrl::setBrightness,
-                    "brightness")
-            .method("getPQRGainWithoutSave", Row::CMD_PQ_GET_R_GAIN_WITHOUT_SAVE,
-                    &IPQCtrl::getPQRGainWithoutSave)
-            .method("setPQRGainWithoutSave", Row::CMD_PQ_SET_R_GAIN_WITHOUT_SAVE,
-                    &IPQCtrl::setPQRGainWithoutSave, "gain")
-            .method("getPQGGainWithoutSave", Row::CMD_PQ_GET_G_GAIN_WITHOUT_SAVE,
-                    &IPQCtrl::getPQGGainWithoutSave)
-            .method("setPQGGainWithoutSave", Row::CMD_PQ_SET_G_GAIN_WITHOUT_SAVE,
-                    &IPQCtrl::setPQGGainWithoutSave, "gain")
-            .method("getPQBGainWithoutSave", Row::CMD_PQ_GET_B_GAIN_WITHOUT_SAVE,
-                    &IPQCtrl::getPQBGainWithoutSave)
-            .method("setPQBGainWithoutSave", Row::CMD_PQ_SET_B_GAIN_WITHOUT_SAVE,
-                    &IPQCtrl::setPQBGainWithoutSave, "gain")
-            .method("setPresetColorTempMode", Row::CMD_PQ_SET_PRESET_COLOR_TEMP_MODE,
-                    &IPQCtrl::setPresetColorTempMode, "a, b, c, d, e")
-            .method("getPresetColorTempMode", Row::CMD_PQ_GET_PRESET_COLOR_TEMP_MODE,
-                    &IPQCtrl::getPresetColorTempMode, "a, b")
-            .method("resetWhiteBalance", Row::CMD_PQ_RESET_WHITE_BALANCE,
-                    &IPQCtrl::resetWhiteBalance)
-            .method("getEyePQModeIndexToSave", Row::CMD_PQ_GET_EYE_PQ_MODE_INDEX_TO_SAVE,
-                    &IPQCtrl::getEyePQModeIndexToSave)
-            .method("getVideoDisplayZoneTilingEnable",
-                    Row::CMD_PQ_GET_VIDEO_DISPLAY_ZONE_TILING_ENABLE,
-                    &IPQCtrl::getVideoDisplayZoneTilingEnable)
-            .method("setVideoDisplayZoneTilingEnable",
-                    Row::CMD_PQ_SET_VIDEO_DISPLAY_ZONE_TILING_ENABLE,
-                    &IPQCtrl::setVideoDisplayZoneTilingEnable, "enabled")
-            .method("getVideoDisplayZoneCompEnable", Row::CMD_PQ_GET_VIDEO_DISPLAY_ZONE_COMP_ENABLE,
-                    &IPQCtrl::getVideoDisplayZoneCompEnable)
-            .method("setVideoDisplayZoneCompEnable", Row::CMD_PQ_SET_VIDEO_DISPLAY_ZONE_COMP_ENABLE,
-                    &IPQCtrl::setVideoDisplayZoneCompEnable, "enabled")
-            .method("getHDCPVersion", Row::CMD_PQ_GET_HDCP_VERSION, &IPQCtrl::getHDCPVersion,
-                    "source")
-            .method("setHDCPVersion", Row::CMD_PQ_SET_HDCP_VERSION, &IPQCtrl::setHDCPVersion,
-                    "source, version")
-            .method("getAspectMode", Row::CMD_PQ_GET_ASPECT_MODE, &IPQCtrl::getAspectMode)
-            .method("setAspectMode", Row::CMD_PQ_SET_ASPECT_MODE, &IPQCtrl::setAspectMode, "mode");
+    Builder<IPQCtrl> builder(registry, "pq", "PQCtrl", &ITarnManager::getPQCtrol);
+    METHOD(getDCREnable, CMD_PQ_GET_DCR_ENABLE);
+    METHOD(getDcrMaxBacklight, CMD_PQ_GET_DCR_MAX_BACKLIGHT);
+    METHOD(getDcrMinBacklight, CMD_PQ_GET_DCR_MIN_BACKLIGHT);
+    METHOD(getDcrStepTime, CMD_PQ_GET_DCR_STEP_TIME);
+    METHOD(getDcrStepValue, CMD_PQ_GET_DCR_STEP_VALUE);
+    METHOD(setDCREnable, CMD_PQ_SET_DCR_ENABLE);
+    METHOD(setDcrMaxBacklight, CMD_PQ_SET_DCR_MAX_BACKLIGHT);
+    METHOD(setDcrMinBacklight, CMD_PQ_SET_DCR_MIN_BACKLIGHT);
+    METHOD(setDcrStepTime, CMD_PQ_SET_DCR_STEP_TIME);
+    METHOD(setDcrStepValue, CMD_PQ_SET_DCR_STEP_VALUE);
+    METHOD(getDBCEnable, CMD_PQ_GET_DBC_ENABLE);
+    METHOD(setDBCEnable, CMD_PQ_SET_DBC_ENABLE);
+    METHOD(getPQRGain, CMD_PQ_GET_R_GAIN);
+    METHOD(setPQRGain, CMD_PQ_SET_R_GAIN);
+    METHOD(getPQGGain, CMD_PQ_GET_G_GAIN);
+    METHOD(setPQGGain, CMD_PQ_SET_G_GAIN);
+    METHOD(getPQBGain, CMD_PQ_GET_B_GAIN);
+    METHOD(setPQBGain, CMD_PQ_SET_B_GAIN);
+    METHOD(getColorTemp, CMD_PQ_GET_COLOR_TEMP);
+    METHOD(setColorTemp, CMD_PQ_SET_COLOR_TEMP);
+    METHOD(getSaturation, CMD_PQ_GET_SATURATION);
+    METHOD(setSaturation, CMD_PQ_SET_SATURATION);
+    METHOD(getSharpness, CMD_PQ_GET_SHARPNESS);
+    METHOD(setSharpness, CMD_PQ_SET_SHARPNESS);
+    METHOD(getContrast, CMD_PQ_GET_CONTRAST);
+    METHOD(setContrast, CMD_PQ_SET_CONTRAST);
+    METHOD(getHue, CMD_PQ_GET_HUE);
+    METHOD(setHue, CMD_PQ_SET_HUE);
+    METHOD(getPictureMode, CMD_PQ_GET_PICTURE_MODE);
+    METHOD(setPictureMode, CMD_PQ_SET_PICTURE_MODE);
+    METHOD(getGammaMode, CMD_PQ_GET_GAMMA_MODE);
+    METHOD(setGammaMode, CMD_PQ_SET_GAMMA_MODE);
+    METHOD(getBrightness, CMD_PQ_GET_BRIGHTNESS);
+    METHOD(setBrightness, CMD_PQ_SET_BRIGHTNESS);
+    METHOD(getPQRGainWithoutSave, CMD_PQ_GET_R_GAIN_WITHOUT_SAVE);
+    METHOD(setPQRGainWithoutSave, CMD_PQ_SET_R_GAIN_WITHOUT_SAVE);
+    METHOD(getPQGGainWithoutSave, CMD_PQ_GET_G_GAIN_WITHOUT_SAVE);
+    METHOD(setPQGGainWithoutSave, CMD_PQ_SET_G_GAIN_WITHOUT_SAVE);
+    METHOD(getPQBGainWithoutSave, CMD_PQ_GET_B_GAIN_WITHOUT_SAVE);
+    METHOD(setPQBGainWithoutSave, CMD_PQ_SET_B_GAIN_WITHOUT_SAVE);
+    METHOD(setPresetColorTempMode, CMD_PQ_SET_PRESET_COLOR_TEMP_MODE);
+    METHOD(getPresetColorTempMode, CMD_PQ_GET_PRESET_COLOR_TEMP_MODE);
+    METHOD(resetWhiteBalance, CMD_PQ_RESET_WHITE_BALANCE);
+    METHOD(getEyePQModeIndexToSave, CMD_PQ_GET_EYE_PQ_MODE_INDEX_TO_SAVE);
+    METHOD(getVideoDisplayZoneTilingEnable, CMD_PQ_GET_VIDEO_DISPLAY_ZONE_TILING_ENABLE);
+    METHOD(setVideoDisplayZoneTilingEnable, CMD_PQ_SET_VIDEO_DISPLAY_ZONE_TILING_ENABLE);
+    METHOD(getVideoDisplayZoneCompEnable, CMD_PQ_GET_VIDEO_DISPLAY_ZONE_COMP_ENABLE);
+    METHOD(setVideoDisplayZoneCompEnable, CMD_PQ_SET_VIDEO_DISPLAY_ZONE_COMP_ENABLE);
+    builder.method("getHDCPVersion", Row::CMD_PQ_GET_HDCP_VERSION, &IPQCtrl::getHDCPVersion,
+                   "source");
+    METHOD(setHDCPVersion, CMD_PQ_SET_HDCP_VERSION);
+    METHOD(getAspectMode, CMD_PQ_GET_ASPECT_MODE);
+    METHOD(setAspectMode, CMD_PQ_SET_ASPECT_MODE);
 }
 
 }  // namespace tarn::registry

@@ -1,6 +1,7 @@
 #include <tarn/IPropertiesCtrl.h>
 
 #include "registry/Builder.h"
+#include "registry/Results.h"
 
 using namespace android;
 
@@ -14,18 +15,17 @@ constexpr size_t kValueSize = 92;
 }  // namespace
 
 void registerPropertiesCtrl(std::vector<Controller>* registry) {
-    Builder<IPropertiesCtrl>(registry, "properties", "PropertiesCtrl",
-                             &ITarnManager::getPropertiesCtrl)
-            .adapted(
-                    "property_get", Row::CMD_PROPERTIES_GET, &IPropertiesCtrl::property_get,
-                    [](IPropertiesCtrl& properties, const char* key, const char* defaultValue) {
-                        char value[kValueSize] = "";
-                        const int result = properties.property_get(key, value, defaultValue);
-                        return fields({{"result", result}, {"value", value}});
-                    },
-                    "key, defaultValue")
-            .method("property_set", Row::CMD_PROPERTIES_SET, &IPropertiesCtrl::property_set,
-                    "key, value");
+    Builder<IPropertiesCtrl> builder(registry, "properties", "PropertiesCtrl",
+                                     &ITarnManager::getPropertiesCtrl);
+    builder.adapted(
+            "property_get", Row::CMD_PROPERTIES_GET, &IPropertiesCtrl::property_get,
+            +[](IPropertiesCtrl& properties, const char* key, const char* defaultValue) {
+                char value[kValueSize] = "";
+                const int result = properties.property_get(key, value, defaultValue);
+                return fields({{"result", result}, {"value", value}});
+            },
+            "key, defaultValue");
+    METHOD(property_set, CMD_PROPERTIES_SET);
 }
 
 }  // namespace tarn::registry

@@ -7,13 +7,11 @@ using namespace android;
 namespace tarn::registry {
 
 void registerRemoteCtrl(std::vector<Controller>* registry) {
-    Builder<IRemoteCtrl>(registry, "remote", "RemoteCtrl", &ITarnManager::getRemoteCtrl)
-            .method("disableRemoteCtrl", Row::CMD_REMOTE_DISABLE, &IRemoteCtrl::disableRemoteCtrl)
-            .method("enableRemoteCtrl", Row::CMD_REMOTE_ENABLE, &IRemoteCtrl::enableRemoteCtrl)
-            .method("getParameter", Row::CMD_REMOTE_GET_PARAMETER, &IRemoteCtrl::getParameter,
-                    "key")
-            .method("setParameter", Row::CMD_REMOTE_SET_PARAMETER, &IRemoteCtrl::setParameter,
-                    "key, value");
+    Builder<IRemoteCtrl> builder(registry, "remote", "RemoteCtrl", &ITarnManager::getRemoteCtrl);
+    METHOD(disableRemoteCtrl, CMD_REMOTE_DISABLE);
+    METHOD(enableRemoteCtrl, CMD_REMOTE_ENABLE);
+    METHOD(getParameter, CMD_REMOTE_GET_PARAMETER);
+    METHOD(setParameter, CMD_REMOTE_SET_PARAMETER);
 }
 
 }  // namespace tarn::registry

@@ -7,23 +7,16 @@ using namespace android;
 namespace tarn::registry {
 
 void registerRs232Ctrl(std::vector<Controller>* registry) {
-    Builder<IRs232Ctrl>(registry, "rs232", "Rs232Ctrl", &ITarnManager::getRs232Ctrl)
-            .method("getSmartRs232FrontUsb", Row::CMD_RS232_CTRL_GET_FRONT_USB,
-                    &IRs232Ctrl::getSmartRs232FrontUsb, "port")
-            .method("getSmartRs232SideUsb", Row::CMD_RS232_CTRL_GET_SIDE_USB,
-                    &IRs232Ctrl::getSmartRs232SideUsb, "port")
-            .method("getSmartRs232EthMac", Row::CMD_RS232_CTRL_GET_ETH_MAC,
-                    &IRs232Ctrl::getSmartRs232EthMac, "port")
-            .method("getATRs232TestResult", Row::CMD_RS232_CTRL_GET_TEST_RESULT,
-                    &IRs232Ctrl::getATRs232TestResult)
-            .method("getEmmcSize", Row::CMD_RS232_CTRL_GET_EMMC_SIZE, &IRs232Ctrl::getEmmcSize)
-            .method("getRamSize", Row::CMD_RS232_CTRL_GET_RAM_SIZE, &IRs232Ctrl::getRamSize)
-            .method("getSmartRs232Sdcard", Row::CMD_RS232_CTRL_GET_SD_CARD,
-                    &IRs232Ctrl::getSmartRs232Sdcard)
-            .method("getSmartRs232PcDet", Row::CMD_RS232_CTRL_GET_PC_DET,
-                    &IRs232Ctrl::getSmartRs232PcDet)
-            .method("getSmartRs232PcStatus", Row::CMD_RS232_CTRL_GET_PC_STATUS,
-                    &IRs232Ctrl::getSmartRs232PcStatus);
+    Builder<IRs232Ctrl> builder(registry, "rs232", "Rs232Ctrl", &ITarnManager::getRs232Ctrl);
+    METHOD(getSmartRs232FrontUsb, CMD_RS232_CTRL_GET_FRONT_USB);
+    METHOD(getSmartRs232SideUsb, CMD_RS232_CTRL_GET_SIDE_USB);
+    METHOD(getSmartRs232EthMac, CMD_RS232_CTRL_GET_ETH_MAC);
+    METHOD(getATRs232TestResult, CMD_RS232_CTRL_GET_TEST_RESULT);
+    METHOD(getEmmcSize, CMD_RS232_CTRL_GET_EMMC_SIZE);
+    METHOD(getRamSize, CMD_RS232_CTRL_GET_RAM_SIZE);
+    METHOD(getSmartRs232Sdcard, CMD_RS232_CTRL_GET_SD_CARD);
+    METHOD(getSmartRs232PcDet, CMD_RS232_CTRL_GET_PC_DET);
+    METHOD(getSmartRs232PcStatus, CMD_RS232_CTRL_GET_PC_STATUS);
 }
 
 }  // namespace tarn::registry

@@ -1,14 +1,15 @@
 #include <tarn/ISensorBoxCtrl.h>
 
 #include "registry/Builder.h"
+#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultWriter<EntitySensorBox> {
-    static constexpr const char* kType = "sensor box firmware";
+struct ResultType<EntitySensorBox> : RecordResult<EntitySensorBox> {
+    static constexpr const char* kWords = "sensor box firmware";
     static Json::Value toJson(const EntitySensorBox& box) {
         return fields({{"value0", box.value0},
                        {"text0", box.text0},
@@ -23,13 +24,15 @@ struct ResultWriter<EntitySensorBox> {
 };
 
 void registerSensorBoxCtrl(std::vector<Controller>* registry) {
-    Builder<ISensorBoxCtrl>(registry, "sensorBox", "SensorBoxCtrl", &ITarnManager::getSensorBoxCtrl)
-            .adapted("getFwSensorBoxList", Row::CMD_SENSOR_BOX_GET_FW_LIST,
-                     &ISensorBoxCtrl::getFwSensorBoxList, [](ISensorBoxCtrl& sensorBox) {
-                         std::vector<EntitySensorBox> list;
-                         const bool ok = sensorBox.getFwSensorBoxList(&list);
-                         return fields({{"result", ok}, {"list", toJson(list)}});
-                     });
+    Builder<ISensorBoxCtrl> builder(registry, "sensorBox", "SensorBoxCtrl",
+                                    &ITarnManager::getSensorBoxCtrl);
+    builder.adapted(
+            "getFwSensorBoxList", Row::CMD_SENSOR_BOX_GET_FW_LIST,
+            &ISensorBoxCtrl::getFwSensorBoxList, +[](ISensorBoxCtrl& sensorBox) {
+                std::vector<EntitySensorBox> list;
+                const bool ok = sensorBox.getFwSensorBoxList(&list);
+                return fields({{"result", ok}, {"list", toJson(list)}});
+            });
 }
 
 }  // namespace tarn::registry

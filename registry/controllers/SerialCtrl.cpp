@@ -7,20 +7,14 @@ using namespace android;
 namespace tarn::registry {
 
 void registerSerialCtrl(std::vector<Controller>* registry) {
-    Builder<ISerialCtrl>(registry, "serial", "SerialCtrl", &ITarnManager::getSerialCtrl)
-            .method("SetSerialSwitch", Row::CMD_SERIAL_SET_SWITCH, &ISerialCtrl::SetSerialSwitch,
-                    "device, on, param")
-            .method("SendSerialData", Row::CMD_SERIAL_SEND_DATA, &ISerialCtrl::SendSerialData,
-                    "device, data")
-            .method("SetSerialParamToAutoTest", Row::CMD_SERIAL_SET_PARAM_TO_AUTO_TEST,
-                    &ISerialCtrl::SetSerialParamToAutoTest, "device")
-            .method("getRS232Baudrate", Row::CMD_SERIAL_GET_RS232_BAUDRATE,
-                    &ISerialCtrl::getRS232Baudrate)
-            .method("getRS232Port", Row::CMD_SERIAL_GET_RS232_PORT, &ISerialCtrl::getRS232Port)
-            .method("setSerialDeviceId", Row::CMD_SERIAL_SET_DEVICE_ID,
-                    &ISerialCtrl::setSerialDeviceId, "device, id")
-            .method("getSerialDeviceId", Row::CMD_SERIAL_GET_DEVICE_ID,
-                    &ISerialCtrl::getSerialDeviceId, "device");
+    Builder<ISerialCtrl> builder(registry, "serial", "SerialCtrl", &ITarnManager::getSerialCtrl);
+    METHOD(SetSerialSwitch, CMD_SERIAL_SET_SWITCH);
+    METHOD(SendSerialData, CMD_SERIAL_SEND_DATA);
+    METHOD(SetSerialParamToAutoTest, CMD_SERIAL_SET_PARAM_TO_AUTO_TEST);
+    METHOD(getRS232Baudrate, CMD_SERIAL_GET_RS232_BAUDRATE);
+    METHOD(getRS232Port, CMD_SERIAL_GET_RS232_PORT);
+    METHOD(setSerialDeviceId, CMD_SERIAL_SET_DEVICE_ID);
+    METHOD(getSerialDeviceId, CMD_SERIAL_GET_DEVICE_ID);
 }
 
 }  // namespace tarn::registry

@@ -1,26 +1,25 @@
 #include <tarn/ISoundScreenAngleCtrl.h>
 
 #include "registry/Builder.h"
+#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultWriter<SoundScreenAngle> {
-    static constexpr const char* kType = "angles";
+struct ResultType<SoundScreenAngle> : RecordResult<SoundScreenAngle> {
+    static constexpr const char* kWords = "angles";
     static Json::Value toJson(const SoundScreenAngle& angle) {
         return fields({{"first", angle.first}, {"second", angle.second}});
     }
 };
 
 void registerSoundScreenAngleCtrl(std::vector<Controller>* registry) {
-    Builder<ISoundScreenAngleCtrl>(registry, "soundScreenAngle", "SoundScreenAngleCtrl",
-                                   &ITarnManager::getSoundScreenAngleCtrl)
-            .method("setSoundScreenAngle", Row::CMD_SOUND_SCREEN_ANGLE_SET_ANGLE,
-                    &ISoundScreenAngleCtrl::setSoundScreenAngle, "first, second")
-            .method("getSoundScreenAngle", Row::CMD_SOUND_SCREEN_ANGLE_GET_ANGLE,
-                    &ISoundScreenAngleCtrl::getSoundScreenAngle);
+    Builder<ISoundScreenAngleCtrl> builder(registry, "soundScreenAngle", "SoundScreenAngleCtrl",
+                                           &ITarnManager::getSoundScreenAngleCtrl);
+    METHOD(setSoundScreenAngle, CMD_SOUND_SCREEN_ANGLE_SET_ANGLE);
+    METHOD(getSoundScreenAngle, CMD_SOUND_SCREEN_ANGLE_GET_ANGLE);
 }
 
 }  // namespace tarn::registry

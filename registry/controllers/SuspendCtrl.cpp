@@ -7,15 +7,12 @@ using namespace android;
 namespace tarn::registry {
 
 void registerSuspendCtrl(std::vector<Controller>* registry) {
-    Builder<ISuspendCtrl>(registry, "suspend", "SuspendCtrl", &ITarnManager::getSuspendCtrl)
-            .method("getSuspendStatus", Row::CMD_SUSPEND_GET_STATUS,
-                    &ISuspendCtrl::getSuspendStatus)
-            .method("setSuspendStatus", Row::CMD_SUSPEND_SET_STATUS,
-                    &ISuspendCtrl::setSuspendStatus, "on")
-            .method("getFakeStandyStatus", Row::CMD_SUSPEND_GET_FAKE_STANDBY_STATUS,
-                    &ISuspendCtrl::getFakeStandyStatus)
-            .method("setFakeStandyStatus", Row::CMD_SUSPEND_SET_FAKE_STANDBY_STATUS,
-                    &ISuspendCtrl::setFakeStandyStatus, "on");
+    Builder<ISuspendCtrl> builder(registry, "suspend", "SuspendCtrl",
+                                  &ITarnManager::getSuspendCtrl);
+    METHOD(getSuspendStatus, CMD_SUSPEND_GET_STATUS);
+    METHOD(setSuspendStatus, CMD_SUSPEND_SET_STATUS);
+    METHOD(getFakeStandyStatus, CMD_SUSPEND_GET_FAKE_STANDBY_STATUS);
+    METHOD(setFakeStandyStatus, CMD_SUSPEND_SET_FAKE_STANDBY_STATUS);
 }
 
 }  // namespace tarn::registry

@@ -7,39 +7,25 @@ using namespace android;
 namespace tarn::registry {
 
 void registerUwbCtrl(std::vector<Controller>* registry) {
-    Builder<IUwbCtrl>(registry, "uwb", "UwbCtrl", &ITarnManager::getUwbCtrl)
-            .method("getUwbDongleVersion", Row::CMD_GET_UWB_DONGLE_VERSION,
-                    &IUwbCtrl::getUwbDongleVersion)
-            .method("getUwbDongleModel", Row::CMD_GET_UWB_DONGLE_MODEL,
-                    &IUwbCtrl::getUwbDongleModel)
-            .method("delUwbRcuPairInfo", Row::CMD_DEL_UWB_RCU_PAIR_INFO,
-                    &IUwbCtrl::delUwbRcuPairInfo)
-            .method("setUwbDongleBtScanSwitch", Row::CMD_SET_UWB_DONGLE_BT_SCAN_SWITCH,
-                    &IUwbCtrl::setUwbDongleBtScanSwitch, "mode, state")
-            .method("getUwbDongleScanStatus", Row::CMD_GET_UWB_DONGLE_SCAN_STATUS,
-                    &IUwbCtrl::getUwbDongleScanStatus)
-            .method("getUwbDongleConnectStatus", Row::CMD_GET_UWB_DONGLE_CONNECT_STATUS,
-                    &IUwbCtrl::getUwbDongleConnectStatus)
-            .method("setUwbRcuRssiThreshold", Row::CMD_SET_UWB_RCU_RSSI_THRESHOLD,
-                    &IUwbCtrl::setUwbRcuRssiThreshold, "threshold")
-            .method("getUwbRcuRssiThreshold", Row::CMD_GET_UWB_RCU_RSSI_THRESHOLD,
-                    &IUwbCtrl::getUwbRcuRssiThreshold)
-            .method("getUwbRcuVersion", Row::CMD_GET_UWB_RCU_VERSION, &IUwbCtrl::getUwbRcuVersion)
-            .method("getUwbRcuModel", Row::CMD_GET_UWB_RCU_MODEL, &IUwbCtrl::getUwbRcuModel)
-            .method("getUwbRcuMacAddress", Row::CMD_GET_UWB_RCU_MAC_ADDRESS,
-                    &IUwbCtrl::getUwbRcuMacAddress)
-            .method("getUwbRcuBatteryLevel", Row::CMD_GET_UWB_RCU_BATTERY_LEVEL,
-                    &IUwbCtrl::getUwbRcuBatteryLevel)
-            .method("setUwbRcuSensitivenessLevel", Row::CMD_SET_UWB_RCU_SENSITIVENESS_LEVEL,
-                    &IUwbCtrl::setUwbRcuSensitivenessLevel, "level")
-            .method("getUwbRcuSensitivenessLevel", Row::CMD_GET_UWB_RCU_SENSITIVENESS_LEVEL,
-                    &IUwbCtrl::getUwbRcuSensitivenessLevel)
-            .method("getUwbRcuSwitchStatus", Row::CMD_GET_UWB_RCU_SWITCH_STATUS,
-                    &IUwbCtrl::getUwbRcuSwitchStatus)
-            .method("getUwbRcuChargeStatus", Row::CMD_GET_UWB_RCU_CHARGE_STATUS,
-                    &IUwbCtrl::getUwbRcuChargeStatus)
-            .method("getUwbDongleSn", Row::CMD_GET_UWB_DONGLE_SN, &IUwbCtrl::getUwbDongleSn)
-            .method("getUwbRcuSn", Row::CMD_GET_UWB_RCU_SN, &IUwbCtrl::getUwbRcuSn);
+    Builder<IUwbCtrl> builder(registry, "uwb", "UwbCtrl", &ITarnManager::getUwbCtrl);
+    METHOD(getUwbDongleVersion, CMD_GET_UWB_DONGLE_VERSION);
+    METHOD(getUwbDongleModel, CMD_GET_UWB_DONGLE_MODEL);
+    METHOD(delUwbRcuPairInfo, CMD_DEL_UWB_RCU_PAIR_INFO);
+    METHOD(setUwbDongleBtScanSwitch, CMD_SET_UWB_DONGLE_BT_SCAN_SWITCH);
+    METHOD(getUwbDongleScanStatus, CMD_GET_UWB_DONGLE_SCAN_STATUS);
+    METHOD(getUwbDongleConnectStatus, CMD_GET_UWB_DONGLE_CONNECT_STATUS);
+    METHOD(setUwbRcuRssiThreshold, CMD_SET_UWB_RCU_RSSI_THRESHOLD);
+    METHOD(getUwbRcuRssiThreshold, CMD_GET_UWB_RCU_RSSI_THRESHOLD);
+    METHOD(getUwbRcuVersion, CMD_GET_UWB_RCU_VERSION);
+    METHOD(getUwbRcuModel, CMD_GET_UWB_RCU_MODEL);
+    METHOD(getUwbRcuMacAddress, CMD_GET_UWB_RCU_MAC_ADDRESS);
+    METHOD(getUwbRcuBatteryLevel, CMD_GET_UWB_RCU_BATTERY_LEVEL);
+    METHOD(setUwbRcuSensitivenessLevel, CMD_SET_UWB_RCU_SENSITIVENESS_LEVEL);
+    METHOD(getUwbRcuSensitivenessLevel, CMD_GET_UWB_RCU_SENSITIVENESS_LEVEL);
+    METHOD(getUwbRcuSwitchStatus, CMD_GET_UWB_RCU_SWITCH_STATUS);
+    METHOD(getUwbRcuChargeStatus, CMD_GET_UWB_RCU_CHARGE_STATUS);
+    METHOD(getUwbDongleSn, CMD_GET_UWB_DONGLE_SN);
+    METHOD(getUwbRcuSn, CMD_GET_UWB_RCU_SN);
 }
 
 }  // namespace tarn::registry

@@ -7,11 +7,9 @@ using namespace android;
 namespace tarn::registry {
 
 void registerVgaAdjust(std::vector<Controller>* registry) {
-    Builder<IVgaAdjust>(registry, "vgaAdjust", "VgaAdjust", &ITarnManager::getVgaAdjust)
-            .method("setvgaAdjustData", Row::CMD_VGA_SET_ADJUST_DATA, &IVgaAdjust::setvgaAdjustData,
-                    "item, value")
-            .method("getvgaAdjustData", Row::CMD_VGA_GET_ADJUST_DATA, &IVgaAdjust::getvgaAdjustData,
-                    "item");
+    Builder<IVgaAdjust> builder(registry, "vgaAdjust", "VgaAdjust", &ITarnManager::getVgaAdjust);
+    METHOD(setvgaAdjustData, CMD_VGA_SET_ADJUST_DATA);
+    METHOD(getvgaAdjustData, CMD_VGA_GET_ADJUST_DATA);
 }
 
 }  // namespace tarn::registry

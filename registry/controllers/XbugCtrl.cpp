@@ -7,20 +7,14 @@ using namespace android;
 namespace tarn::registry {
 
 void registerXbugCtrl(std::vector<Controller>* registry) {
-    Builder<IXbugCtrl>(registry, "xbug", "XbugCtrl", &ITarnManager::getXbugCtrl)
-            .method("setTarnServiceLogLevel", Row::CMD_XBUG_SET_SERVICE_LOG_LEVEL,
-                    &IXbugCtrl::setTarnServiceLogLevel, "level")
-            .method("getTarnServiceLogLevel", Row::CMD_XBUG_GET_SERVICE_LOG_LEVEL,
-                    &IXbugCtrl::getTarnServiceLogLevel, "which")
-            .method("sendMcuCmdDumpZUNTLog", Row::CMD_XBUG_DUMP_MCU_LOG,
-                    &IXbugCtrl::sendMcuCmdDumpZUNTLog)
-            .method("setTarnFuntionChkBaseTime", Row::CMD_XBUG_SET_FUNCTION_CHECK_BASE_TIME,
-                    &IXbugCtrl::setTarnFuntionChkBaseTime, "baseTime")
-            .method("getTarnFuntionChkBaseTime", Row::CMD_XBUG_GET_FUNCTION_CHECK_BASE_TIME,
-                    &IXbugCtrl::getTarnFuntionChkBaseTime)
-            .method("getTarnFuntionTimeOutList", Row::CMD_XBUG_GET_FUNCTION_TIMEOUT_LIST,
-                    &IXbugCtrl::getTarnFuntionTimeOutList)
-            .method("getNodeInfo", Row::CMD_XBUG_GET_NODE_INFO, &IXbugCtrl::getNodeInfo, "node");
+    Builder<IXbugCtrl> builder(registry, "xbug", "XbugCtrl", &ITarnManager::getXbugCtrl);
+    METHOD(setTarnServiceLogLevel, CMD_XBUG_SET_SERVICE_LOG_LEVEL);
+    METHOD(getTarnServiceLogLevel, CMD_XBUG_GET_SERVICE_LOG_LEVEL);
+    METHOD(sendMcuCmdDumpZUNTLog, CMD_XBUG_DUMP_MCU_LOG);
+    METHOD(setTarnFuntionChkBaseTime, CMD_XBUG_SET_FUNCTION_CHECK_BASE_TIME);
+    METHOD(getTarnFuntionChkBaseTime, CMD_XBUG_GET_FUNCTION_CHECK_BASE_TIME);
+    METHOD(getTarnFuntionTimeOutList, CMD_XBUG_GET_FUNCTION_TIMEOUT_LIST);
+    METHOD(getNodeInfo, CMD_XBUG_GET_NODE_INFO);
 }
 
 }  // namespace tarn::registry

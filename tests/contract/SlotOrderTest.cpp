@@ -13,7 +13,8 @@
 
 #include "core/HwTarnClient.h"
 #include "core/ITarnLooper.h"
-#include "registry/Builder.h"
+#include "registry/Registry.h"
+#include "registry/Slot.h"
 
 using android::HwTarnClient;
 using android::IHwTarnClient;

@@ -14,6 +14,7 @@ using android::sp;
 using tarn::protocol::Command;
 using tarn::registry::Argument;
 using tarn::registry::Controller;
+using tarn::registry::Kind;
 using tarn::registry::Method;
 using tarn::test::Bytes;
 using tarn::test::RecordingManager;
@@ -26,7 +27,7 @@ std::string pathOf(const Controller& controller, const Method& method) {
 
 /** A value that every argument of that type takes, and no method refuses to send. */
 std::string sampleOf(const Argument& argument) {
-    if (argument.type == "hex bytes") return "01";
+    if (argument.kind() == Kind::kBytes) return "01";
     if (argument.type == "id,x1,y1,x2,y2") return "1,1,1,1,1";
     if (argument.type == "eight ints, separated by commas") return "1,1,1,1,1,1,1,1";
     return "1";

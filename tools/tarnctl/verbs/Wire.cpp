@@ -16,11 +16,11 @@ using ::tarn::protocol::Field;
 using ::tarn::protocol::Layout;
 using ::tarn::protocol::Type;
 using ::tarn::registry::appendField;
-using ::tarn::registry::ArgumentReader;
 using ::tarn::registry::parseBool;
 using ::tarn::registry::parseBytes;
 using ::tarn::registry::parseFloat;
 using ::tarn::registry::parseInt;
+using ::tarn::registry::parseText;
 using ::tarn::registry::toUtf8;
 
 namespace {
@@ -37,7 +37,8 @@ const WireType kTypes[] = {
                     Parcel* parcel) { parcel->writeBool(parseBool("bool", text)); }},
         {"s16",
          [](const std::string& text, Parcel* parcel) {
-             parcel->writeString16(ArgumentReader<String16>::parse("s16", text));
+             const std::string utf8 = parseText("s16", text);
+             parcel->writeString16(String16(utf8.data(), utf8.size()));
          }},
         {"f32", [](const std::string& text,
                    Parcel* parcel) { parcel->writeFloat(parseFloat("f32", text)); }},
