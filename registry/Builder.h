@@ -46,33 +46,29 @@ struct Typed {
     using Adapter = Result (*)(Interface&, Parameters...);
 
     template <size_t... Index>
-    static void callMethod(const Target& target, android::ITarnManager* manager, Value* values,
-                           Answer* answer, std::index_sequence<Index...>) {
+    static Answer callMethod(const Target& target, android::ITarnManager* manager, Value* values,
+                             std::index_sequence<Index...>) {
         Interface* controller = (manager->*target.accessor.as<Accessor>())();
-        ResultType<Plain<Result>>::write(
-                (controller->*target.method.as<Method>())(
-                        Parameter<Plain<Parameters>>::from(values[Index])...),
-                answer);
+        return ResultType<Plain<Result>>::answer((controller->*target.method.as<Method>())(
+                Parameter<Plain<Parameters>>::from(values[Index])...));
     }
 
     template <size_t... Index>
-    static void callAdapter(const Target& target, android::ITarnManager* manager, Value* values,
-                            Answer* answer, std::index_sequence<Index...>) {
+    static Answer callAdapter(const Target& target, android::ITarnManager* manager, Value* values,
+                              std::index_sequence<Index...>) {
         Interface* controller = (manager->*target.accessor.as<Accessor>())();
-        ResultType<Plain<Result>>::write(
-                target.adapter.as<Adapter>()(*controller,
-                                             Parameter<Plain<Parameters>>::from(values[Index])...),
-                answer);
+        return ResultType<Plain<Result>>::answer(target.adapter.as<Adapter>()(
+                *controller, Parameter<Plain<Parameters>>::from(values[Index])...));
     }
 
-    static void invokeMethod(const Target& target, android::ITarnManager* manager, Value* values,
-                             Answer* answer) {
-        callMethod(target, manager, values, answer, std::index_sequence_for<Parameters...>());
+    static Answer invokeMethod(const Target& target, android::ITarnManager* manager,
+                               Value* values) {
+        return callMethod(target, manager, values, std::index_sequence_for<Parameters...>());
     }
 
-    static void invokeAdapter(const Target& target, android::ITarnManager* manager, Value* values,
-                              Answer* answer) {
-        callAdapter(target, manager, values, answer, std::index_sequence_for<Parameters...>());
+    static Answer invokeAdapter(const Target& target, android::ITarnManager* manager,
+                                Value* values) {
+        return callAdapter(target, manager, values, std::index_sequence_for<Parameters...>());
     }
 
     static constexpr const ParameterType* kParameters[] = {Parameter<Plain<Parameters>>::kType...,

@@ -12,8 +12,7 @@ namespace tarn::registry {
 
 struct ParameterType;
 
-/** What a call gave; see Results.h. */
-struct Answer;
+class Answer;
 
 /** A function or member pointer whose type only those who call through it know. */
 class AnyPointer {
@@ -48,8 +47,7 @@ struct Target {
 
 /** What the methods of one interface with the same parameters and result have in common. */
 struct Signature {
-    void (*invoke)(const Target& target, android::ITarnManager* manager, Value* values,
-                   Answer* answer);
+    Answer (*invoke)(const Target& target, android::ITarnManager* manager, Value* values);
     const ParameterType* const* parameters;  // a null pointer ends them
     Kind result;
     const char* resultWords;  // of a list, those of an element

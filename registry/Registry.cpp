@@ -1,6 +1,6 @@
 #include "registry/Registry.h"
 
-#include "registry/Results.h"
+#include "registry/Answer.h"
 
 namespace tarn::registry {
 
@@ -32,9 +32,7 @@ std::vector<Value> Method::read(const std::vector<std::string>& texts) const {
 }
 
 Json::Value Method::callWith(android::ITarnManager* manager, std::vector<Value> values) const {
-    Answer answer;
-    signature->invoke(target, manager, values.data(), &answer);
-    return answer.json;
+    return signature->invoke(target, manager, values.data()).json();
 }
 
 Json::Value Method::call(android::ITarnManager* manager,

@@ -2,86 +2,106 @@
 
 #include <utils/String16.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
+#include "registry/Answer.h"
 #include "registry/Value.h"
-
-namespace Json {
-class Value;
-}
 
 namespace tarn::registry {
 
-struct Answer;
-
 /**
- * What a result of type T is: kKind, kWords for people, and write(), which puts one into the
- * answer. Controllers that return records or lists include Results.h.
+ * What a result of type T is: kKind, kWords for people, and answer() for the value. Records
+ * specialise it next to their controller:
+ *
+ *     template <>
+ *     struct ResultType<android::SoundScreenAngle> : RecordResult {
+ *         static constexpr const char* kWords = "angles";
+ *         static Answer answer(const android::SoundScreenAngle& angle) {
+ *             return record().field("first", angle.first).field("second", angle.second);
+ *         }
+ *     };
  */
-template <typename T, typename Enable = void>
+template <typename T, typename Enable>
 struct ResultType;
 
-/** For the types that Results.cpp names. */
-template <typename T>
-struct SimpleResult {
-    static Json::Value toJson(const T& value);
-    static void write(const T& value, Answer* answer);
-};
-
 template <>
-struct ResultType<int> : SimpleResult<int> {
+struct ResultType<int> {
     static constexpr Kind kKind = Kind::kInt;
     static constexpr const char* kWords = "int";
+    static Answer answer(int value) { return Answer(value); }
 };
 
 template <>
-struct ResultType<bool> : SimpleResult<bool> {
+struct ResultType<int16_t> {
+    static constexpr Kind kKind = Kind::kInt;
+    static constexpr const char* kWords = "int";
+    static Answer answer(int16_t value) { return Answer(int{value}); }
+};
+
+template <>
+struct ResultType<bool> {
     static constexpr Kind kKind = Kind::kBool;
     static constexpr const char* kWords = "bool";
+    static Answer answer(bool value) { return Answer(value); }
 };
 
 template <>
-struct ResultType<float> : SimpleResult<float> {
+struct ResultType<float> {
     static constexpr Kind kKind = Kind::kFloat;
     static constexpr const char* kWords = "float";
+    static Answer answer(float value) { return Answer(value); }
 };
 
 template <>
-struct ResultType<std::string> : SimpleResult<std::string> {
+struct ResultType<std::string> {
     static constexpr Kind kKind = Kind::kText;
     static constexpr const char* kWords = "text";
+    static Answer answer(const std::string& value) { return Answer(value); }
 };
 
-/** No text is null. */
 template <>
-struct ResultType<char*> : SimpleResult<char*> {
+struct ResultType<char*> {
     static constexpr Kind kKind = Kind::kText;
     static constexpr const char* kWords = "text";
+    static Answer answer(const char* value) { return Answer(value); }
 };
 
-template <>
-struct ResultType<android::String16> : SimpleResult<android::String16> {
+/** A text in a record. */
+template <size_t kSize>
+struct ResultType<char[kSize]> {
     static constexpr Kind kKind = Kind::kText;
     static constexpr const char* kWords = "text";
+    static Answer answer(const char* value) { return Answer(value); }
 };
 
-/** A result that an adapted method has put together itself. */
 template <>
-struct ResultType<Json::Value> : SimpleResult<Json::Value> {
+struct ResultType<android::String16> {
+    static constexpr Kind kKind = Kind::kText;
+    static constexpr const char* kWords = "text";
+    static Answer answer(const android::String16& value) { return Answer(value); }
+};
+
+struct RecordResult {
     static constexpr Kind kKind = Kind::kRecord;
+};
+
+/** A record that an adapted method has put together itself. */
+template <>
+struct ResultType<Answer> : RecordResult {
     static constexpr const char* kWords = "record";
+    static Answer answer(Answer&& value) { return std::move(value); }
 };
 
 template <typename T>
 struct ResultType<T, std::enable_if_t<std::is_enum_v<T>>> {
     static constexpr Kind kKind = Kind::kInt;
     static constexpr const char* kWords = "int";
-    static Json::Value toJson(T value);
-    static void write(T value, Answer* answer) {
-        SimpleResult<int>::write(static_cast<int>(value), answer);
-    }
+    static Answer answer(T value) { return Answer(static_cast<int>(value)); }
 };
 
 template <typename T>
@@ -90,8 +110,11 @@ struct ResultType<std::vector<T>> {
                                   : ResultType<T>::kKind == Kind::kText ? Kind::kTexts
                                                                         : Kind::kRecords;
     static constexpr const char* kWords = ResultType<T>::kWords;
-    static Json::Value toJson(const std::vector<T>& list);
-    static void write(const std::vector<T>& list, Answer* answer);
+    static Answer answer(const std::vector<T>& list) {
+        Answer answer = Answer::emptyList();
+        for (const T& element : list) answer.append(ResultType<T>::answer(element));
+        return answer;
+    }
 };
 
 }  // namespace tarn::registry

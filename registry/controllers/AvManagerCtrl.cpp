@@ -2,7 +2,6 @@
 
 #include "registry/Arguments.h"
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
@@ -33,25 +32,26 @@ struct Parameter<_EunmAvCtrlHdmiout_> {
 };
 
 template <>
-struct ResultType<AvSignalFormat> : RecordResult<AvSignalFormat> {
+struct ResultType<AvSignalFormat> : RecordResult {
     static constexpr const char* kWords = "signal format";
-    static Json::Value toJson(const AvSignalFormat& format) {
-        return fields({{"item1", format.item1},
-                       {"item2", format.item2},
-                       {"item3", format.item3},
-                       {"item4", format.item4},
-                       {"item5", format.item5},
-                       {"item6", format.item6},
-                       {"item7", format.item7},
-                       {"item8", format.item8},
-                       {"item9", format.item9},
-                       {"item10", format.item10},
-                       {"item11", format.item11},
-                       {"item12", format.item12},
-                       {"item13", format.item13},
-                       {"item14", format.item14},
-                       {"item15", format.item15},
-                       {"item16", format.item16}});
+    static Answer answer(const AvSignalFormat& format) {
+        return record()
+                .field("item1", format.item1)
+                .field("item2", format.item2)
+                .field("item3", format.item3)
+                .field("item4", format.item4)
+                .field("item5", format.item5)
+                .field("item6", format.item6)
+                .field("item7", format.item7)
+                .field("item8", format.item8)
+                .field("item9", format.item9)
+                .field("item10", format.item10)
+                .field("item11", format.item11)
+                .field("item12", format.item12)
+                .field("item13", format.item13)
+                .field("item14", format.item14)
+                .field("item15", format.item15)
+                .field("item16", format.item16);
     }
 };
 

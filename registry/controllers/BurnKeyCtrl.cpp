@@ -1,22 +1,22 @@
 #include <tarn/IBurnKeyCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultType<EntitySwKey> : RecordResult<EntitySwKey> {
+struct ResultType<EntitySwKey> : RecordResult {
     static constexpr const char* kWords = "kind of key";
-    static Json::Value toJson(const EntitySwKey& key) {
-        return fields({{"keyId", key.keyId},
-                       {"keyText1", key.keyText1},
-                       {"keyText2", key.keyText2},
-                       {"keyFlag1", key.keyFlag1},
-                       {"keyText3", key.keyText3},
-                       {"keyFlag2", key.keyFlag2}});
+    static Answer answer(const EntitySwKey& key) {
+        return record()
+                .field("keyId", key.keyId)
+                .field("keyText1", key.keyText1)
+                .field("keyText2", key.keyText2)
+                .field("keyFlag1", key.keyFlag1)
+                .field("keyText3", key.keyText3)
+                .field("keyFlag2", key.keyFlag2);
     }
 };
 
@@ -28,7 +28,7 @@ void registerBurnKeyCtrl(std::vector<Controller>* registry) {
             &IBurnKeyCtrl::getSupportBurnKeyList, +[](IBurnKeyCtrl& burnKey) {
                 std::vector<EntitySwKey> list;
                 const bool ok = burnKey.getSupportBurnKeyList(&list);
-                return fields({{"result", ok}, {"list", toJson(list)}});
+                return record().field("result", ok).field("list", list);
             });
     METHOD(setBurnKey, CMD_BURN_KEY_SET_KEY);
     METHOD(setCleanBurnKey, CMD_BURN_KEY_CLEAN_KEY);

@@ -1,21 +1,21 @@
 #include <tarn/IBurnMacCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultType<EntitySwMac> : RecordResult<EntitySwMac> {
+struct ResultType<EntitySwMac> : RecordResult {
     static constexpr const char* kWords = "MAC address slot";
-    static Json::Value toJson(const EntitySwMac& mac) {
-        return fields({{"macId", mac.macId},
-                       {"macText1", mac.macText1},
-                       {"macFlag1", mac.macFlag1},
-                       {"macText2", mac.macText2},
-                       {"macFlag2", mac.macFlag2}});
+    static Answer answer(const EntitySwMac& mac) {
+        return record()
+                .field("macId", mac.macId)
+                .field("macText1", mac.macText1)
+                .field("macFlag1", mac.macFlag1)
+                .field("macText2", mac.macText2)
+                .field("macFlag2", mac.macFlag2);
     }
 };
 
@@ -29,7 +29,7 @@ void registerBurnMacCtrl(std::vector<Controller>* registry) {
             &IBurnMacCtrl::getSupportBurnMacList, +[](IBurnMacCtrl& burnMac) {
                 std::vector<EntitySwMac> list;
                 const bool ok = burnMac.getSupportBurnMacList(&list);
-                return fields({{"result", ok}, {"list", toJson(list)}});
+                return record().field("result", ok).field("list", list);
             });
     builder.method("setBurnMac", Row::CMD_BURN_MAC_SET_MAC_TEXT,
                    overload<bool(_EnumBurnMacType, String16)>(&IBurnMacCtrl::setBurnMac),

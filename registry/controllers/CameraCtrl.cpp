@@ -1,36 +1,39 @@
 #include <tarn/ICameraCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultType<TarnCameraInfo> : RecordResult<TarnCameraInfo> {
+struct ResultType<TarnCameraInfo> : RecordResult {
     static constexpr const char* kWords = "camera information";
-    static Json::Value toJson(const TarnCameraInfo& info) {
-        return fields({{"text0", info.text0}, {"value0", info.value0}, {"value1", info.value1}});
+    static Answer answer(const TarnCameraInfo& info) {
+        return record()
+                .field("text0", info.text0)
+                .field("value0", info.value0)
+                .field("value1", info.value1);
     }
 };
 
 template <>
-struct ResultType<EntityFwCamera> : RecordResult<EntityFwCamera> {
+struct ResultType<EntityFwCamera> : RecordResult {
     static constexpr const char* kWords = "camera firmware";
-    static Json::Value toJson(const EntityFwCamera& camera) {
-        return fields({{"value0", camera.value0},
-                       {"value1", camera.value1},
-                       {"value2", camera.value2},
-                       {"value3", camera.value3},
-                       {"text0", camera.text0},
-                       {"flag0", camera.flag0},
-                       {"text1", camera.text1},
-                       {"flag1", camera.flag1},
-                       {"text2", camera.text2},
-                       {"text3", camera.text3},
-                       {"text4", camera.text4},
-                       {"flag2", camera.flag2}});
+    static Answer answer(const EntityFwCamera& camera) {
+        return record()
+                .field("value0", camera.value0)
+                .field("value1", camera.value1)
+                .field("value2", camera.value2)
+                .field("value3", camera.value3)
+                .field("text0", camera.text0)
+                .field("flag0", camera.flag0)
+                .field("text1", camera.text1)
+                .field("flag1", camera.flag1)
+                .field("text2", camera.text2)
+                .field("text3", camera.text3)
+                .field("text4", camera.text4)
+                .field("flag2", camera.flag2);
     }
 };
 
@@ -45,7 +48,7 @@ void registerCameraCtrl(std::vector<Controller>* registry) {
             +[](ICameraCtrl& cameras, int camera) {
                 TarnCameraInfo info;
                 const bool ok = cameras.getCameraDeviceInfo(camera, info);
-                return fields({{"result", ok}, {"info", toJson(info)}});
+                return record().field("result", ok).field("info", info);
             },
             "camera");
     METHOD(isCameraEnabled, CMD_CAMERA_IS_ENABLED);
@@ -55,7 +58,7 @@ void registerCameraCtrl(std::vector<Controller>* registry) {
             +[](ICameraCtrl& cameras) {
                 std::vector<EntityFwCamera> list;
                 const bool ok = cameras.getFwCameraList(&list);
-                return fields({{"result", ok}, {"list", toJson(list)}});
+                return record().field("result", ok).field("list", list);
             });
     METHOD(setCameraIdDeviceMap, CMD_CAMERA_SET_ID_DEVICE_MAP);
     METHOD(getCameraDeviceSn, CMD_CAMERA_GET_DEVICESN);

@@ -1,7 +1,6 @@
 #include <tarn/IDevicePortCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
@@ -17,7 +16,7 @@ void registerDevicePortCtrl(std::vector<Controller>* registry) {
             +[](IDevicePortCtrl& ports) {
                 std::vector<String16> names;
                 const int result = ports.getDevicePortList(names);
-                return fields({{"result", toJson(result)}, {"ports", toJson(names)}});
+                return record().field("result", result).field("ports", names);
             });
 }
 

@@ -1,7 +1,6 @@
 #include <tarn/IExtendDisplayCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 

@@ -1,26 +1,26 @@
 #include <tarn/IFwUpgrade.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultType<EntityFwInfoMcu> : RecordResult<EntityFwInfoMcu> {
+struct ResultType<EntityFwInfoMcu> : RecordResult {
     static constexpr const char* kWords = "MCU firmware";
-    static Json::Value toJson(const EntityFwInfoMcu& mcu) {
-        return fields({{"intField1", mcu.intField1},
-                       {"intField2", mcu.intField2},
-                       {"strField1", mcu.strField1},
-                       {"intField3", mcu.intField3},
-                       {"strField2", mcu.strField2},
-                       {"intField4", mcu.intField4},
-                       {"strField3", mcu.strField3},
-                       {"strField4", mcu.strField4},
-                       {"shortStrField", mcu.shortStrField},
-                       {"intField5", mcu.intField5}});
+    static Answer answer(const EntityFwInfoMcu& mcu) {
+        return record()
+                .field("intField1", mcu.intField1)
+                .field("intField2", mcu.intField2)
+                .field("strField1", mcu.strField1)
+                .field("intField3", mcu.intField3)
+                .field("strField2", mcu.strField2)
+                .field("intField4", mcu.intField4)
+                .field("strField3", mcu.strField3)
+                .field("strField4", mcu.strField4)
+                .field("shortStrField", mcu.shortStrField)
+                .field("intField5", mcu.intField5);
     }
 };
 
@@ -37,7 +37,7 @@ void registerFwUpgrade(std::vector<Controller>* registry) {
             +[](IFwUpgrade& fwUpgrade) {
                 std::vector<EntityFwInfoMcu> list;
                 const bool ok = fwUpgrade.getFwMcuList(list);
-                return fields({{"result", ok}, {"list", toJson(list)}});
+                return record().field("result", ok).field("list", list);
             });
     METHOD(getFwTargetVersion, CMD_FW_GET_TARGET_VERSION);
     METHOD(getFwTargetBinPath, CMD_FW_GET_TARGET_BIN_PATH);

@@ -1,7 +1,6 @@
 #include <tarn/IGpioCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
@@ -16,7 +15,7 @@ void registerGpioCtrl(std::vector<Controller>* registry) {
             +[](IGpioCtrl& pins, unsigned int gpio) {
                 TARN_BOOL dir = 0;
                 const int result = pins.getGpioDirBit(gpio, &dir);
-                return fields({{"result", result}, {"dir", dir}});
+                return record().field("result", result).field("dir", dir);
             },
             "gpio");
     METHOD(writeGpioBit, CMD_GPIO_WRITE_BIT);
@@ -25,7 +24,7 @@ void registerGpioCtrl(std::vector<Controller>* registry) {
             +[](IGpioCtrl& pins, unsigned int gpio) {
                 TARN_BOOL value = 0;
                 const int result = pins.readGpioBit(gpio, &value);
-                return fields({{"result", result}, {"value", value}});
+                return record().field("result", result).field("value", value);
             },
             "gpio");
     builder.adapted(
@@ -33,7 +32,7 @@ void registerGpioCtrl(std::vector<Controller>* registry) {
             +[](IGpioCtrl& pins, unsigned int gpio) {
                 TARN_BOOL value = 0;
                 const int result = pins.readGpioOutBit(gpio, &value);
-                return fields({{"result", result}, {"value", value}});
+                return record().field("result", result).field("value", value);
             },
             "gpio");
 }

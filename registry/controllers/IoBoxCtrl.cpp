@@ -1,28 +1,28 @@
 #include <tarn/IIoBoxCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultType<EntityFwIoBox> : RecordResult<EntityFwIoBox> {
+struct ResultType<EntityFwIoBox> : RecordResult {
     static constexpr const char* kWords = "I/O box firmware";
-    static Json::Value toJson(const EntityFwIoBox& box) {
-        return fields({{"value0", box.value0},
-                       {"value1", box.value1},
-                       {"value2", box.value2},
-                       {"value3", box.value3},
-                       {"text0", box.text0},
-                       {"flag0", box.flag0},
-                       {"text1", box.text1},
-                       {"flag1", box.flag1},
-                       {"text2", box.text2},
-                       {"text3", box.text3},
-                       {"text4", box.text4},
-                       {"flag2", box.flag2}});
+    static Answer answer(const EntityFwIoBox& box) {
+        return record()
+                .field("value0", box.value0)
+                .field("value1", box.value1)
+                .field("value2", box.value2)
+                .field("value3", box.value3)
+                .field("text0", box.text0)
+                .field("flag0", box.flag0)
+                .field("text1", box.text1)
+                .field("flag1", box.flag1)
+                .field("text2", box.text2)
+                .field("text3", box.text3)
+                .field("text4", box.text4)
+                .field("flag2", box.flag2);
     }
 };
 
@@ -34,7 +34,7 @@ void registerIoBoxCtrl(std::vector<Controller>* registry) {
             +[](IIoBoxCtrl& ioBox) {
                 std::vector<EntityFwIoBox> list;
                 const bool ok = ioBox.getFwIoBoxList(&list);
-                return fields({{"result", ok}, {"list", toJson(list)}});
+                return record().field("result", ok).field("list", list);
             });
 }
 

@@ -1,18 +1,19 @@
 #include <tarn/IPQCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultType<PresetColorTempValues> : RecordResult<PresetColorTempValues> {
+struct ResultType<PresetColorTempValues> : RecordResult {
     static constexpr const char* kWords = "preset";
-    static Json::Value toJson(const PresetColorTempValues& values) {
-        return fields(
-                {{"first", values.first}, {"second", values.second}, {"third", values.third}});
+    static Answer answer(const PresetColorTempValues& values) {
+        return record()
+                .field("first", values.first)
+                .field("second", values.second)
+                .field("third", values.third);
     }
 };
 

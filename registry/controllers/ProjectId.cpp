@@ -2,7 +2,6 @@
 
 #include "registry/Builder.h"
 #include "registry/Parcels.h"
-#include "registry/Results.h"
 
 using namespace android;
 
@@ -12,10 +11,10 @@ namespace {
 
 /** A method that fills a configuration set, with the set as its bytes. */
 template <int (IProjectId::*kMethod)(Parcel*)>
-Json::Value filled(IProjectId& projectId) {
+Answer filled(IProjectId& projectId) {
     Parcel cfgs;
     const int status = (projectId.*kMethod)(&cfgs);
-    return fields({{"result", status}, {"data", hexOf(cfgs)}});
+    return record().field("result", status).field("data", hexOf(cfgs));
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include <tarn/IPropertiesCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
@@ -22,7 +21,7 @@ void registerPropertiesCtrl(std::vector<Controller>* registry) {
             +[](IPropertiesCtrl& properties, const char* key, const char* defaultValue) {
                 char value[kValueSize] = "";
                 const int result = properties.property_get(key, value, defaultValue);
-                return fields({{"result", result}, {"value", value}});
+                return record().field("result", result).field("value", value);
             },
             "key, defaultValue");
     METHOD(property_set, CMD_PROPERTIES_SET);

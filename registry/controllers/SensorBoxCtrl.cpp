@@ -1,25 +1,25 @@
 #include <tarn/ISensorBoxCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultType<EntitySensorBox> : RecordResult<EntitySensorBox> {
+struct ResultType<EntitySensorBox> : RecordResult {
     static constexpr const char* kWords = "sensor box firmware";
-    static Json::Value toJson(const EntitySensorBox& box) {
-        return fields({{"value0", box.value0},
-                       {"text0", box.text0},
-                       {"flag0", box.flag0},
-                       {"text1", box.text1},
-                       {"flag1", box.flag1},
-                       {"text2", box.text2},
-                       {"text3", box.text3},
-                       {"text4", box.text4},
-                       {"flag2", box.flag2}});
+    static Answer answer(const EntitySensorBox& box) {
+        return record()
+                .field("value0", box.value0)
+                .field("text0", box.text0)
+                .field("flag0", box.flag0)
+                .field("text1", box.text1)
+                .field("flag1", box.flag1)
+                .field("text2", box.text2)
+                .field("text3", box.text3)
+                .field("text4", box.text4)
+                .field("flag2", box.flag2);
     }
 };
 
@@ -31,7 +31,7 @@ void registerSensorBoxCtrl(std::vector<Controller>* registry) {
             &ISensorBoxCtrl::getFwSensorBoxList, +[](ISensorBoxCtrl& sensorBox) {
                 std::vector<EntitySensorBox> list;
                 const bool ok = sensorBox.getFwSensorBoxList(&list);
-                return fields({{"result", ok}, {"list", toJson(list)}});
+                return record().field("result", ok).field("list", list);
             });
 }
 

@@ -1,7 +1,6 @@
 #include <tarn/ISmartPenModeCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 

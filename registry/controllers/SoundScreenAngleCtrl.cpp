@@ -1,17 +1,16 @@
 #include <tarn/ISoundScreenAngleCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
 namespace tarn::registry {
 
 template <>
-struct ResultType<SoundScreenAngle> : RecordResult<SoundScreenAngle> {
+struct ResultType<SoundScreenAngle> : RecordResult {
     static constexpr const char* kWords = "angles";
-    static Json::Value toJson(const SoundScreenAngle& angle) {
-        return fields({{"first", angle.first}, {"second", angle.second}});
+    static Answer answer(const SoundScreenAngle& angle) {
+        return record().field("first", angle.first).field("second", angle.second);
     }
 };
 

@@ -2,7 +2,6 @@
 
 #include "registry/Arguments.h"
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
@@ -33,22 +32,23 @@ struct Parameter<TouchRect> {
 };
 
 template <>
-struct ResultType<TouchRect> : RecordResult<TouchRect> {
+struct ResultType<TouchRect> : RecordResult {
     static constexpr const char* kWords = "rectangle";
-    static Json::Value toJson(const TouchRect& rect) {
-        return fields({{"id", rect.id},
-                       {"x1", rect.start.x},
-                       {"y1", rect.start.y},
-                       {"x2", rect.end.x},
-                       {"y2", rect.end.y}});
+    static Answer answer(const TouchRect& rect) {
+        return record()
+                .field("id", rect.id)
+                .field("x1", rect.start.x)
+                .field("y1", rect.start.y)
+                .field("x2", rect.end.x)
+                .field("y2", rect.end.y);
     }
 };
 
 template <>
-struct ResultType<TouchLogicalCoordinates> : RecordResult<TouchLogicalCoordinates> {
+struct ResultType<TouchLogicalCoordinates> : RecordResult {
     static constexpr const char* kWords = "range";
-    static Json::Value toJson(const TouchLogicalCoordinates& range) {
-        return fields({{"range0", range.range0}, {"range1", range.range1}});
+    static Answer answer(const TouchLogicalCoordinates& range) {
+        return record().field("range0", range.range0).field("range1", range.range1);
     }
 };
 
@@ -95,7 +95,7 @@ void registerTouchCtrl(std::vector<Controller>* registry) {
             &ITouchCtrl::getLogicalTouchRange, +[](ITouchCtrl& touch) {
                 TouchLogicalCoordinates range;
                 const bool ok = touch.getLogicalTouchRange(&range);
-                return fields({{"result", ok}, {"range", toJson(range)}});
+                return record().field("result", ok).field("range", range);
             });
     builder.adapted(
             "SetSmallMode", Row::CMD_TOUCH_SET_SMALL_MODE, &ITouchCtrl::SetSmallMode,

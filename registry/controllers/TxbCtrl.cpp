@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "registry/Builder.h"
-#include "registry/Results.h"
 
 using namespace android;
 
@@ -41,7 +40,7 @@ void registerTxbCtrl(std::vector<Controller>* registry) {
                 std::vector<int> states(kLargestReply);
                 const int count = txb.getTxbSensorSelfTestState(states.data());
                 states.resize(static_cast<size_t>(std::max(count, 0)));
-                return fields({{"result", count}, {"states", toJson(states)}});
+                return record().field("result", count).field("states", states);
             });
     builder.adapted(
             "setTxbSensorSelfTestState", Row::CMD_TXB_SET_SENSOR_SELF_TEST_STATE,
