@@ -95,6 +95,8 @@ expect 'configured by hand' 'tests cache,compiler'
 # While somebody holds the lock, both wait and say so.
 cat >ninja-says <<'END'
 ninja: Entering directory `build'
+[0/1] Re-running CMake...
+-- Configuring done
 [1/20] Building one.o
 [2/20] Building two.o
 FAILED: two.o
