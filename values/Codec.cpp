@@ -3,7 +3,7 @@
 #include <utils/Errors.h>
 #include <utils/String16.h>
 
-namespace tarn::simulator {
+namespace tarn::values {
 
 using android::Parcel;
 using protocol::Field;
@@ -113,4 +113,4 @@ Bytes bytesOf(const Parcel& parcel) {
     return Bytes(parcel.data(), parcel.data() + parcel.dataSize());
 }
 
-}  // namespace tarn::simulator
+}  // namespace tarn::values

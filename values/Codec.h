@@ -7,7 +7,7 @@
 #include "protocol/Layout.h"
 #include "values/Value.h"
 
-namespace tarn::simulator {
+namespace tarn::values {
 
 /**
  * Reads the fields of a layout from the parcel's position to its very end. Nothing if a field is
@@ -21,4 +21,4 @@ void encode(const Value& value, android::Parcel* parcel);
 /** Everything that the parcel holds. */
 Bytes bytesOf(const android::Parcel& parcel);
 
-}  // namespace tarn::simulator
+}  // namespace tarn::values

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "values/Utf.h"
+#include "values/Utf8.h"
 
-namespace tarn::simulator {
+namespace tarn::values {
 
 namespace {
 
@@ -53,4 +53,4 @@ void checkName(const Json::Value& at, const std::string& what, const std::string
     if (!utf16FromUtf8(name)) throw JsonError(at, what + " is not UTF-8");
 }
 
-}  // namespace tarn::simulator
+}  // namespace tarn::values

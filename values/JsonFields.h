@@ -7,9 +7,9 @@
 #include <limits>
 #include <string>
 
-#include "values/Value.h"
+#include "values/JsonError.h"
 
-namespace tarn::simulator {
+namespace tarn::values {
 
 // Reading objects strictly; each throws JsonError.
 
@@ -39,4 +39,4 @@ auto inField(const std::string& what, const Read& read) try {
     throw error.within(what);
 }
 
-}  // namespace tarn::simulator
+}  // namespace tarn::values

@@ -5,8 +5,9 @@
 #include <cstdio>
 #include <memory>
 #include <sstream>
+#include <stdexcept>
 
-namespace tarn::simulator {
+namespace tarn::values {
 
 namespace {
 
@@ -44,4 +45,12 @@ std::optional<SyntaxError> readStrictJson(const std::string& text, Json::Value* 
     return firstError(message);
 }
 
-}  // namespace tarn::simulator
+Json::Value parseJson(const std::string& text) {
+    Json::Value root;
+    if (const std::optional<SyntaxError> error = readStrictJson(text, &root)) {
+        throw std::invalid_argument("not JSON: " + error->reason);
+    }
+    return root;
+}
+
+}  // namespace tarn::values

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace tarn::simulator {
+namespace tarn::values {
 
 struct SyntaxError {
     int line;
@@ -18,4 +18,7 @@ struct SyntaxError {
  */
 std::optional<SyntaxError> readStrictJson(const std::string& text, Json::Value* root);
 
-}  // namespace tarn::simulator
+/** Reads one JSON document and nothing but that; throws std::invalid_argument. */
+Json::Value parseJson(const std::string& text);
+
+}  // namespace tarn::values

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace tarn::simulator {
+namespace tarn::values {
 
 using protocol::Field;
 using protocol::Layout;
@@ -50,4 +50,4 @@ std::string describe(const Field& field) {
     return text + "]";
 }
 
-}  // namespace tarn::simulator
+}  // namespace tarn::values

@@ -1,17 +1,13 @@
 #pragma once
 
-#include <json/value.h>
-
-#include <cstddef>
 #include <cstdint>
-#include <stdexcept>
 #include <string>
 #include <variant>
 #include <vector>
 
 #include "protocol/Layout.h"
 
-namespace tarn::simulator {
+namespace tarn::values {
 
 using Bytes = std::vector<uint8_t>;
 
@@ -27,26 +23,6 @@ struct Value {
     bool operator!=(const Value& other) const { return !(*this == other); }
 };
 
-/** What is wrong with a piece of JSON, and where it begins in its text. */
-class JsonError : public std::invalid_argument {
-  public:
-    JsonError(const Json::Value& at, const std::string& reason)
-        : std::invalid_argument(reason), mOffset(at.getOffsetStart()) {}
-
-    ptrdiff_t offset() const { return mOffset; }
-
-    /** The same, told to be of that field. */
-    JsonError within(const std::string& field) const {
-        return JsonError(mOffset, field + ": " + what());
-    }
-
-  private:
-    JsonError(ptrdiff_t offset, const std::string& reason)
-        : std::invalid_argument(reason), mOffset(offset) {}
-
-    ptrdiff_t mOffset;
-};
-
 /** Whether values of both fields look alike on the wire; names don't matter, bool is an i32. */
 bool looksAlike(const protocol::Field& left, const protocol::Field& right);
 bool looksAlike(const protocol::Layout& left, const protocol::Layout& right);
@@ -57,26 +33,7 @@ Value converted(Value value, protocol::Type type);
 /** An i32 or bool as a status word. */
 int32_t statusWord(const Value& value);
 
-/**
- * Reads a value that has to fit the field exactly; throws JsonError. A list is an array of
- * records, a record an array of its fields (or its only field), bytes an array of numbers or a text
- * of hexadecimal pairs.
- */
-Value valueFromJson(const Json::Value& json, const protocol::Field& field);
-
-/**
- * Reads what a person types: numbers in decimal or 0x hexadecimal, true/false/on/off/1/0, a text as
- * it is, a list as JSON. Throws std::invalid_argument.
- */
-Value valueFromText(const std::string& text, const protocol::Field& field);
-
-/** What valueFromJson would read; bytes as a text. */
-Json::Value toJson(const Value& value);
-
-/** Reads one JSON document and nothing but that; throws std::invalid_argument. */
-Json::Value parseJson(const std::string& text);
-
 /** A field as a person reads it: "i32", "[s16 name, bool on]". */
 std::string describe(const protocol::Field& field);
 
-}  // namespace tarn::simulator
+}  // namespace tarn::values

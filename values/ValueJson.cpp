@@ -1,14 +1,16 @@
+#include "values/ValueJson.h"
+
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
-#include <limits>
 #include <optional>
+#include <utility>
 
-#include "values/StrictJson.h"
-#include "values/Utf.h"
-#include "values/Value.h"
+#include "values/Hex.h"
+#include "values/JsonError.h"
+#include "values/Utf8.h"
 
-namespace tarn::simulator {
+namespace tarn::values {
 
 using protocol::Field;
 using protocol::Type;
@@ -17,39 +19,6 @@ namespace {
 
 bool isWholeNumber(const Json::Value& json) {
     return json.type() == Json::intValue || json.type() == Json::uintValue;
-}
-
-std::optional<uint8_t> hexDigit(char digit) {
-    if (digit >= '0' && digit <= '9') return digit - '0';
-    if (digit >= 'a' && digit <= 'f') return digit - 'a' + 10;
-    if (digit >= 'A' && digit <= 'F') return digit - 'A' + 10;
-    return std::nullopt;
-}
-
-std::optional<Bytes> bytesFromHex(const std::string& text) {
-    Bytes digits;
-    for (const char c : text) {
-        if (c == ' ') continue;
-        const std::optional<uint8_t> digit = hexDigit(c);
-        if (!digit) return std::nullopt;
-        digits.push_back(*digit);
-    }
-    if (digits.size() % 2 != 0) return std::nullopt;
-    Bytes bytes;
-    for (size_t i = 0; i < digits.size(); i += 2) {
-        bytes.push_back(static_cast<uint8_t>(digits[i] << 4 | digits[i + 1]));
-    }
-    return bytes;
-}
-
-std::string hexFromBytes(const Bytes& bytes) {
-    constexpr char kDigits[] = "0123456789abcdef";
-    std::string text;
-    for (const uint8_t byte : bytes) {
-        text += kDigits[byte >> 4];
-        text += kDigits[byte & 0xF];
-    }
-    return text;
 }
 
 Value intFromJson(const Json::Value& json) {
@@ -119,44 +88,6 @@ Value listFromJson(const Json::Value& json, const Field& field) {
     return Value{std::move(list)};
 }
 
-int32_t intFromText(const std::string& text) {
-    const bool negative = !text.empty() && text[0] == '-';
-    const char* first = text.data() + (negative ? 1 : 0);
-    const char* end = text.data() + text.size();
-    int base = 10;
-    if (end - first > 2 && first[0] == '0' && (first[1] == 'x' || first[1] == 'X')) {
-        first += 2;
-        base = 16;
-    }
-    uint64_t magnitude = 0;
-    const auto [stop, error] = std::from_chars(first, end, magnitude, base);
-    const uint64_t limit = uint64_t{std::numeric_limits<int32_t>::max()} + (negative ? 1 : 0);
-    if (error == std::errc::invalid_argument || stop != end) {
-        throw std::invalid_argument("'" + text + "' is no whole number");
-    }
-    if (error == std::errc::result_out_of_range || magnitude > limit) {
-        throw std::invalid_argument("'" + text + "' is beyond 32 bits");
-    }
-    const auto number = static_cast<int64_t>(magnitude);
-    return static_cast<int32_t>(negative ? -number : number);
-}
-
-bool boolFromText(const std::string& text) {
-    if (text == "true" || text == "on" || text == "1") return true;
-    if (text == "false" || text == "off" || text == "0") return false;
-    throw std::invalid_argument("'" + text + "' is neither true nor false");
-}
-
-float floatFromText(const std::string& text) {
-    float number = 0;
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number);
-    if (error != std::errc() || stop != end || !std::isfinite(number)) {
-        throw std::invalid_argument("'" + text + "' is no number");
-    }
-    return number;
-}
-
 /** The shortest decimal number that reads back as the same float. */
 double shortest(float number) {
     if (!std::isfinite(number)) return number;
@@ -204,33 +135,8 @@ Value valueFromJson(const Json::Value& json, const Field& field) {
     throw JsonError(json, "type is unknown");
 }
 
-Value valueFromText(const std::string& text, const Field& field) {
-    switch (field.type) {
-        case Type::kInt32:
-            return Value{intFromText(text)};
-        case Type::kBool:
-            return Value{boolFromText(text)};
-        case Type::kFloat:
-            return Value{floatFromText(text)};
-        case Type::kString16:
-        case Type::kBytes:
-            return valueFromJson(Json::Value(text), field);
-        case Type::kList:
-            return valueFromJson(parseJson(text), field);
-    }
-    throw std::invalid_argument("type is unknown");
-}
-
-Json::Value parseJson(const std::string& text) {
-    Json::Value root;
-    if (const std::optional<SyntaxError> error = readStrictJson(text, &root)) {
-        throw std::invalid_argument("not JSON: " + error->reason);
-    }
-    return root;
-}
-
 Json::Value toJson(const Value& value) {
     return std::visit(JsonWriter(), value.data);
 }
 
-}  // namespace tarn::simulator
+}  // namespace tarn::values

@@ -5,10 +5,16 @@
 #include <utility>
 
 #include "values/Codec.h"
+#include "values/Value.h"
 
 namespace tarn::simulator {
 
 using android::Parcel;
+using values::Bytes;
+using values::bytesOf;
+using values::List;
+using values::Record;
+using values::Value;
 
 namespace {
 
@@ -41,7 +47,7 @@ std::optional<Request> Board::decode(const void* data, size_t size) const {
     const auto [first, last] = mModel->commands.equal_range(code);
     for (auto command = first; command != last; ++command) {
         parcel.setDataPosition(start);
-        if (std::optional<Record> arguments = simulator::decode(parcel, command->second.request)) {
+        if (std::optional<Record> arguments = values::decode(parcel, command->second.request)) {
             return Request{&command->second, std::move(*arguments)};
         }
     }

@@ -17,17 +17,17 @@ namespace tarn::simulator {
 
 struct Event {
     uint32_t type;
-    Bytes data;
+    values::Bytes data;
 };
 
 /** A request taken apart. */
 struct Request {
     const CommandDescription* command;
-    Record arguments;
+    values::Record arguments;
 };
 
 /** The reply that is a status and nothing else. */
-Bytes statusReply(int32_t status);
+values::Bytes statusReply(int32_t status);
 
 /**
  * The simulated board itself: its state, and what each command does to it. Any thread may call; a
@@ -51,7 +51,7 @@ class Board {
      * @param raise takes the command's event; it is called with the state locked, so that events
      * are raised in the order of the changes that they tell of, and must only queue it
      */
-    Bytes execute(const Request& request, const std::function<void(Event)>& raise);
+    values::Bytes execute(const Request& request, const std::function<void(Event)>& raise);
 
     /** Back to the initial values. */
     void reset();
@@ -81,12 +81,12 @@ class Board {
 
     Place find(const std::string& name) const;
     Place findElement(const std::string& name) const;
-    void store(const std::string& name, const Place& place, Value value);
+    void store(const std::string& name, const Place& place, values::Value value);
     Json::Value propertyValue(size_t property) const;
     Json::Value describeProperty(size_t property) const;
     bool assign(const Request& request, const std::string& index);
-    Value evaluate(const Expression& expression, const Request& request,
-                   const std::string& index) const;
+    values::Value evaluate(const Expression& expression, const Request& request,
+                           const std::string& index) const;
 
     const std::shared_ptr<const BoardModel> mModel;
     mutable std::mutex mLock;

@@ -3,8 +3,17 @@
 #include <utility>
 
 #include "simulator/board/Board.h"
+#include "values/Value.h"
+#include "values/ValueJson.h"
+#include "values/ValueText.h"
 
 namespace tarn::simulator {
+
+using values::describe;
+using values::toJson;
+using values::Value;
+using values::valueFromJson;
+using values::valueFromText;
 
 namespace {
 

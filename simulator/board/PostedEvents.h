@@ -13,7 +13,7 @@ namespace tarn::simulator {
 /** An event that an application sent to the board. */
 struct PostedEvent {
     int32_t what;
-    Bytes data;
+    values::Bytes data;
 };
 
 /** The latest events that applications sent; older ones make room. Any thread may call. */

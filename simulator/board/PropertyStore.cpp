@@ -2,7 +2,11 @@
 
 #include <utility>
 
+#include "values/Value.h"
+
 namespace tarn::simulator {
+
+using values::Value;
 
 PropertyStore::PropertyStore(std::shared_ptr<const BoardModel> model) : mModel(std::move(model)) {
     reset();

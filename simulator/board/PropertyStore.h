@@ -21,23 +21,23 @@ class PropertyStore {
     void reset();
 
     /** The value, of an indexed property that of the index's element. */
-    const Value& get(size_t property, const std::string& index) const;
+    const values::Value& get(size_t property, const std::string& index) const;
 
     /** False if the property doesn't accept the value or has no room for another element. */
-    bool accepts(size_t property, const std::string& index, const Value& value) const;
+    bool accepts(size_t property, const std::string& index, const values::Value& value) const;
 
     /** Stores a value that is accepted. */
-    void set(size_t property, const std::string& index, Value value);
+    void set(size_t property, const std::string& index, values::Value value);
 
     /** The elements that were set since the start, by index. */
-    const std::map<std::string, Value>& elements(size_t property) const {
+    const std::map<std::string, values::Value>& elements(size_t property) const {
         return mSlots[property].elements;
     }
 
   private:
     struct Slot {
-        Value value;
-        std::map<std::string, Value> elements;
+        values::Value value;
+        std::map<std::string, values::Value> elements;
     };
 
     const std::shared_ptr<const BoardModel> mModel;

@@ -11,6 +11,8 @@
 #include <thread>
 #include <utility>
 
+#include "values/Value.h"
+
 namespace tarn::simulator {
 
 using ::android::sp;
@@ -18,6 +20,7 @@ using ::android::hardware::hidl_string;
 using ::android::hardware::Return;
 using ::android::hardware::Status;
 using ::android::hardware::Void;
+using values::Bytes;
 using ::vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
 
 namespace {

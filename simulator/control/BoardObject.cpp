@@ -11,8 +11,12 @@
 #include "simulator/control/BoardInterface.h"
 #include "simulator/control/BusValues.h"
 #include "values/Value.h"
+#include "values/ValueJson.h"
 
 namespace tarn::simulator::bus {
+
+using values::Bytes;
+using values::valueFromJson;
 
 namespace {
 

@@ -2,10 +2,15 @@
 
 #include <stdexcept>
 
-#include "values/Utf.h"
+#include "values/Utf8.h"
 #include "values/Value.h"
+#include "values/ValueJson.h"
 
 namespace tarn::simulator::bus {
+
+using values::Bytes;
+using values::utf16FromUtf8;
+using values::Value;
 
 namespace {
 

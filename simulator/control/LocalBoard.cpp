@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "protocol/Catalog.h"
+#include "values/ValueJson.h"
 
 namespace tarn::simulator {
 
@@ -41,7 +42,7 @@ class LocalBoard : public BoardControl {
         for (const PostedEvent& event : mBoard->postedEvents()) {
             Json::Value entry(Json::objectValue);
             entry["what"] = event.what;
-            entry["data"] = toJson(Value{event.data});
+            entry["data"] = toJson(values::Value{event.data});
             list.append(entry);
         }
         return list;

@@ -10,8 +10,11 @@
 #include "simulator/control/BusConnection.h"
 #include "simulator/control/BusValues.h"
 #include "values/Value.h"
+#include "values/ValueJson.h"
 
 namespace tarn::simulator {
+
+using values::Value;
 
 namespace {
 

@@ -40,7 +40,7 @@ BoardFileError::BoardFileError(std::vector<Problem> problems)
     : std::runtime_error(joined(problems)), mProblems(std::move(problems)) {}
 
 BoardFile::BoardFile(const std::string& path) : mPath(path), mText(readWhole(path)) {
-    if (const std::optional<SyntaxError> error = readStrictJson(mText, &mRoot)) {
+    if (const std::optional<values::SyntaxError> error = values::readStrictJson(mText, &mRoot)) {
         throw BoardFileError({Problem{path, error->line, error->reason}});
     }
     if (!mRoot.isObject()) throw BoardFileError({Problem{path, 1, "the file needs an object"}});

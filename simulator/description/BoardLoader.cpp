@@ -7,8 +7,13 @@
 #include "simulator/description/BoardSources.h"
 #include "simulator/description/CommandReader.h"
 #include "simulator/description/PropertyReader.h"
+#include "values/JsonError.h"
+#include "values/Value.h"
 
 namespace tarn::simulator {
+
+using values::JsonError;
+using values::looksAlike;
 
 namespace {
 

@@ -20,7 +20,7 @@ struct Expression {
 
     Kind kind = Kind::kLiteral;
     std::optional<protocol::Type> type;  // of the field that it fills; none in an event
-    Value literal;
+    values::Value literal;
     size_t source = 0;                             // the property, or the argument
     std::vector<std::vector<Expression>> records;  // of a kList
 };

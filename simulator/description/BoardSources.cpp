@@ -4,9 +4,16 @@
 #include <filesystem>
 #include <system_error>
 
+#include "values/JsonError.h"
 #include "values/JsonFields.h"
 
 namespace tarn::simulator {
+
+using values::checkKeys;
+using values::checkName;
+using values::findMember;
+using values::JsonError;
+using values::readText;
 
 namespace {
 

@@ -3,13 +3,26 @@
 #include <algorithm>
 #include <charconv>
 
+#include "values/JsonError.h"
 #include "values/JsonFields.h"
+#include "values/Value.h"
+#include "values/ValueJson.h"
 
 namespace tarn::simulator {
 
 using protocol::Field;
 using protocol::Layout;
 using protocol::Type;
+using values::checkKeys;
+using values::describe;
+using values::findMember;
+using values::inField;
+using values::JsonError;
+using values::looksAlike;
+using values::readNumber;
+using values::readText;
+using values::Value;
+using values::valueFromJson;
 
 namespace {
 

@@ -4,9 +4,16 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "values/Utf.h"
+#include "values/Utf8.h"
+#include "values/Value.h"
+#include "values/ValueText.h"
 
 namespace tarn::simulator {
+
+using values::Record;
+using values::utf8FromUtf16;
+using values::Value;
+using values::valueFromText;
 
 namespace {
 

@@ -1,11 +1,22 @@
 #include "simulator/description/PropertyReader.h"
 
+#include "values/JsonError.h"
 #include "values/JsonFields.h"
+#include "values/Value.h"
+#include "values/ValueJson.h"
 
 namespace tarn::simulator {
 
 using protocol::Field;
 using protocol::Type;
+using values::checkKeys;
+using values::checkName;
+using values::findMember;
+using values::inField;
+using values::JsonError;
+using values::readText;
+using values::Value;
+using values::valueFromJson;
 
 namespace {
 

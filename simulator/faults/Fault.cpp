@@ -1,8 +1,15 @@
 #include "simulator/faults/Fault.h"
 
+#include "values/JsonError.h"
 #include "values/JsonFields.h"
 
 namespace tarn::simulator {
+
+using values::checkKeys;
+using values::findMember;
+using values::JsonError;
+using values::readNumber;
+using values::readText;
 
 namespace {
 

@@ -16,6 +16,10 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
+using values::Bytes;
+using values::List;
+using values::Record;
+using values::Value;
 
 namespace {
 

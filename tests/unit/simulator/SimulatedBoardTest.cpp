@@ -26,6 +26,7 @@
 #include "simulator/description/BoardLoader.h"
 #include "tests/support/RecordingManager.h"
 #include "values/Codec.h"
+#include "values/StrictJson.h"
 
 namespace tarn::simulator {
 
@@ -41,6 +42,8 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::ThrowsMessage;
+using values::Bytes;
+using values::Value;
 using ::vendor::zunt::hwtarn::V1_0::IHwTarn;
 using ::vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
 
@@ -177,7 +180,7 @@ class SimulatedBoardTest : public ::testing::Test {
         return answer.bytes;
     }
 
-    static Json::Value json(const std::string& text) { return parseJson(text); }
+    static Json::Value json(const std::string& text) { return values::parseJson(text); }
 
     const sp<SimulatedBoard> mBoard;
     const std::unique_ptr<BoardControl> mControl;
@@ -829,7 +832,7 @@ TEST(DefaultBoard, AnswersEveryCommandAsItsRowSays) {
         android::Parcel reply;
         reply.setData(answer.bytes.data(), answer.bytes.size());
         reply.readInt32();
-        EXPECT_TRUE(decode(reply, row.replyLayout())) << row.name;
+        EXPECT_TRUE(values::decode(reply, row.replyLayout())) << row.name;
     }
 }
 

@@ -1,8 +1,8 @@
-#include "values/Utf.h"
+#include "values/Utf8.h"
 
 #include <cstdint>
 
-namespace tarn::simulator {
+namespace tarn::values {
 
 namespace {
 
@@ -103,4 +103,4 @@ std::string utf8FromUtf16(const std::u16string& text) {
     return bytes;
 }
 
-}  // namespace tarn::simulator
+}  // namespace tarn::values

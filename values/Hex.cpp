@@ -1,0 +1,42 @@
+#include "values/Hex.h"
+
+namespace tarn::values {
+
+namespace {
+
+std::optional<uint8_t> hexDigit(char digit) {
+    if (digit >= '0' && digit <= '9') return digit - '0';
+    if (digit >= 'a' && digit <= 'f') return digit - 'a' + 10;
+    if (digit >= 'A' && digit <= 'F') return digit - 'A' + 10;
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::string hexFromBytes(const Bytes& bytes) {
+    constexpr char kDigits[] = "0123456789abcdef";
+    std::string text;
+    for (const uint8_t byte : bytes) {
+        text += kDigits[byte >> 4];
+        text += kDigits[byte & 0xF];
+    }
+    return text;
+}
+
+std::optional<Bytes> bytesFromHex(const std::string& text) {
+    Bytes digits;
+    for (const char c : text) {
+        if (c == ' ') continue;
+        const std::optional<uint8_t> digit = hexDigit(c);
+        if (!digit) return std::nullopt;
+        digits.push_back(*digit);
+    }
+    if (digits.size() % 2 != 0) return std::nullopt;
+    Bytes bytes;
+    for (size_t i = 0; i < digits.size(); i += 2) {
+        bytes.push_back(static_cast<uint8_t>(digits[i] << 4 | digits[i + 1]));
+    }
+    return bytes;
+}
+
+}  // namespace tarn::values
