@@ -7,6 +7,7 @@
 
 #include "core/TarnCallback.h"
 #include "core/TarnClientLooper.h"
+#include "protocol/Limits.h"
 
 #define TARN_LOG_TAG "Zunt@HwTarnClient"
 #include "log/Log.h"
@@ -21,9 +22,6 @@ SharedReference<IHwTarn> mHwTarnService;
 SharedReference<ITarnClientLooper> mITarnClientLooper;
 
 namespace {
-
-// The binder transaction buffer: one mebibyte less two guard pages.
-constexpr size_t kBinderVmSize = 1024 * 1024 - 2 * 4096;
 
 /** The cached proxy, looked up first where there is none; null without a service. */
 sp<IHwTarn> obtainHwTarnService() {
@@ -91,7 +89,7 @@ int HwTarnClient::postEvent(int what, const Parcel& data) {
         TLOGE("Error, postEvent failed, mHwTarnService null .");
         return -1;
     }
-    if (data.dataSize() > kBinderVmSize) {
+    if (data.dataSize() > ::tarn::protocol::kMostTransactionBytes) {
         TLOGE("Error, postEvent failed, Parcel data szie to long , biger then BINDER_VM_SIZE .");
         return -1;
     }

@@ -2,13 +2,11 @@
 
 #include "modules/Replies.h"
 #include "protocol/Commands.h"
+#include "protocol/Limits.h"
 
 namespace android {
 
 namespace {
-
-// The most that the device's transport carries in one reply.
-constexpr size_t kTestResultSize = 1040384;
 
 void writeHeader(const _EunmAvCtrlHdmiout_& header, Parcel* request) {
     request->writeInt32(header.item1);
@@ -306,7 +304,7 @@ int AvManagerCtrl::getCameraPtzMode() {
 }
 
 unsigned char* AvManagerCtrl::getDspTestResult() {
-    static unsigned char result[kTestResultSize];
+    static unsigned char result[::tarn::protocol::kMostTransactionBytes];
     Parcel reply;
     mTarnMgr->exeCmdSet_Parcel(CMD_AV_GET_DSP_TEST_RESULT, &reply);
     if (reply.readInt32() == -1) return nullptr;

@@ -17,9 +17,6 @@ constexpr char kBoardInterface[] = "org.tarn.Board1";
 /** The error of a call that the board refuses; its message says why. */
 constexpr char kRefusedError[] = "org.tarn.Board1.Error.Refused";
 
-/** The most bytes that an event may carry, as those that applications post. */
-constexpr size_t kMostEventBytes = 1'040'384;
-
 using Dictionary = std::map<std::string, sdbus::Variant>;          // a{sv}
 using Descriptions = std::map<std::string, Dictionary>;            // a{sa{sv}}
 using PostedEvent = sdbus::Struct<int32_t, std::vector<uint8_t>>;  // (iay)

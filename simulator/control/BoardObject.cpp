@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "protocol/Limits.h"
 #include "simulator/control/BoardInterface.h"
 #include "simulator/control/BusValues.h"
 #include "values/Value.h"
@@ -83,8 +84,9 @@ std::vector<CommandFault> faultsOf(const Json::Value& list) {
 }
 
 void raiseEvent(BoardControl* board, uint32_t type, const std::vector<uint8_t>& data) {
-    if (data.size() > kMostEventBytes) {
-        throw std::invalid_argument("an event carries " + std::to_string(kMostEventBytes) +
+    if (data.size() > protocol::kMostTransactionBytes) {
+        throw std::invalid_argument("an event carries " +
+                                    std::to_string(protocol::kMostTransactionBytes) +
                                     " bytes at most, not " + std::to_string(data.size()));
     }
     board->raiseEvent(type, data);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "protocol/Limits.h"
 #include "tools/tarnctl/output/Format.h"
 
 namespace tarnctl {
@@ -9,9 +10,6 @@ namespace tarnctl {
 using android::Parcel;
 
 namespace {
-
-/** What the transport carries as one event; see ITarnManager::postEvent(). */
-constexpr size_t kLargestEvent = 1'040'384;
 
 std::vector<uint8_t> bytesOf(const Parcel& parcel) {
     if (parcel.dataSize() == 0) return {};
@@ -99,7 +97,7 @@ int TracingManager::postEvent(int what, Parcel& data) {
     exchange.status = TarnManager::postEvent(what, data);
     if (exchange.status != -1) {
         exchange.state = Exchange::State::kAnswered;
-    } else if (exchange.request.size() > kLargestEvent) {
+    } else if (exchange.request.size() > ::tarn::protocol::kMostTransactionBytes) {
         exchange.state = Exchange::State::kRefused;
     } else {
         exchange.state = Exchange::State::kLost;
