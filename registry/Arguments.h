@@ -5,6 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "protocol/Layout.h"
+#include "values/Value.h"
+
 namespace tarn::registry {
 
 /** An argument on the command line that can't be used; says which, why and what is accepted. */
@@ -13,17 +16,13 @@ class BadArgument : public std::invalid_argument {
     using std::invalid_argument::invalid_argument;
 };
 
-// Reading one argument of the command line. Each function throws BadArgument, which names the
-// argument, quotes the text and tells what is accepted.
+// Reading one argument of the command line as values/README.md tells. Each function throws
+// BadArgument, which names the argument, quotes the text and tells what is accepted.
 
-/** Decimal within int32; or 0x hexadecimal, which may be a negative number's word: 0xffffffff is
- * -1. */
 int32_t parseInt(const std::string& name, const std::string& text);
 
-/** As parseInt, within uint32. */
 uint32_t parseUnsigned(const std::string& name, const std::string& text);
 
-/** true/false, on/off, yes/no, 1/0. */
 bool parseBool(const std::string& name, const std::string& text);
 
 float parseFloat(const std::string& name, const std::string& text);
@@ -31,10 +30,10 @@ float parseFloat(const std::string& name, const std::string& text);
 /** The text, if it is UTF-8: the library's texts can't hold anything else. */
 std::string parseText(const std::string& name, const std::string& text);
 
-/** Pairs of hexadecimal digits; blanks between them are ignored. */
 std::vector<uint8_t> parseBytes(const std::string& name, const std::string& text);
 
-/** The parts between commas; an empty text is an empty list. */
-std::vector<std::string> splitList(const std::string& text);
+/** A value of the field's type. */
+values::Value parseValue(const std::string& name, const std::string& text,
+                         const protocol::Field& field);
 
 }  // namespace tarn::registry

@@ -1,6 +1,7 @@
 #include "registry/Parameters.h"
 
 #include "registry/Arguments.h"
+#include "values/ValueText.h"
 
 namespace tarn::registry {
 
@@ -31,13 +32,13 @@ void readBytes(const std::string& name, const std::string& text, Value* value) {
 }
 
 void readInts(const std::string& name, const std::string& text, Value* value) {
-    for (const std::string& part : splitList(text)) {
+    for (const std::string& part : values::splitList(text)) {
         value->numbers.push_back(parseInt(name, part));
     }
 }
 
 void readTexts(const std::string& name, const std::string& text, Value* value) {
-    for (const std::string& part : splitList(text)) {
+    for (const std::string& part : values::splitList(text)) {
         value->texts.push_back(parseText(name, part));
     }
 }

@@ -113,4 +113,10 @@ Bytes bytesOf(const Parcel& parcel) {
     return Bytes(parcel.data(), parcel.data() + parcel.dataSize());
 }
 
+std::unique_ptr<Parcel> parcelOf(const Bytes& bytes) {
+    auto parcel = std::make_unique<Parcel>();
+    parcel->setData(bytes.data(), bytes.size());
+    return parcel;
+}
+
 }  // namespace tarn::values

@@ -2,6 +2,7 @@
 
 #include <binder/Parcel.h>
 
+#include <memory>
 #include <optional>
 
 #include "protocol/Layout.h"
@@ -20,5 +21,8 @@ void encode(const Value& value, android::Parcel* parcel);
 
 /** Everything that the parcel holds. */
 Bytes bytesOf(const android::Parcel& parcel);
+
+/** A parcel that holds exactly these bytes, at position 0. */
+std::unique_ptr<android::Parcel> parcelOf(const Bytes& bytes);
 
 }  // namespace tarn::values

@@ -11,14 +11,26 @@ std::optional<uint8_t> hexDigit(char digit) {
     return std::nullopt;
 }
 
+void append(std::string* text, uint8_t byte) {
+    constexpr char kDigits[] = "0123456789abcdef";
+    *text += kDigits[byte >> 4];
+    *text += kDigits[byte & 0xF];
+}
+
 }  // namespace
 
 std::string hexFromBytes(const Bytes& bytes) {
-    constexpr char kDigits[] = "0123456789abcdef";
     std::string text;
-    for (const uint8_t byte : bytes) {
-        text += kDigits[byte >> 4];
-        text += kDigits[byte & 0xF];
+    for (const uint8_t byte : bytes) append(&text, byte);
+    return text;
+}
+
+std::string hexWords(const Bytes& bytes) {
+    constexpr size_t kWord = 4;
+    std::string text;
+    for (size_t i = 0; i < bytes.size(); i++) {
+        if (i > 0 && i % kWord == 0) text += ' ';
+        append(&text, bytes[i]);
     }
     return text;
 }

@@ -44,13 +44,13 @@ int64_t readNumber(const Json::Value& json, const std::string& what, int64_t min
 
 std::string readText(const Json::Value& json, const std::string& what) {
     if (!json.isString()) throw JsonError(json, what + " needs a text");
-    if (!utf16FromUtf8(json.asString())) throw JsonError(json, what + " is not UTF-8");
+    if (!isUtf8(json.asString())) throw JsonError(json, what + " is not UTF-8");
     return json.asString();
 }
 
 void checkName(const Json::Value& at, const std::string& what, const std::string& name) {
     if (name.empty()) throw JsonError(at, what + " is empty");
-    if (!utf16FromUtf8(name)) throw JsonError(at, what + " is not UTF-8");
+    if (!isUtf8(name)) throw JsonError(at, what + " is not UTF-8");
 }
 
 }  // namespace tarn::values

@@ -68,6 +68,10 @@ void append(std::string* text, char32_t point) {
 
 }  // namespace
 
+bool isUtf8(const std::string& text) {
+    return utf16FromUtf8(text).has_value();
+}
+
 std::optional<std::u16string> utf16FromUtf8(const std::string& text) {
     std::u16string units;
     size_t at = 0;

@@ -5,6 +5,8 @@
 
 namespace tarn::values {
 
+bool isUtf8(const std::string& text);
+
 /** The text as UTF-16; nothing if it is not well-formed UTF-8. */
 std::optional<std::u16string> utf16FromUtf8(const std::string& text);
 

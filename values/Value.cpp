@@ -1,6 +1,7 @@
 #include "values/Value.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tarn::values {
@@ -37,6 +38,15 @@ Value converted(Value value, Type type) {
 
 int32_t statusWord(const Value& value) {
     return std::get<int32_t>(converted(value, Type::kInt32).data);
+}
+
+bool isFinite(const Value& value) {
+    if (const float* number = std::get_if<float>(&value.data)) return std::isfinite(*number);
+    const List* list = std::get_if<List>(&value.data);
+    if (list == nullptr) return true;
+    return std::all_of(list->begin(), list->end(), [](const Record& record) {
+        return std::all_of(record.begin(), record.end(), isFinite);
+    });
 }
 
 std::string describe(const Field& field) {

@@ -33,6 +33,9 @@ Value converted(Value value, protocol::Type type);
 /** An i32 or bool as a status word. */
 int32_t statusWord(const Value& value);
 
+/** Whether every number in it is one, as JSON has them: neither infinity nor NaN. */
+bool isFinite(const Value& value);
+
 /** A field as a person reads it: "i32", "[s16 name, bool on]". */
 std::string describe(const protocol::Field& field);
 

@@ -1,7 +1,7 @@
 #include <tarn/IAudioCtrl.h>
 
 #include "registry/Builder.h"
-#include "registry/Parcels.h"
+#include "values/Codec.h"
 
 using namespace android;
 
@@ -48,7 +48,7 @@ void registerAudioCtrl(std::vector<Controller>* registry) {
     builder.adapted(
             "postAudioEvent", kNoCommand, &IAudioCtrl::postAudioEvent,
             +[](IAudioCtrl& audio, int event, std::vector<uint8_t> data) {
-                return audio.postAudioEvent(event, *parcelOf(data));
+                return audio.postAudioEvent(event, *values::parcelOf(data));
             },
             "event, data");
     METHOD(getSubwooferOutProfile, CMD_AUDIO_GET_SUBWOOFER_OUT_PROFILE);

@@ -1,7 +1,8 @@
 #include <tarn/IProjectId.h>
 
 #include "registry/Builder.h"
-#include "registry/Parcels.h"
+#include "values/Codec.h"
+#include "values/Hex.h"
 
 using namespace android;
 
@@ -14,7 +15,9 @@ template <int (IProjectId::*kMethod)(Parcel*)>
 Answer filled(IProjectId& projectId) {
     Parcel cfgs;
     const int status = (projectId.*kMethod)(&cfgs);
-    return record().field("result", status).field("data", hexOf(cfgs));
+    return record()
+            .field("result", status)
+            .field("data", values::hexFromBytes(values::bytesOf(cfgs)));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "registry/Arguments.h"
 #include "registry/Builder.h"
+#include "values/ValueText.h"
 
 using namespace android;
 
@@ -10,7 +11,7 @@ namespace tarn::registry {
 namespace {
 
 void readRect(const std::string& name, const std::string& text, Value* value) {
-    const std::vector<std::string> parts = splitList(text);
+    const std::vector<std::string> parts = values::splitList(text);
     if (parts.size() != 5) {
         throw BadArgument(name + ": \"" + text + "\" can't be used; accepted: id,x1,y1,x2,y2");
     }

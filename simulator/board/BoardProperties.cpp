@@ -52,7 +52,10 @@ void Board::setProperty(const std::string& name, const Json::Value& value) {
 
 void Board::setPropertyFromText(const std::string& name, const std::string& value) {
     const Place place = findElement(name);
-    store(name, place, valueFromText(value, mModel->properties[place.property].field));
+    Value typed = valueFromText(value, mModel->properties[place.property].field);
+    // The board's state is read as JSON, which has no other numbers.
+    if (!isFinite(typed)) throw std::invalid_argument("'" + value + "' is no number");
+    store(name, place, std::move(typed));
 }
 
 /** Takes "name" or "name[index]" apart. */

@@ -9,7 +9,7 @@
 namespace tarn::simulator::bus {
 
 using values::Bytes;
-using values::utf16FromUtf8;
+using values::isUtf8;
 using values::Value;
 
 namespace {
@@ -57,7 +57,7 @@ std::string busText(const std::string& text) {
 }
 
 const std::string& checkedText(const std::string& text) {
-    if (!utf16FromUtf8(text)) throw std::invalid_argument("text is not UTF-8");
+    if (!isUtf8(text)) throw std::invalid_argument("text is not UTF-8");
     if (text.find('\0') != std::string::npos) throw std::invalid_argument("text has a NUL");
     return text;
 }

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "protocol/Catalog.h"
+#include "values/Hex.h"
 
 namespace tarn::simulator {
 
@@ -20,18 +21,14 @@ namespace {
 
 constexpr size_t kMostBytesShown = 64;
 
-/** Hexadecimal pairs, a blank before every fourth. */
-std::string hexWords(const hidl_string& bytes) {
-    std::string text;
+/** The first bytes, with a blank before every word. */
+std::string shownBytes(const hidl_string& bytes) {
     const size_t shown = std::min(bytes.size(), kMostBytesShown);
-    for (size_t i = 0; i < shown; i++) {
-        char pair[4];
-        snprintf(pair, sizeof(pair), i % 4 == 0 ? " %02x" : "%02x",
-                 static_cast<uint8_t>(bytes.c_str()[i]));
-        text += pair;
-    }
-    if (shown < bytes.size()) text += " ... " + std::to_string(bytes.size()) + " bytes";
-    return text;
+    if (shown == 0) return "";
+    const std::string text =
+            " " + values::hexWords(values::Bytes(bytes.c_str(), bytes.c_str() + shown));
+    if (shown == bytes.size()) return text;
+    return text + " ... " + std::to_string(bytes.size()) + " bytes";
 }
 
 std::string commandOf(const hidl_string& request) {
@@ -51,11 +48,11 @@ void tell(const std::string& what) {
 
 Return<void> TracedBoard::hwInvoke(const hidl_string& request, hwInvoke_cb _hidl_cb) {
     const std::string command = commandOf(request);
-    tell(command + hexWords(request));
+    tell(command + shownBytes(request));
     std::string answer = " with an error";
     Return<void> result =
             SimulatedBoard::hwInvoke(request, [&answer, &_hidl_cb](const hidl_string& reply) {
-                answer = hexWords(reply);
+                answer = shownBytes(reply);
                 _hidl_cb(reply);
             });
     tell(command + " answered" + answer);
@@ -68,7 +65,7 @@ Return<void> TracedBoard::hwRegisterCallback(const sp<IHwTarnCallback>& callback
 }
 
 Return<void> TracedBoard::hwPostEvent(int32_t what, const hidl_string& data) {
-    tell("posts event " + std::to_string(what) + hexWords(data));
+    tell("posts event " + std::to_string(what) + shownBytes(data));
     return SimulatedBoard::hwPostEvent(what, data);
 }
 

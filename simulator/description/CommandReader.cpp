@@ -1,12 +1,12 @@
 #include "simulator/description/CommandReader.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "values/JsonError.h"
 #include "values/JsonFields.h"
 #include "values/Value.h"
 #include "values/ValueJson.h"
+#include "values/ValueText.h"
 
 namespace tarn::simulator {
 
@@ -21,6 +21,8 @@ using values::JsonError;
 using values::looksAlike;
 using values::readNumber;
 using values::readText;
+using values::TextError;
+using values::unsignedFromText;
 using values::Value;
 using values::valueFromJson;
 
@@ -67,15 +69,11 @@ uint32_t readEventType(const Json::Value& json) {
     constexpr int64_t kMax = std::numeric_limits<uint32_t>::max();
     if (!json.isString()) return static_cast<uint32_t>(readNumber(json, "type", 0, kMax));
     const std::string text = json.asString();
-    uint32_t type = 0;
-    const bool isHex = text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X');
-    const char* end = text.data() + text.size();
-    const auto [stop, error] =
-            std::from_chars(text.data() + (isHex ? 2 : 0), end, type, isHex ? 16 : 10);
-    if (error != std::errc() || stop != end) {
+    try {
+        return unsignedFromText(text);
+    } catch (const TextError&) {
         throw JsonError(json, "type '" + text + "' is not a number of 32 bits");
     }
-    return type;
 }
 
 class Reader {

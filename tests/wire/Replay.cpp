@@ -7,8 +7,10 @@
 #include <map>
 #include <stdexcept>
 
+#include "registry/Arguments.h"
 #include "tests/support/LogCalls.h"
 #include "tests/support/RecordingManager.h"
+#include "values/Hex.h"
 
 namespace tarn::test {
 
@@ -41,15 +43,8 @@ std::string compact(const Json::Value& value) {
     return Json::writeString(builder, value);
 }
 
-std::string hexOf(const Bytes& bytes) {
-    static const char kDigits[] = "0123456789abcdef";
-    std::string text;
-    for (size_t i = 0; i < bytes.size(); i++) {
-        if (i > 0 && i % 4 == 0) text += ' ';
-        text += kDigits[bytes[i] >> 4];
-        text += kDigits[bytes[i] & 15];
-    }
-    return text.empty() ? "nothing" : text;
+std::string shown(const Bytes& bytes) {
+    return bytes.empty() ? "nothing" : values::hexWords(bytes);
 }
 
 /** Notes how far the log was when each command came. */
@@ -163,8 +158,8 @@ class Replayer {
         }
         for (size_t i = 0; i < std::min(sent.size(), wireCase.commands.size()); i++) {
             if (sent[i] != wireCase.commands[i].request) {
-                fail(wireCase, "sent " + hexOf(sent[i]) + " instead of " +
-                                       hexOf(wireCase.commands[i].request));
+                fail(wireCase, "sent " + shown(sent[i]) + " instead of " +
+                                       shown(wireCase.commands[i].request));
             }
         }
         if (result != wireCase.result) {

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "registry/Arguments.h"
-#include "registry/Parcels.h"
 #include "registry/Results.h"
 #include "tools/tarnctl/board/FaultWords.h"
 #include "tools/tarnctl/catalog/NearNames.h"
@@ -16,10 +15,16 @@
 #include "tools/tarnctl/options/Options.h"
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/output/Format.h"
-#include "tools/tarnctl/verbs/Wire.h"
+#include "values/Value.h"
 
 using namespace tarn::registry;
 using namespace tarnctl;
+using ::tarn::protocol::Layout;
+using ::tarn::protocol::parseLayout;
+using ::tarn::values::Bytes;
+using ::tarn::values::List;
+using ::tarn::values::Record;
+using FieldValue = ::tarn::values::Value;
 using std::chrono::milliseconds;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -117,25 +122,19 @@ TEST(TarnctlTexts, AreUtf8) {
           "\xf0\x80\x80\xaf", "\xf4\x90\x80\x80", "\xf8\x88\x80\x80\x80", "\xe2\x82"}) {
         const std::string said = "name: the text is not UTF-8";
         EXPECT_EQ(refusal([&] { parseText("name", text); }), said);
-        android::Parcel parcel;
-        EXPECT_EQ(refusal([&] { writeValue("s16", text, &parcel); }), "s16: the text is not UTF-8");
-        EXPECT_EQ(parcel.dataSize(), 0u);
+        EXPECT_EQ(refusal([&] { parseValue("s16", text, parseLayout("s16 text")[0]); }),
+                  "s16: the text is not UTF-8");
     }
 }
 
 TEST(TarnctlBytes, ArePairsOfHexadecimalDigits) {
     EXPECT_THAT(parseBytes("data", ""), IsEmpty());
     EXPECT_THAT(parseBytes("data", "0a0B ff"), ElementsAre(0x0a, 0x0b, 0xff));
-    for (const std::string text : {"0", "0g", "0a0", "0 a"}) {
+    EXPECT_THAT(parseBytes("data", "0 a"), ElementsAre(0x0a));
+    for (const std::string text : {"0", "0g", "0a0", "0\ta"}) {
         EXPECT_EQ(refusal([&] { parseBytes("data", text); }),
                   "data: \"" + text + "\" can't be used; accepted: pairs of hexadecimal digits");
     }
-}
-
-TEST(TarnctlLists, AreSeparatedByCommas) {
-    EXPECT_THAT(splitList(""), IsEmpty());
-    EXPECT_THAT(splitList("a"), ElementsAre("a"));
-    EXPECT_THAT(splitList("a,,b,"), ElementsAre("a", "", "b", ""));
 }
 
 TEST(TarnctlOptions, StandAnywhereBeforeTheDashes) {
@@ -358,48 +357,22 @@ TEST(TarnctlFaults, RefuseWordsThatContradict) {
               "2 fault: every stands twice");
 }
 
-TEST(TarnctlWire, WritesEveryType) {
-    android::Parcel parcel;
-    writeValue("i32", "-2", &parcel);
-    writeValue("bool", "on", &parcel);
-    writeValue("f32", "0.5", &parcel);
-    writeValue("s16", "ab", &parcel);
-    writeValue("bytes", "0a0b0c", &parcel);
-    EXPECT_EQ(hexOf(parcel),
-              "feffffff"
-              "01000000"
-              "0000003f"
-              "02000000"
-              "61006200"
-              "00000000"
-              "03000000"
-              "0a0b0c00");
-    EXPECT_EQ(refusal([&] { writeValue("i64", "1", &parcel); }),
-              "2 no type \"i64\"; accepted: i32, bool, s16, f32, bytes");
+TEST(TarnctlText, ShowsFieldsByTheirNames) {
+    const Layout layout = parseLayout("bool on, s16 name, [f32 level] levels, bytes data, i32 n");
+    const Record record = {FieldValue{true}, FieldValue{u"ab"},
+                           FieldValue{List{{FieldValue{0.5f}}, {FieldValue{1.0f}}}},
+                           FieldValue{Bytes{0x0a, 0x0b, 0x0c, 0x0d, 0x0e}}, FieldValue{-2}};
+    const Json::Value named = namedFields(record, layout);
+    EXPECT_THAT(fieldNames(named), ElementsAre("on", "name", "levels", "data", "n"));
+    EXPECT_EQ(jsonText(named, JsonStyle::kShort),
+              R"({"data":"0a0b0c0d 0e","levels":[{"level":0.5},{"level":1.0}],"n":-2,)"
+              R"("name":"ab","on":true})");
 }
 
-TEST(TarnctlWire, ReadsWhatALayoutSays) {
-    const auto parcel =
-            parcelOf({1, 0, 0, 0, 2, 0,    0, 0, 0x61, 0,    0x62, 0, 0, 0, 0,    0,    2,    0,
-                      0, 0, 0, 0, 0, 0x3f, 0, 0, 0x80, 0x3f, 3,    0, 0, 0, 0x0a, 0x0b, 0x0c, 0});
-    const auto fields = readFields(
-            *parcel, ::tarn::protocol::parseLayout("bool on, s16 name, [f32 level] levels, "
-                                                   "bytes data"));
-    ASSERT_TRUE(fields);
-    EXPECT_EQ(jsonText(*fields, JsonStyle::kShort),
-              R"({"data":"0a0b0c","levels":[{"level":0.5},{"level":1.0}],"name":"ab","on":true})");
-}
-
-TEST(TarnctlWire, ReadsNothingFromBytesThatDontFit) {
-    const auto read = [](const std::vector<uint8_t>& bytes, const char* layout) {
-        return readFields(*parcelOf(bytes), ::tarn::protocol::parseLayout(layout)).has_value();
-    };
-    EXPECT_FALSE(read({1, 0, 0}, "i32 a"));
-    EXPECT_FALSE(read({1, 0, 0, 0, 2, 0, 0, 0}, "i32 a"));
-    EXPECT_FALSE(read({0xff, 0xff, 0xff, 0x7f, 1, 0, 0, 0}, "[i32 a] list"));
-    EXPECT_FALSE(read({0xff, 0xff, 0xff, 0xff}, "[i32 a] list"));
-    EXPECT_FALSE(read({0xff, 0xff, 0xff, 0x7f, 1, 0, 0, 0}, "bytes b"));
-    EXPECT_FALSE(read({0xff, 0xff, 0xff, 0x7f, 1, 0, 0, 0}, "s16 t"));
+TEST(TarnctlText, LeavesHalfACharacterOutAsThePlatformDoes) {
+    const std::u16string text{u'a', 0xD800, u'b'};
+    EXPECT_EQ(namedFields({FieldValue{text}}, parseLayout("s16 text"))["text"].asString(), "ab");
+    EXPECT_EQ(toUtf8(android::String16(text.data(), text.size())), "ab");
 }
 
 TEST(TarnctlText, ShowsRecordsAndLists) {
@@ -436,9 +409,7 @@ TEST(TarnctlText, ShowsFloatsWithTheDigitsTheyHave) {
     EXPECT_EQ(jsonText(Json::Value(16777.217f), JsonStyle::kShort), "16777.217");
 }
 
-TEST(TarnctlText, ShowsBytesAsWords) {
-    EXPECT_EQ(hexWords({}), "");
-    EXPECT_EQ(hexWords({2, 0x14, 0, 0, 0x1e, 0}), "02140000 1e00");
+TEST(TarnctlText, ShowsCodesInFourDigits) {
     EXPECT_EQ(hexCode(0x1402), "0x1402");
     EXPECT_EQ(hexCode(9), "0x0009");
 }

@@ -1,17 +1,27 @@
 #include "tools/tarnctl/output/Format.h"
 
 #include <json/writer.h>
+#include <utils/String16.h>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <variant>
 
 #include "registry/Results.h"
+#include "values/Hex.h"
 
 namespace tarnctl {
 
+using ::tarn::protocol::Field;
+using ::tarn::protocol::Layout;
+using ::tarn::registry::appendField;
 using ::tarn::registry::fieldNames;
+using ::tarn::registry::toUtf8;
+using ::tarn::values::Bytes;
+using ::tarn::values::List;
+using ::tarn::values::Record;
 
 namespace {
 
@@ -105,6 +115,23 @@ Json::Value withShortFloats(const Json::Value& value) {
     return copy;
 }
 
+struct FieldWriter {
+    const Field& field;
+
+    Json::Value operator()(int32_t number) const { return number; }
+    Json::Value operator()(bool on) const { return on; }
+    Json::Value operator()(float number) const { return number; }
+    Json::Value operator()(const std::u16string& text) const {
+        return toUtf8(android::String16(text.data(), text.size()));
+    }
+    Json::Value operator()(const Bytes& bytes) const { return ::tarn::values::hexWords(bytes); }
+    Json::Value operator()(const List& list) const {
+        Json::Value records(Json::arrayValue);
+        for (const Record& record : list) records.append(namedFields(record, field.record));
+        return records;
+    }
+};
+
 }  // namespace
 
 std::vector<std::string> plainLines(const Json::Value& value) {
@@ -129,15 +156,12 @@ std::string jsonText(const Json::Value& value, JsonStyle style) {
     return Json::writeString(builder, withShortFloats(value));
 }
 
-std::string hexWords(const std::vector<uint8_t>& bytes) {
-    static const char kDigits[] = "0123456789abcdef";
-    std::string text;
-    for (size_t i = 0; i < bytes.size(); i++) {
-        if (i > 0 && i % 4 == 0) text += ' ';
-        text += kDigits[bytes[i] >> 4];
-        text += kDigits[bytes[i] & 15];
+Json::Value namedFields(const Record& record, const Layout& layout) {
+    Json::Value object(Json::objectValue);
+    for (size_t i = 0; i < record.size(); i++) {
+        appendField(&object, layout[i].name, std::visit(FieldWriter{layout[i]}, record[i].data));
     }
-    return text;
+    return object;
 }
 
 std::string hexCode(uint32_t code) {

@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "protocol/Layout.h"
 #include "tools/tarnctl/output/JsonStyle.h"
+#include "values/Value.h"
 
 namespace tarnctl {
 
@@ -19,8 +21,9 @@ std::vector<std::string> plainLines(const Json::Value& value);
 /** A result as one JSON document; short is a single line. */
 std::string jsonText(const Json::Value& value, JsonStyle style);
 
-/** Bytes as hexadecimal pairs, a blank after every fourth. */
-std::string hexWords(const std::vector<uint8_t>& bytes);
+/** A record as an object of named values, texts as the platform has them, bytes as hexWords(). */
+Json::Value namedFields(const ::tarn::values::Record& record,
+                        const ::tarn::protocol::Layout& layout);
 
 /** "0x1402" */
 std::string hexCode(uint32_t code);

@@ -1,6 +1,6 @@
 #include "tools/tarnctl/output/Guard.h"
 
-#include "registry/Registry.h"
+#include "registry/Arguments.h"
 #include "tools/tarnctl/output/Failure.h"
 
 namespace tarnctl {

@@ -3,18 +3,16 @@
 #include <algorithm>
 
 #include "protocol/Limits.h"
-#include "tools/tarnctl/output/Format.h"
+#include "values/Codec.h"
+#include "values/Hex.h"
 
 namespace tarnctl {
 
 using android::Parcel;
+using ::tarn::values::bytesOf;
+using ::tarn::values::hexWords;
 
 namespace {
-
-std::vector<uint8_t> bytesOf(const Parcel& parcel) {
-    if (parcel.dataSize() == 0) return {};
-    return std::vector<uint8_t>(parcel.data(), parcel.data() + parcel.dataSize());
-}
 
 bool isWhole(const Exchange& exchange) {
     return exchange.isEvent || exchange.reply.size() >= sizeof(int32_t);

@@ -56,6 +56,9 @@ std::vector<std::string> completions(Session& session, const std::vector<std::st
 /** The words that may follow "board". */
 std::vector<std::string> boardActions();
 
+/** The types of value that "raw" takes. */
+std::vector<std::string> rawTypes();
+
 /** "call CONTROLLER.METHOD [ARGUMENT]..." */
 std::string synopsisOf(const CommandDescription& command);
 

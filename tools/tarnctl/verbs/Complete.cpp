@@ -9,7 +9,6 @@
 #include "tools/tarnctl/catalog/PropertyNames.h"
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/verbs/Commands.h"
-#include "tools/tarnctl/verbs/Wire.h"
 
 namespace tarnctl {
 
@@ -124,7 +123,7 @@ Candidates ofCommand(Session& session, const std::vector<std::string>& words) {
     }
     if (command == "raw") {
         if (first) return commandNames();
-        return words.size() % 2 == 1 ? wireTypes() : Candidates();
+        return words.size() % 2 == 1 ? rawTypes() : Candidates();
     }
     if (command == "board") return ofBoard(session, words);
     return {};

@@ -1,16 +1,15 @@
 #include "tools/tarnctl/verbs/MethodCall.h"
 
 #include "registry/Arguments.h"
-#include "registry/Parcels.h"
 #include "registry/Results.h"
+#include "tools/tarnctl/output/Format.h"
 #include "tools/tarnctl/verbs/Invocation.h"
-#include "tools/tarnctl/verbs/Wire.h"
+#include "values/Codec.h"
 
 namespace tarnctl {
 
 using ::tarn::registry::appendField;
 using ::tarn::registry::fieldNames;
-using ::tarn::registry::parcelOf;
 using ::tarn::registry::parseBytes;
 
 namespace {
@@ -18,14 +17,16 @@ namespace {
 /** The result with the fields that its data holds in the data's place, if it is as the layout says.
  */
 Json::Value decoded(const Json::Value& result, const ::tarn::protocol::Command& command) {
-    const auto data = parcelOf(parseBytes("data", result["data"].asString()));
-    const auto read = readFields(*data, command.replyLayout());
+    const auto data = ::tarn::values::parcelOf(parseBytes("data", result["data"].asString()));
+    const auto layout = command.replyLayout();
+    const auto read = ::tarn::values::decode(*data, layout);
     if (!read) return result;
+    const Json::Value named = namedFields(*read, layout);
     Json::Value record(Json::objectValue);
     for (const std::string& name : fieldNames(result)) {
         if (name != "data") appendField(&record, name, result[name]);
     }
-    for (const std::string& name : fieldNames(*read)) appendField(&record, name, (*read)[name]);
+    for (const std::string& name : fieldNames(named)) appendField(&record, name, named[name]);
     return record;
 }
 

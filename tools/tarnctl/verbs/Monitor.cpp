@@ -4,6 +4,7 @@
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/output/Format.h"
 #include "tools/tarnctl/verbs/Commands.h"
+#include "values/Hex.h"
 
 namespace tarnctl {
 
@@ -16,10 +17,11 @@ void print(Context& context, const BoardEvent& event) {
         Json::Value json(Json::objectValue);
         json["type"] = event.type;
         json["size"] = static_cast<Json::UInt>(event.data.size());
-        json["data"] = hexWords(event.data);
+        json["data"] = ::tarn::values::hexWords(event.data);
         context.output.result(json);
     } else {
-        const std::string data = event.data.empty() ? "" : " " + hexWords(event.data);
+        const std::string data =
+                event.data.empty() ? "" : " " + ::tarn::values::hexWords(event.data);
         context.output.lines({"event " + hexCode(event.type) + " size " +
                               std::to_string(event.data.size()) + data});
     }

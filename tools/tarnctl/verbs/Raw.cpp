@@ -1,20 +1,31 @@
 #include <binder/Parcel.h>
 
+#include "registry/Arguments.h"
 #include "registry/Results.h"
 #include "tools/tarnctl/catalog/Lookup.h"
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/output/Format.h"
 #include "tools/tarnctl/verbs/Commands.h"
 #include "tools/tarnctl/verbs/Invocation.h"
-#include "tools/tarnctl/verbs/Wire.h"
+#include "values/Codec.h"
+#include "values/Hex.h"
 
 namespace tarnctl {
 
 using android::Parcel;
 using ::tarn::protocol::Command;
+using ::tarn::protocol::Field;
+using ::tarn::protocol::Type;
 using ::tarn::registry::appendField;
+using ::tarn::registry::parseValue;
+using ::tarn::values::Bytes;
+using ::tarn::values::bytesOf;
+using ::tarn::values::hexWords;
+using ::tarn::values::parcelOf;
 
 namespace {
+
+constexpr Type kTypes[] = {Type::kInt32, Type::kBool, Type::kString16, Type::kFloat, Type::kBytes};
 
 /** The rows that the reply may follow: none of a code that nobody knows. */
 std::vector<const Command*> knownRows(const std::string& nameOrCode, int32_t code) {
@@ -22,24 +33,30 @@ std::vector<const Command*> knownRows(const std::string& nameOrCode, int32_t cod
     return ::tarn::protocol::findCommands(code);
 }
 
+Field requireType(const std::string& word) {
+    for (const Type type : kTypes) {
+        if (word == ::tarn::protocol::typeWord(type)) return Field{type, "", {}};
+    }
+    throw Failure(kBadUsage, "no type \"" + word + "\"; accepted: " + joined(rawTypes(), ", "));
+}
+
 /** The request's arguments; kept as bytes, since parcels can't be copied. */
-std::vector<uint8_t> buildRequest(int32_t code, const Arguments& typesAndValues) {
+Bytes buildRequest(int32_t code, const Arguments& typesAndValues) {
     Parcel request;
     request.writeInt32(code);
     for (size_t i = 0; i + 1 < typesAndValues.size(); i += 2) {
-        writeValue(typesAndValues[i], typesAndValues[i + 1], &request);
+        const std::string& type = typesAndValues[i];
+        ::tarn::values::encode(parseValue(type, typesAndValues[i + 1], requireType(type)),
+                               &request);
     }
-    return std::vector<uint8_t>(request.data(), request.data() + request.dataSize());
+    return bytesOf(request);
 }
 
-Json::Value exchange(TracingManager& manager, const std::vector<uint8_t>& bytes,
+Json::Value exchange(TracingManager& manager, const Bytes& bytes,
                      const std::vector<const Command*>& rows) {
-    Parcel request;
-    request.setData(bytes.data(), bytes.size());
     Parcel reply;
-    const int status = manager.invoke(request, &reply);
-    std::vector<uint8_t> words;
-    if (reply.dataSize() > 0) words.assign(reply.data(), reply.data() + reply.dataSize());
+    const int status = manager.invoke(*parcelOf(bytes), &reply);
+    const Bytes words = bytesOf(reply);
     Json::Value result(Json::objectValue);
     // What the manager makes of a reply without a status is its own.
     appendField(&result, "status",
@@ -47,9 +64,10 @@ Json::Value exchange(TracingManager& manager, const std::vector<uint8_t>& bytes,
     appendField(&result, "reply", hexWords(words));
     for (const Command* row : rows) {
         reply.setDataPosition(sizeof(int32_t));
-        const auto fields = readFields(reply, row->replyLayout());
+        const auto layout = row->replyLayout();
+        const auto fields = ::tarn::values::decode(reply, layout);
         if (!fields || fields->empty()) continue;
-        appendField(&result, "fields", *fields);
+        appendField(&result, "fields", namedFields(*fields, layout));
         break;
     }
     return result;
@@ -62,9 +80,9 @@ int runRaw(Context& context, const Arguments& arguments) {
     if (typesAndValues.size() % 2 != 0) {
         throw Failure(kBadUsage, "\"" + typesAndValues.back() + "\" stands alone; a value is " +
                                          "given as TYPE VALUE, with TYPE one of " +
-                                         joined(wireTypes(), ", "));
+                                         joined(rawTypes(), ", "));
     }
-    const std::vector<uint8_t> request = buildRequest(code, typesAndValues);
+    const Bytes request = buildRequest(code, typesAndValues);
     const std::vector<const Command*> rows = knownRows(arguments[0], code);
     return invoke(context, [request, rows](TracingManager& manager) {
         return exchange(manager, request, rows);
@@ -72,6 +90,12 @@ int runRaw(Context& context, const Arguments& arguments) {
 }
 
 }  // namespace
+
+std::vector<std::string> rawTypes() {
+    std::vector<std::string> words;
+    for (const Type type : kTypes) words.push_back(::tarn::protocol::typeWord(type));
+    return words;
+}
 
 const CommandDescription kRawCommand = {
         "raw", "CODE|CMD_NAME [TYPE VALUE]...", "send a command word by word",
