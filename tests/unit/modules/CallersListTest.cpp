@@ -72,6 +72,11 @@ TEST_P(CallersList, HoldsNothingOfWhatItHeldBefore) {
     EXPECT_EQ(GetParam().call(manager), GetParam().read);
 }
 
+TEST_P(CallersList, IsAsLongAsTheServiceSaysAlsoBehindTheEndOfTheReply) {
+    manager->answer(words({0, 1000, 8}));
+    EXPECT_EQ(GetParam().call(manager), 1000 * GetParam().read);
+}
+
 INSTANTIATE_TEST_SUITE_P(
         , CallersList,
         testing::Values(listMethod("BurnKeys", &android::BurnKeyCtrl::getSupportBurnKeyList, 1),

@@ -28,4 +28,10 @@ TEST_F(PropertiesCtrl, ReturnsMinusOneAndLeavesTheBufferAloneEvenWhenTheServiceA
     }
 }
 
+TEST_F(PropertiesCtrl, AsksTheServiceWithKeyAndDefaultAlsoWithoutABuffer) {
+    EXPECT_EQ(properties->property_get("ab", nullptr, "c"), -1);
+    EXPECT_EQ(manager->requests().back(),
+              hex("08080000 02000000 61006200 00000000 01000000 63000000"));
+}
+
 }  // namespace
