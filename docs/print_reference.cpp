@@ -41,8 +41,9 @@ int main() {
     printf("# Reference\n\n");
     printf("Printed by `print_reference`; do not edit. Arguments and results as `tarnctl` takes "
            "and "
-           "shows them; the request stands\nbehind the command's code, the reply behind the status "
-           "word. Without a reply the status is the answer.\n");
+           "shows them; the request follows the\ncommand's code, the reply the status word. "
+           "Without "
+           "a reply the status is the answer.\n");
     for (const Controller& controller : tarn::registry::controllers()) {
         printf("\n## %s (`%s`)\n\n", controller.className.c_str(), controller.name.c_str());
         printf("| method | result | code | command | request | reply "

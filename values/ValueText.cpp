@@ -114,7 +114,7 @@ float floatFromText(const std::string& text) {
     const float number = strtof(text.c_str(), &end);
     if (text.empty() || isspace(static_cast<unsigned char>(text[0])) ||
         end != text.c_str() + text.size()) {
-        throw TextError(quoted(text) + " is no number", kFloats);
+        throw TextError(quoted(text) + " is not a number", kFloats);
     }
     const bool saysInfinity = text.find_first_of("iI") != std::string::npos;
     if (std::isinf(number) && !saysInfinity) {

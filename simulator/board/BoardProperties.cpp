@@ -54,7 +54,7 @@ void Board::setPropertyFromText(const std::string& name, const std::string& valu
     const Place place = findElement(name);
     Value typed = valueFromText(value, mModel->properties[place.property].field);
     // The board's state is read as JSON, which has no other numbers.
-    if (!isFinite(typed)) throw std::invalid_argument("'" + value + "' is no number");
+    if (!isFinite(typed)) throw std::invalid_argument("'" + value + "' is not a number");
     store(name, place, std::move(typed));
 }
 

@@ -35,58 +35,38 @@ namespace {
 // A destructor takes two slots of a virtual table.
 constexpr size_t kDestructor = 2;
 
-struct Methods {
-    const char* controller;
-    size_t count;
-};
-
-constexpr Methods kMethods[] = {
-        {"SystemCtrl", 76},      {"ProjectId", 24},
-        {"EasyTouch", 1},        {"PropertiesCtrl", 2},
-        {"SourceCtrl", 9},       {"DeviceCtrl", 20},
-        {"DevicePortCtrl", 3},   {"NetworkCtrl", 32},
-        {"BluetoothCtrl", 2},    {"AtCfgControl", 10},
-        {"KeyboardCtrl", 2},     {"AvManagerCtrl", 75},
-        {"FwUpgrade", 8},        {"Rs232Ctrl", 9},
-        {"RGBLedCtrl", 12},      {"AudioCtrl", 57},
-        {"TouchCtrl", 47},       {"TeaDspCtrl", 16},
-        {"AnionCtrl", 1},        {"BacklightCtrl", 11},
-        {"VgaAdjust", 2},        {"CameraCtrl", 9},
-        {"SensorBoxCtrl", 1},    {"IoBoxCtrl", 2},
-        {"TxbCtrl", 8},          {"GpioCtrl", 6},
-        {"XbugCtrl", 7},         {"RemoteCtrl", 4},
-        {"PmsCtrl", 4},          {"ExtendDisplayCtrl", 15},
-        {"PQCtrl", 52},          {"PcModuleCtrl", 8},
-        {"SmartPenModeCtrl", 3}, {"MicrophoneCtrl", 3},
-        {"BurnKeyCtrl", 5},      {"BurnMacCtrl", 4},
-        {"FwTouchCtrl", 3},      {"LandscapeCtrl", 2},
-        {"BitmotionCtrl", 8},    {"SoundScreenAngleCtrl", 2},
-        {"AiNoiseCtrl", 2},      {"AoipCtrl", 10},
-        {"LightEffectCtrl", 1},  {"UwbCtrl", 18},
-        {"SuspendCtrl", 4},      {"SerialCtrl", 7},
-        {"DebugCtrl", 2},
+constexpr const char* kControllers[] = {
+        "SystemCtrl",       "ProjectId",         "EasyTouch",       "PropertiesCtrl",
+        "SourceCtrl",       "DeviceCtrl",        "DevicePortCtrl",  "NetworkCtrl",
+        "BluetoothCtrl",    "AtCfgControl",      "KeyboardCtrl",    "AvManagerCtrl",
+        "FwUpgrade",        "Rs232Ctrl",         "RGBLedCtrl",      "AudioCtrl",
+        "TouchCtrl",        "TeaDspCtrl",        "AnionCtrl",       "BacklightCtrl",
+        "VgaAdjust",        "CameraCtrl",        "SensorBoxCtrl",   "IoBoxCtrl",
+        "TxbCtrl",          "GpioCtrl",          "XbugCtrl",        "RemoteCtrl",
+        "PmsCtrl",          "ExtendDisplayCtrl", "PQCtrl",          "PcModuleCtrl",
+        "SmartPenModeCtrl", "MicrophoneCtrl",    "BurnKeyCtrl",     "BurnMacCtrl",
+        "FwTouchCtrl",      "LandscapeCtrl",     "BitmotionCtrl",   "SoundScreenAngleCtrl",
+        "AiNoiseCtrl",      "AoipCtrl",          "LightEffectCtrl", "UwbCtrl",
+        "SuspendCtrl",      "SerialCtrl",        "DebugCtrl",
 };
 
 /** The slot that the method of that index has in its interface's table. */
 size_t expectedSlot(const std::string& controller, size_t index) {
     if (controller == "BitmotionCtrl") return kDestructor + index;
-    // The two PIR methods stand behind the destructor.
+    // The two PIR methods follow the destructor.
     if (controller == "SystemCtrl" && index >= 74) return kDestructor + index;
     return index;
 }
 
 TEST(Registry, HasEveryControllerInTheOrderOfTheAccessors) {
     const std::vector<Controller>& controllers = tarn::registry::controllers();
-    ASSERT_EQ(controllers.size(), std::size(kMethods));
-    size_t total = 0;
+    ASSERT_EQ(controllers.size(), std::size(kControllers));
     for (size_t i = 0; i < controllers.size(); i++) {
-        EXPECT_EQ(controllers[i].className, kMethods[i].controller);
-        EXPECT_EQ(controllers[i].methods.size(), kMethods[i].count) << controllers[i].className;
-        total += controllers[i].methods.size();
+        EXPECT_EQ(controllers[i].className, kControllers[i]);
     }
-    EXPECT_EQ(total, 609u);
 }
 
+// Which methods there are, in this order, is what the frozen bytes tell: wire_test.
 TEST(Registry, HasEveryMethodInItsSlot) {
     for (const Controller& controller : tarn::registry::controllers()) {
         for (size_t i = 0; i < controller.methods.size(); i++) {

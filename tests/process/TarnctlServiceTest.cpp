@@ -45,7 +45,7 @@ TEST(TarnctlService, InsistsOnAServedBoardWhenToldTo) {
     expectOutcome(runTarnctl({"--service", "board", "list"}), 4, "",
                   "tarnctl: there is no hardware service\n");
     expectOutcome(runTarnctl({"--service", "--embedded", "status"}), 2, "",
-                  "tarnctl: --service and a simulated board exclude each other\n");
+                  "tarnctl: --service and a simulated board can't be combined\n");
 }
 
 TEST(TarnctlService, RunsABoardOfItsOwnWhereNoneIsServed) {
@@ -176,7 +176,7 @@ TEST(TarnctlService, SaysWhenTheServiceIsNoSimulatedBoard) {
     const PublishedFake fake;
     expectOutcome(runTarnctl({"call", "audio.getVolume"}), 0, "0\n");
     expectOutcome(runTarnctl({"board", "list"}), 4, "",
-                  "tarnctl: the service is no simulated board that tarnctl can control\n");
+                  "tarnctl: the service is not a simulated board that tarnctl can control\n");
 }
 
 TEST(TarnctlService, LeavesABoardAloneThatIsNotTheService) {

@@ -7,7 +7,7 @@
 
 namespace tarnctl {
 
-/** tarnctl itself: the words behind its name, and the exit code. */
+/** tarnctl itself: the words after its name, and the exit code. */
 int run(const std::vector<std::string>& arguments, const Streams& streams);
 
 }  // namespace tarnctl

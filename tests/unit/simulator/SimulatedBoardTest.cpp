@@ -327,8 +327,8 @@ TEST_F(SimulatedBoardTest, AnswersHostileRequestsWithMinusOneAndChangesNothing) 
                  "0a000000 ffffffff",                             // a null text
                  "0a000000 ffffff7f 61006200",                    // a text beyond the end
                  "0a000000 feffffff 61006200",                    // a negative length
-                 "0a000000 02000000 61006200",                    // no NUL behind the text
-                 "0a000000 02000000 61006200 00000000 00000000",  // something behind the text
+                 "0a000000 02000000 61006200",                    // no NUL after the text
+                 "0a000000 02000000 61006200 00000000 00000000",  // something after the text
                  "01370000 ffffff7f",                             // a list of two milliard records
                  "01370000 ffffffff",                             // a negative count
                  "01370000 02000000 01000000 41000000",           // the second record is missing
@@ -701,7 +701,7 @@ TEST_F(SimulatedBoardFaults, AreRefusedWhenDescribedWrongly) {
     EXPECT_THAT(setting(R"({"status": 1, "probability": 0})"),
                 ThrowsMessage<E>(HasSubstr("above")));
     EXPECT_THAT(setting(R"({"status": 1, "every": 2, "probability": 0.5})"),
-                ThrowsMessage<E>("every and probability exclude each other"));
+                ThrowsMessage<E>("every and probability can't be combined"));
     EXPECT_THAT(setting(R"({"status": 1, "seed": 2})"),
                 ThrowsMessage<E>("seed needs a probability"));
     EXPECT_THAT([this] { mControl->setFault("CMD_NONE", Json::Value()); },
@@ -778,7 +778,7 @@ TEST_F(SimulatedBoardControl, RefusesWhatACommandWouldRefuse) {
     EXPECT_THAT(setting("audio.volume", "2147483648"),
                 ThrowsMessage<E>("'2147483648' is beyond 32 bits"));
     EXPECT_THAT(setting("audio.mic", "2"), ThrowsMessage<E>("'2' is neither true nor false"));
-    EXPECT_THAT(setting("noise.level", "nan"), ThrowsMessage<E>("'nan' is no number"));
+    EXPECT_THAT(setting("noise.level", "nan"), ThrowsMessage<E>("'nan' is not a number"));
     EXPECT_THAT(setting("apps.list", "[1]"), ThrowsMessage<E>("needs a text (s16)"));
     EXPECT_THAT(setting("apps.list", "["), ThrowsMessage<E>(HasSubstr("not JSON")));
     EXPECT_THAT(setting("av.data", "0"), ThrowsMessage<E>(HasSubstr("hexadecimal")));

@@ -187,7 +187,7 @@ TEST(TarnctlOptions, RefuseWhatTheyDontKnow) {
     EXPECT_EQ(refusal([] {
                   parseCommandLine({"--service", "--board", "b.json"});
               }),
-              "2 --service and a simulated board exclude each other");
+              "2 --service and a simulated board can't be combined");
 }
 
 TEST(TarnctlOptions, RefuseAFileWithoutAName) {
@@ -229,11 +229,11 @@ TEST(TarnctlOptions, OfABatchHoldForItsLines) {
     EXPECT_EQ(refusal([&] {
                   parseBatchLine({"call", "--board", "b"}, batch);
               }),
-              "2 --board can't stand on a line of a batch");
+              "2 --board can't be given on a line of a batch");
     EXPECT_EQ(refusal([&] {
                   parseBatchLine({"call", "-v"}, batch);
               }),
-              "2 --verbose can't stand on a line of a batch");
+              "2 --verbose can't be given on a line of a batch");
 }
 
 TEST(TarnctlWords, AreSplitAsAShellDoes) {
@@ -260,7 +260,8 @@ TEST(TarnctlWords, RefuseABackslashAtTheEnd) {
 }
 
 TEST(TarnctlWords, RefuseANulByte) {
-    EXPECT_EQ(refusal([] { splitWords(std::string("call\0 x", 7)); }), "2 a NUL byte is no text");
+    EXPECT_EQ(refusal([] { splitWords(std::string("call\0 x", 7)); }),
+              "2 a line can't have a NUL byte");
 }
 
 TEST(TarnctlNames, AreSuggestedWhereTheyAreNear) {
@@ -327,7 +328,7 @@ TEST(TarnctlFaults, AreReadFromWords) {
 }
 
 TEST(TarnctlFaults, RefuseWordsThatTheyDontKnow) {
-    EXPECT_EQ(refusal([] { parseFault({}); }), "2 fault: which one? See tarnctl board --help");
+    EXPECT_EQ(refusal([] { parseFault({}); }), "2 fault: none given; see tarnctl board --help");
     EXPECT_EQ(refusal([] { parseFault({"broken"}); }),
               "2 fault: \"broken\" can't be used; accepted: status, dead, error, empty, bytes, "
               "delay");
@@ -346,15 +347,15 @@ TEST(TarnctlFaults, RefuseWordsThatContradict) {
     EXPECT_EQ(refusal([] {
                   parseFault({"dead", "every", "2", "probability", "0.5"});
               }),
-              "2 fault: every and probability exclude each other");
+              "2 fault: every and probability can't be combined");
     EXPECT_EQ(refusal([] {
                   parseFault({"dead", "seed", "3"});
               }),
-              "2 fault: seed goes with probability only");
+              "2 fault: seed needs a probability");
     EXPECT_EQ(refusal([] {
                   parseFault({"dead", "every", "2", "every", "3"});
               }),
-              "2 fault: every stands twice");
+              "2 fault: every is given twice");
 }
 
 TEST(TarnctlText, ShowsFieldsByTheirNames) {

@@ -125,7 +125,7 @@ TEST(ValueText, ReadsFloats) {
 
 TEST(ValueText, RefusesWhatIsNoFloat) {
     for (const std::string text : {"", "half", " 1", "1 ", "1,5", "1.5x", "--1", "0.5.5"}) {
-        EXPECT_EQ("'" + text + "' is no number; accepted: a number such as 0.5",
+        EXPECT_EQ("'" + text + "' is not a number; accepted: a number such as 0.5",
                   refusal([&] { floatFromText(text); }));
     }
     for (const std::string text : {"1e40", "-1e40"}) {

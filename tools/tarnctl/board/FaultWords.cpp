@@ -17,7 +17,7 @@ struct FaultWord {
     const char* word;
     Takes takes;
     const char* key;
-    const char* value;  // of a word that takes none and is no number
+    const char* value;  // of a word that takes none and is not a number
     bool isKind;
 };
 
@@ -58,12 +58,12 @@ std::vector<std::string> faultWords() {
 }
 
 Json::Value parseFault(const std::vector<std::string>& words) {
-    if (words.empty()) throw Failure(kBadUsage, "fault: which one? See tarnctl board --help");
+    if (words.empty()) throw Failure(kBadUsage, "fault: none given; see tarnctl board --help");
     Json::Value fault(Json::objectValue);
     for (size_t i = 0; i < words.size(); i++) {
         const FaultWord& word = requireWord(words[i], i == 0);
         if (fault.isMember(word.key)) {
-            throw Failure(kBadUsage, std::string("fault: ") + word.word + " stands twice");
+            throw Failure(kBadUsage, std::string("fault: ") + word.word + " is given twice");
         }
         if (word.takes == Takes::kNothing) {
             fault[word.key] = word.value != nullptr ? Json::Value(word.value) : Json::Value(0);
@@ -74,10 +74,10 @@ Json::Value parseFault(const std::vector<std::string>& words) {
         }
     }
     if (fault.isMember("every") && fault.isMember("probability")) {
-        throw Failure(kBadUsage, "fault: every and probability exclude each other");
+        throw Failure(kBadUsage, "fault: every and probability can't be combined");
     }
     if (fault.isMember("seed") && !fault.isMember("probability")) {
-        throw Failure(kBadUsage, "fault: seed goes with probability only");
+        throw Failure(kBadUsage, "fault: seed needs a probability");
     }
     return fault;
 }

@@ -56,7 +56,7 @@ std::vector<std::string> nearNames(const std::string& name,
         if (wanted.size() < kFewestLetters && letters != wanted) continue;
         size_t distance = editDistance(wanted, letters);
         if (distance > farthest) {
-            // Half a name is worth a suggestion too, behind every misspelt one.
+            // Half a name is worth a suggestion too, after every misspelt one.
             if (letters.find(wanted) == std::string::npos) continue;
             distance += farthest;
         }

@@ -68,7 +68,8 @@ class Splitter {
 }  // namespace
 
 std::vector<std::string> splitWords(const std::string& line) {
-    if (line.find('\0') != std::string::npos) throw Failure(kBadUsage, "a NUL byte is no text");
+    if (line.find('\0') != std::string::npos)
+        throw Failure(kBadUsage, "a line can't have a NUL byte");
     return Splitter(line).split();
 }
 

@@ -68,7 +68,8 @@ struct OptionRow {
     Takes takes;
     const char* placeholder;
     const char* command;   // the only command that has it, or null
-    bool wholeInvocation;  // can't stand on a line of a batch, since all lines share what it sets
+    bool wholeInvocation;  // can't be given on a line of a batch, since all lines share what it
+                           // sets
     void (*apply)(Options*, const std::string& value);
     const char* help;
 };
@@ -205,7 +206,7 @@ class Parser {
 
     void apply(const OptionRow& row, const std::string& value) {
         if (mInBatch && row.wholeInvocation) {
-            throw Failure(kBadUsage, nameOf(row) + " can't stand on a line of a batch");
+            throw Failure(kBadUsage, nameOf(row) + " can't be given on a line of a batch");
         }
         row.apply(&mLine.options, value);
         mSeen.push_back(&row);
@@ -219,7 +220,7 @@ class Parser {
             }
         }
         if (mLine.options.serviceOnly && mLine.options.wantsOwnBoard()) {
-            throw Failure(kBadUsage, "--service and a simulated board exclude each other");
+            throw Failure(kBadUsage, "--service and a simulated board can't be combined");
         }
     }
 

@@ -57,7 +57,7 @@ struct OptionDescription {
     std::string spelling;  // "--timeout SECONDS"
     std::string command;   // the only command that has it, or empty
     std::string help;
-    bool takesNext;  // the word behind it is its value
+    bool takesNext;  // the next word is its value
 };
 
 const std::vector<OptionDescription>& optionDescriptions();

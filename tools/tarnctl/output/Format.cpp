@@ -52,7 +52,7 @@ std::string scalarText(const Json::Value& value) {
     return value.asString();
 }
 
-/** What fits behind a name on one line. */
+/** What fits after a name on one line. */
 std::string inlineText(const Json::Value& value) {
     if (isScalar(value)) return scalarText(value);
     if (value.empty()) return value.isArray() ? "[]" : "{}";

@@ -18,7 +18,7 @@ namespace {
 
 constexpr char kNoAnswer[] = "the hardware service did not answer";
 
-/** A manager and its controllers hold each other for ever; this keeps them in sight. */
+/** A manager and its controllers hold each other forever; this keeps them in sight. */
 sp<TracingManager> newManager() {
     static std::mutex lock;
     static auto* kept = new std::vector<sp<TracingManager>>;

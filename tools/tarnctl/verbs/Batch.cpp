@@ -32,7 +32,7 @@ int runLine(Context& batch, const std::string& line, const std::string& place) {
     return guarded(diagnostics, [&] {
         const CommandLine commandLine = parseBatchLine(words, batch.options);
         if (!commandLine.words.empty() && commandLine.words[0] == kBatchCommand.name) {
-            throw Failure(kBadUsage, "a batch can't stand within a batch");
+            throw Failure(kBadUsage, "a batch can't run a batch");
         }
         Context context{batch.session,
                         commandLine.options,
@@ -83,7 +83,7 @@ int runBatch(Context& context, const Arguments& arguments) {
 
 const CommandDescription kBatchCommand = {
         "batch", "[--keep-going] [FILE]", "run commands from a file or standard input",
-        R"(Reads FILE, or standard input without one or for -. One command a line, the words as behind
+        R"(Reads FILE, or standard input without one or for -. One command a line, the words as after
 tarnctl on a command line: quotes and backslashes as in a shell, # begins a comment. All
 lines work with the same service, so that on a simulated board one sees what another did;
 once that service has died, the lines that follow fail too, even if it is started again.

@@ -129,7 +129,8 @@ int runBoard(Context& context, const Arguments& arguments) {
     }
     BoardControl* board = context.session.board();
     if (board == nullptr) {
-        throw Failure(kUnreachable, "the service is no simulated board that tarnctl can control");
+        throw Failure(kUnreachable,
+                      "the service is not a simulated board that tarnctl can control");
     }
     reachBoard([&] { action.run(context, *board, rest); });
     return kDone;
@@ -147,7 +148,7 @@ const CommandDescription kBoardCommand = {
         "board", "ACTION [ARGUMENT]...", "control a simulated board",
         R"(  board list                  every property of the board with its value
   board get PROPERTY          one; of an indexed one name[index] is an element
-  board set PROPERTY VALUE    change it behind the library's back; raises no event
+  board set PROPERTY VALUE    change it past the library; raises no event
   board reset                 state and faults as the board's files describe them
   board raise TYPE [HEX]...   raise an event with these bytes; TYPE is a number, or the command
                               whose code the event has

@@ -16,7 +16,7 @@ struct Context {
     Output output;
     Diagnostics diagnostics;
     Streams streams;
-    bool inBatch;  // a line of a batch, with others behind it
+    bool inBatch;  // a line of a batch, with others after it
 };
 
 using Arguments = std::vector<std::string>;
@@ -50,7 +50,7 @@ extern const CommandDescription kStatusCommand;
 extern const CommandDescription kBoardCommand;
 extern const CommandDescription kHelpCommand;
 
-/** What could stand in the place of the last word; behind the hidden command "__complete". */
+/** What could be the last word; for the hidden command "__complete". */
 std::vector<std::string> completions(Session& session, const std::vector<std::string>& words);
 
 /** The words that may follow "board". */

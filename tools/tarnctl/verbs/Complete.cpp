@@ -30,7 +30,7 @@ Candidates options(const std::string& command) {
     return names;
 }
 
-/** Controllers with a dot behind, until one is chosen; then what it has, by the name chosen. */
+/** Controllers with a dot after them, until one is chosen; then what it has, by the name chosen. */
 Candidates below(const std::string& word, const Candidates& paths) {
     const size_t dot = word.find('.');
     Candidates names;
@@ -154,7 +154,7 @@ bool isOption(const std::string& word) {
     return word.size() > 1 && word[0] == '-' && !isdigit(static_cast<unsigned char>(word[1]));
 }
 
-/** Whether the word behind this one is an option's value. */
+/** Whether the word after this one is an option's value. */
 bool takesNext(const std::string& word) {
     for (const OptionDescription& option : optionDescriptions()) {
         if (!option.takesNext) continue;

@@ -43,7 +43,7 @@ std::vector<std::string> helpLines() {
     for (const CommandDescription& command : commandTable()) {
         lines.push_back("  " + padded(synopsisOf(command), width) + "  " + command.summary);
     }
-    lines.insert(lines.end(), {"", "options, before or behind the command:"});
+    lines.insert(lines.end(), {"", "options, before or after the command:"});
     appendOptions(&lines, "");
     appendText(&lines, R"(
 Numbers are decimal or 0x hexadecimal; a negative one may be given as its word, 0xffffffff

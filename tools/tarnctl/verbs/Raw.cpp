@@ -78,7 +78,7 @@ int runRaw(Context& context, const Arguments& arguments) {
     const int32_t code = requireCode(arguments[0]);
     const Arguments typesAndValues(arguments.begin() + 1, arguments.end());
     if (typesAndValues.size() % 2 != 0) {
-        throw Failure(kBadUsage, "\"" + typesAndValues.back() + "\" stands alone; a value is " +
+        throw Failure(kBadUsage, "\"" + typesAndValues.back() + "\" has no value; a value is " +
                                          "given as TYPE VALUE, with TYPE one of " +
                                          joined(rawTypes(), ", "));
     }
@@ -102,8 +102,8 @@ const CommandDescription kRawCommand = {
         R"(Sends the code and the values as they are, known or not: no check against the layout.
 TYPE is i32, bool, s16, f32 or bytes (an int32 length, then the bytes). Prints the status,
 null if the reply has none, the reply's words as they stand in memory (little-endian), and
-its fields where the reply is as the command's layout says. The words of a reply or of
---trace read as numbers once their bytes are turned round: 0100ffff is 0xffff0001.)",
+its fields where the reply is as the command's layout says. Words of a reply and of --trace
+are printed as bytes, the lowest first: 0100ffff is the number 0xffff0001.)",
         runRaw};
 
 }  // namespace tarnctl
