@@ -73,7 +73,7 @@ bool CameraCtrl::setCameraIdDeviceMap(const char* id, const char* device) {
     request.writeString16(String16(device));
     Parcel reply;
     const int status = mTarnMgr->exeCmdSet_Parcel(CMD_CAMERA_SET_ID_DEVICE_MAP, request, &reply);
-    // The result is the service's answer turned round.
+    // The result is the service's answer inverted.
     return status != -1 && !reply.readBool();
 }
 

@@ -8,7 +8,7 @@ namespace android {
 
 // The records of cameras, boxes, touch frames and microphones are alike, but types of their own.
 
-/** Reads the texts and flags that stand behind such a record's numbers. */
+/** Reads the texts and flags that follow such a record's numbers. */
 template <typename Record>
 void readFirmwareTexts(const Parcel& reply, Record* record) {
     record->text0 = readUtf8(reply);

@@ -67,7 +67,7 @@ String16 FwUpgrade::getFwInfoTypecList() {
 bool FwUpgrade::getFwMcuList(std::vector<EntityFwInfoMcu>& list) {
     Parcel reply;
     if (mTarnMgr->exeCmdSet_Parcel(CMD_FW_GET_MCU_LIST, &reply) == -1) return false;
-    // The count is the service's and is trusted: behind the end of a short reply records are zero.
+    // The count is the service's and is trusted: past the end of a short reply records are zero.
     const int32_t count = reply.readInt32();
     TLOGD("getFwMcuList list_num = %d", count);
     for (int32_t i = 0; i < count; i++) list.push_back(readMcu(reply));

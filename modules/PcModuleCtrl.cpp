@@ -54,7 +54,7 @@ std::vector<_EnumPcBootMode> PcModuleCtrl::getSupportPcBootModeList() {
     std::vector<_EnumPcBootMode> modes;
     Parcel reply;
     mTarnMgr->exeCmdSet_Parcel(CMD_PC_MODULE_GET_SUPPORTED_BOOT_MODES, &reply);
-    // The count is the service's and is trusted: behind the end of a short reply modes read as 0.
+    // The count is the service's and is trusted: past the end of a short reply modes read as 0.
     const int32_t count = reply.readInt32();
     for (int32_t i = 0; i < count; i++) {
         const int32_t mode = reply.readInt32();

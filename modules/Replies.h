@@ -81,7 +81,7 @@ inline std::string readUtf8(const Parcel& reply) {
 }
 
 /**
- * Appends a counted list of records. The count is the service's and is trusted: behind the end of
+ * Appends a counted list of records. The count is the service's and is trusted: past the end of
  * a short reply the records read as zeros and empty texts and are appended all the same.
  */
 template <typename Record>

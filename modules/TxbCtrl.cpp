@@ -35,7 +35,7 @@ bool TxbCtrl::sendTxbPenCoord(int x, int y) {
 int TxbCtrl::getTxbSensorSelfTestState(int* out) {
     Parcel reply;
     if (mTarnMgr->exeCmdSet_Parcel(CMD_TXB_GET_SENSOR_SELF_TEST_STATE, &reply) == -1) return -1;
-    // The count is the service's and is trusted, also behind the end of a short reply: the caller
+    // The count is the service's and is trusted, also past the end of a short reply: the caller
     // knows how many sensors the board has.
     const int32_t count = reply.readInt32();
     for (int32_t i = 0; i < count; i++) out[i] = reply.readInt32();

@@ -15,8 +15,8 @@ struct Command {
     const char* controller;  // implementation class, e.g. "AudioCtrl"
     const char* name;        // constant, e.g. "CMD_AUDIO_SET_VOLUME"
     int32_t code;
-    const char* request;  // layout behind the code
-    const char* reply;    // layout behind the status word
+    const char* request;  // layout after the code
+    const char* reply;    // layout after the status word
 
     Layout requestLayout() const { return parseLayout(request); }
     Layout replyLayout() const { return parseLayout(reply); }

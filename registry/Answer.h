@@ -33,7 +33,7 @@ class Answer {
     static Answer emptyRecord();
     static Answer emptyList();
 
-    /** Of a record: adds a field behind those that it has. */
+    /** Of a record: adds a field after those that it has. */
     template <typename T>
     Answer&& field(const char* name, const T& value) && {
         add(name, ResultType<T>::answer(value));

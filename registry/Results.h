@@ -9,7 +9,7 @@
 namespace tarn::registry {
 
 /**
- * Adds a field behind those that a record has. An object sorts its members by name; each one's
+ * Adds a field after those that a record has. An object sorts its members by name; each one's
  * offset, which a parsed document's members have too, keeps its place among them.
  */
 void appendField(Json::Value* record, const std::string& name, const Json::Value& value);

@@ -40,7 +40,7 @@ bool TarnService::hasClient(const sp<ITarnClient>& client) const {
 int TarnService::connect(int pid, const sp<ITarnClient>& client) {
     AutoMutex guard(mClientLock);
     TLOGD("entern connect, client pid = %d", pid);
-    // Each CONNECT of a remote client comes with a proxy of its own; the binder behind is one.
+    // Each CONNECT of a remote client comes with a proxy of its own; the binder is the same.
     if (!hasClient(client)) mClients.add(client);
     mClientPids.add(pid);
     TLOGD("mClients.size = %d ", static_cast<int>(mClients.size()));

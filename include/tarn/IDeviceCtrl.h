@@ -22,7 +22,7 @@ enum _EnumUsbSWFollowConfig : int32_t {};
  * Arguments are passed on unchecked. The numbers of devices, hosts and states are service-defined.
  *
  * The USB switches move a part of the shared hub to a host. A setter returns the first number
- * behind the status, whose meaning is service-defined; a getter returns the second one, the host.
+ * after the status, whose meaning is service-defined; a getter returns the second one, the host.
  */
 class IDeviceCtrl : public virtual RefBase {
   public:

@@ -17,7 +17,7 @@ using TARN_BOOL = int32_t;
  *
  * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
  * returns -1. The setters return the service's status word. The getters return 0 and fill the
- * number behind the pointer, which must not be null and is 0 after a failure. Pin numbers are
+ * number that the pointer gives, which must not be null and is 0 after a failure. Pin numbers are
  * service-defined and passed on unchecked.
  */
 class IGpioCtrl : public virtual RefBase {

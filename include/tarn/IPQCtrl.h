@@ -14,7 +14,7 @@ enum _EnumHdcpVersion : int32_t {};
 enum _EnumAspect_ : int32_t {};
 
 /**
- * One preset colour-temperature entry. Fields in the order of the reply, behind a leading number
+ * One preset colour-temperature entry. Fields in the order of the reply, after a leading number
  * that is dropped; meanings are service-defined.
  */
 struct PresetColorTempValues {

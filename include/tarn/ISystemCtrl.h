@@ -292,7 +292,7 @@ class ISystemCtrl : public virtual RefBase {
     /** Returns the SAR power mode, a number as setSarPowerMode() takes it. */
     virtual int getSarPowerMode() = 0;
 
-    // The two operations behind the destructor keep that place in the virtual table.
+    // The two operations after the destructor keep that place in the virtual table.
     virtual ~ISystemCtrl() = default;
 
     /** Sets the type of the presence sensor, service-defined. True when the status is 0. */

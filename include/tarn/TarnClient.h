@@ -26,7 +26,7 @@ class ITarnClientCallback : public virtual RefBase {
 
 /**
  * Returns the process's reference to "tarn.service". Where there is none yet, it waits until the
- * service is published, for ever if need be, links to its death and registers client with it; when
+ * service is published, forever if need be, links to its death and registers client with it; when
  * the reference is there already, client is not registered. The reference is dropped when the
  * service dies: a caller that may see that happen uses a TarnClient instead. Any thread may call.
  */

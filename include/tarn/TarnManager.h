@@ -100,14 +100,14 @@ class TarnManager : virtual public ITarnManager {
     int exeCmdSet_Int(int cmd, int a, int b, int c);
     int exeCmdSet_Int(int cmd, const Parcel& args);
 
-    /** Bool returns the boolean behind the status (any number but 0 is true), or false. */
+    /** Bool returns the boolean after the status (any number but 0 is true), or false. */
     bool exeCmdSet_Bool(int cmd);
     bool exeCmdSet_Bool(int cmd, int a);
     bool exeCmdSet_Bool(int cmd, bool b);
     bool exeCmdSet_Bool(int cmd, int a, bool b);
     bool exeCmdSet_Bool(int cmd, int a, int b);
 
-    /** Str returns the text behind the status as UTF-8, or an empty string. */
+    /** Str returns the text after the status as UTF-8, or an empty string. */
     std::string exeCmdSet_Str(int cmd);
     std::string exeCmdSet_Str(int cmd, int a);
 

@@ -14,7 +14,7 @@ namespace android {
 extern ITarnPlatform* sTarnPlatform;
 
 /**
- * The service of "tarn.service": keeps its clients for ever, each once and dead ones too, and sends
+ * The service of "tarn.service": keeps its clients forever, each once and dead ones too, and sends
  * every notification of its platform side to all of them.
  *
  * Clients in other processes call it on binder threads of this process, several at once. Any thread

@@ -22,7 +22,7 @@ std::unique_ptr<sdbus::IConnection> connectSessionBus();
 /** The unique name of a name's owner; nothing if nobody owns it. Throws BusUnreachable. */
 std::optional<std::string> ownerOf(sdbus::IConnection& connection, const std::string& name);
 
-/** The process behind a name; 0 if nobody owns it. Throws BusUnreachable. */
+/** The process that owns a name; 0 if nobody owns it. Throws BusUnreachable. */
 pid_t processOf(sdbus::IConnection& connection, const std::string& name);
 
 enum class NameOutcome { kTaken, kReplaced, kRefused };

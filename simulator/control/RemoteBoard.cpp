@@ -25,7 +25,7 @@ using bus::checkedText;
     throw BoardUnreachable("the served board does not answer: " + error.getMessage());
 }
 
-/** The board behind a unique name of the bus. */
+/** The board that owns a unique name of the bus. */
 class RemoteBoard : public BoardControl {
   public:
     RemoteBoard(std::unique_ptr<sdbus::IConnection> connection, const std::string& owner)

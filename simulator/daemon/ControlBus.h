@@ -16,7 +16,7 @@
 
 namespace tarn::simulator {
 
-/** The daemon's place on the session bus: its name, and the board's control behind it. */
+/** The daemon's place on the session bus: its name, and the board's control under it. */
 class ControlBus {
   public:
     /** Connects; throws bus::BusUnreachable. */

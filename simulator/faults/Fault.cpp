@@ -69,7 +69,7 @@ Fault faultFromJson(const Json::Value& json) {
     }
     if (const Json::Value* probability = findMember(json, "probability")) {
         if (findMember(json, "every") != nullptr) {
-            throw JsonError(*probability, "every and probability exclude each other");
+            throw JsonError(*probability, "every and probability can't be combined");
         }
         fault.probability = readProbability(*probability);
     }

@@ -335,7 +335,7 @@ TEST_F(Hostile, AFloodOfOneWayCallsIsBounded) {
             write(m, {{}, std::vector<uint8_t>(parcel.data(), parcel.data() + 4)});
         });
     };
-    // The desk is busy with a one-way call, so all others wait behind it.
+    // The desk is busy with a one-way call, so all others wait for it.
     Parcel none;
     ASSERT_EQ(NO_ERROR, mDesk.binder()->transact(Desk::PASS, none, nullptr, IBinder::FLAG_ONEWAY));
     ASSERT_TRUE(eventually([this] { return mDesk.inside() == 1; }));

@@ -38,7 +38,7 @@ class BackgroundCall {
         std::ifstream file("/proc/self/task/" + std::to_string(mThreadId) + "/stat");
         std::string stat;
         std::getline(file, stat);
-        // The state stands behind the program's name in brackets.
+        // The state follows the program's name in brackets.
         const size_t bracket = stat.rfind(')');
         return bracket != std::string::npos && stat.compare(bracket, 3, ") S") == 0;
     }

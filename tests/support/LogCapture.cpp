@@ -17,7 +17,7 @@ std::mutex gLock;
 bool gCapturing = false;
 std::vector<LogLine> gLines;
 
-/** What stands between the colour codes, or the whole text where there are none. */
+/** What is between the colour codes, or the whole text where there are none. */
 std::string withoutColour(const std::string& text) {
     if (text.empty() || text[0] != '\x1b') return text;
     const size_t start = text.find('m') + 1;

@@ -129,7 +129,7 @@ class Replayer {
         checkOrder();
     }
 
-    /** A manager and its controllers hold each other for ever; this keeps them in sight. */
+    /** A manager and its controllers hold each other forever; this keeps them in sight. */
     static sp<WireManager> keep(WireManager* manager) {
         static auto* kept = new std::vector<sp<WireManager>>;
         kept->emplace_back(manager);

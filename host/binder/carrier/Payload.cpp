@@ -11,7 +11,7 @@ namespace {
 // An object and its stability word.
 constexpr size_t kWholeObjectSize = parcel::kObjectSize + sizeof(int32_t);
 
-// True if each object lies within the bytes and behind the one before.
+// True if each object lies within the bytes and after the one before.
 bool objectsFit(const Payload& payload) {
     size_t free = 0;
     for (const Payload::Object& object : payload.objects) {

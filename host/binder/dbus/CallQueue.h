@@ -45,7 +45,7 @@ class CallQueue {
     std::mutex mLock;  // guards what follows
     std::condition_variable mArrived;
     std::deque<std::variant<std::unique_ptr<BusCall>, Task>> mReady;
-    // By object: the calls behind the one-way call that is ready or being served.
+    // By object: the calls after the one-way call that is ready or being served.
     std::map<uint64_t, std::deque<std::unique_ptr<BusCall>>> mLanes;
     bool mStopped = false;
 };

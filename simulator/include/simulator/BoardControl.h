@@ -47,7 +47,7 @@ class BoardControl {
     /** Everything as the board's files describe it. */
     virtual void reset() = 0;
 
-    /** Raises an event with these bytes, behind those that were raised before. */
+    /** Raises an event with these bytes, after those raised before. */
     virtual void raiseEvent(uint32_t type, const std::vector<uint8_t>& data) = 0;
 
     /**

@@ -25,7 +25,7 @@ using namespace tarn::test;
 
 namespace {
 
-/** Managers and their controllers hold each other for ever; these are kept in sight. */
+/** Managers and their controllers hold each other forever; these are kept in sight. */
 sp<RecordingManager> keptManager() {
     static auto* kept = new std::vector<sp<RecordingManager>>;
     kept->push_back(new RecordingManager);
@@ -194,7 +194,7 @@ constexpr Accessor kSharingAccessors[] = {
 TEST(TarnManager, LetsCameraSensorBoxSerialAndIoBoxWaitForEachOtherAndNobodyElse) {
     static auto& kept = *new std::vector<HeldManager*>;
     for (const Accessor& holder : kSharingAccessors) {
-        // No strong reference yet; its controllers will hold it for ever.
+        // No strong reference yet; its controllers will hold it forever.
         HeldManager* const manager = kept.emplace_back(new HeldManager);
         BackgroundCall held([&] { holder.call(manager); });
         ASSERT_TRUE(eventually([&] { return manager->gate.arrived(); }));

@@ -18,7 +18,7 @@ using namespace tarn::test;
 // No command carries the list of a camera, a box or a microphone, so that no method reads one.
 namespace {
 
-/** The texts and flags behind a record's numbers; one of the three flags is raised. */
+/** The texts and flags after a record's numbers; one of the three flags is raised. */
 std::string textsAndFlags(int raised) {
     const auto flag = [raised](int index) { return index == raised ? "01000000" : "00000000"; };
     return std::string("01000000 61000000") + flag(0) + "02000000 e9007a00 00000000" + flag(1) +

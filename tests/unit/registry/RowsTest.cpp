@@ -35,7 +35,7 @@ std::string sampleOf(const Argument& argument) {
 
 /** The codes that a method sends to a service whose every reply is a list of one. */
 std::set<int32_t> codesSentBy(const Method& method) {
-    // A manager and its controllers hold each other for ever; this keeps one in sight.
+    // A manager and its controllers hold each other forever; this keeps one in sight.
     static auto* const manager = new sp<RecordingManager>(new RecordingManager);
     (*manager)->answer(tarn::test::words({0, 1, 1}));
     (*manager)->clear();

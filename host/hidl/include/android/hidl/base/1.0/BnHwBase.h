@@ -25,7 +25,7 @@ struct BnHwBase : public ::android::BBinder {
     status_t onTransact(uint32_t code, const Parcel& data, Parcel* reply, uint32_t flags = 0) final;
 
     /**
-     * Answers the interface's own methods. data stands behind its token, reply is empty and never
+     * Answers the interface's own methods. data follows its token, reply is empty and never
      * null.
      * @return an error to be sent instead of reply, UNKNOWN_TRANSACTION for an unknown code.
      */
