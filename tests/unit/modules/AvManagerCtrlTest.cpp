@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <numeric>
+#include <thread>
 #include <vector>
 
 #include "modules/AvManagerCtrl.h"
@@ -104,6 +105,14 @@ TEST_F(AvManagerCtrlTestResult, HasTheSameAddressOnEveryCall) {
 
     const sp<IAvManagerCtrl> other = new android::AvManagerCtrl(new RecordingManager);
     EXPECT_EQ(other->getDspTestResult(), first);
+}
+
+TEST_F(AvManagerCtrlTestResult, HasTheSameAddressOnEveryThread) {
+    manager->answer(testResult(0, 4, hex("01020304")));
+    unsigned char* const here = av->getDspTestResult();
+    unsigned char* there = nullptr;
+    std::thread([this, &there] { there = av->getDspTestResult(); }).join();
+    EXPECT_EQ(there, here);
 }
 
 TEST_F(AvManagerCtrlTestResult, OverwritesOnlyAsManyBytesAsItHas) {

@@ -84,7 +84,9 @@ TEST_F(TouchCtrl, ListsAreasWithTheirEchoedIndexAndNoExtraValue) {
     EXPECT_EQ(areas[0].end.y, 4);
     EXPECT_EQ(areas[0].end.extra, 0);
     EXPECT_EQ(areas[1].id, 1);
+    EXPECT_EQ(areas[1].start.extra, 0);
     EXPECT_EQ(areas[1].end.y, 8);
+    EXPECT_EQ(areas[1].end.extra, 0);
 }
 
 TEST_F(TouchCtrl, AsksForNoAreaWhenTheirNumberIsUnknown) {
