@@ -10,7 +10,7 @@
 
 #include "protocol/Catalog.h"
 #include "registry/Call.h"
-#include "registry/Parameters.h"
+#include "registry/ParameterTypes.h"
 #include "registry/ResultTypes.h"
 
 /**
@@ -46,28 +46,28 @@ struct Typed {
     using Adapter = Result (*)(Interface&, Parameters...);
 
     template <size_t... Index>
-    static Answer callMethod(const Target& target, android::ITarnManager* manager, Value* values,
-                             std::index_sequence<Index...>) {
+    static Answer callMethod(const Target& target, android::ITarnManager* manager,
+                             ArgumentValue* values, std::index_sequence<Index...>) {
         Interface* controller = (manager->*target.accessor.as<Accessor>())();
         return ResultType<Plain<Result>>::answer((controller->*target.method.as<Method>())(
                 Parameter<Plain<Parameters>>::from(values[Index])...));
     }
 
     template <size_t... Index>
-    static Answer callAdapter(const Target& target, android::ITarnManager* manager, Value* values,
-                              std::index_sequence<Index...>) {
+    static Answer callAdapter(const Target& target, android::ITarnManager* manager,
+                              ArgumentValue* values, std::index_sequence<Index...>) {
         Interface* controller = (manager->*target.accessor.as<Accessor>())();
         return ResultType<Plain<Result>>::answer(target.adapter.as<Adapter>()(
                 *controller, Parameter<Plain<Parameters>>::from(values[Index])...));
     }
 
     static Answer invokeMethod(const Target& target, android::ITarnManager* manager,
-                               Value* values) {
+                               ArgumentValue* values) {
         return callMethod(target, manager, values, std::index_sequence_for<Parameters...>());
     }
 
     static Answer invokeAdapter(const Target& target, android::ITarnManager* manager,
-                                Value* values) {
+                                ArgumentValue* values) {
         return callAdapter(target, manager, values, std::index_sequence_for<Parameters...>());
     }
 

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "registry/Value.h"
+#include "registry/ArgumentValue.h"
 
 namespace android {
 class ITarnManager;
@@ -47,7 +47,7 @@ struct Target {
 
 /** What the methods of one interface with the same parameters and result have in common. */
 struct Signature {
-    Answer (*invoke)(const Target& target, android::ITarnManager* manager, Value* values);
+    Answer (*invoke)(const Target& target, android::ITarnManager* manager, ArgumentValue* values);
     const ParameterType* const* parameters;  // a null pointer ends them
     Kind result;
     const char* resultWords;  // of a list, those of an element

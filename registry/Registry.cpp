@@ -23,21 +23,22 @@ std::vector<Controller> registerAll() {
 
 }  // namespace
 
-std::vector<Value> Method::read(const std::vector<std::string>& texts) const {
-    std::vector<Value> values(arguments.size());
+std::vector<ArgumentValue> Method::read(const std::vector<std::string>& texts) const {
+    std::vector<ArgumentValue> values(arguments.size());
     for (size_t i = 0; i < arguments.size(); i++) {
         arguments[i].parameter->read(arguments[i].name, texts[i], &values[i]);
     }
     return values;
 }
 
-Json::Value Method::callWith(android::ITarnManager* manager, std::vector<Value> values) const {
+Json::Value Method::callWith(android::ITarnManager* manager,
+                             std::vector<ArgumentValue> values) const {
     return signature->invoke(target, manager, values.data()).json();
 }
 
 Json::Value Method::call(android::ITarnManager* manager,
                          const std::vector<std::string>& texts) const {
-    std::vector<Value> values = read(texts);
+    std::vector<ArgumentValue> values = read(texts);
     return manager != nullptr ? callWith(manager, std::move(values)) : Json::Value();
 }
 

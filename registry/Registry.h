@@ -10,7 +10,7 @@
 #include "protocol/Catalog.h"
 #include "registry/Arguments.h"
 #include "registry/Call.h"
-#include "registry/Parameters.h"
+#include "registry/ParameterTypes.h"
 
 namespace tarn::registry {
 
@@ -34,10 +34,10 @@ struct Method {
     bool undecoded = false;  // the result's "data" is the bytes of the reply behind its status
 
     /** The arguments' values; throws BadArgument. The count must be arguments.size(). */
-    std::vector<Value> read(const std::vector<std::string>& texts) const;
+    std::vector<ArgumentValue> read(const std::vector<std::string>& texts) const;
 
     /** The result of a call with a value for each argument. */
-    Json::Value callWith(android::ITarnManager* manager, std::vector<Value> values) const;
+    Json::Value callWith(android::ITarnManager* manager, std::vector<ArgumentValue> values) const;
 
     /**
      * Throws BadArgument before anything is sent; the count must be arguments.size(). Without a

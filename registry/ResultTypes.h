@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "registry/Answer.h"
-#include "registry/Value.h"
+#include "registry/ArgumentValue.h"
 
 namespace tarn::registry {
 

@@ -9,7 +9,7 @@ namespace tarn::registry {
 
 namespace {
 
-void readHeader(const std::string& name, const std::string& text, Value* value) {
+void readHeader(const std::string& name, const std::string& text, ArgumentValue* value) {
     kIntsParameter.read(name, text, value);
     if (value->numbers.size() != 8) {
         throw BadArgument(name + ": \"" + text +
@@ -25,7 +25,7 @@ const ParameterType kHeaderParameter = {Kind::kInts, "eight ints, separated by c
 template <>
 struct Parameter<_EunmAvCtrlHdmiout_> {
     static constexpr const ParameterType* kType = &kHeaderParameter;
-    static _EunmAvCtrlHdmiout_ from(const Value& value) {
+    static _EunmAvCtrlHdmiout_ from(const ArgumentValue& value) {
         const auto item = [&value](size_t i) { return value.numbers.at(i); };
         return {item(0), item(1), item(2), item(3), item(4), item(5), item(6), item(7)};
     }

@@ -10,7 +10,7 @@ namespace tarn::registry {
 
 namespace {
 
-void readRect(const std::string& name, const std::string& text, Value* value) {
+void readRect(const std::string& name, const std::string& text, ArgumentValue* value) {
     const std::vector<std::string> parts = values::splitList(text);
     if (parts.size() != 5) {
         throw BadArgument(name + ": \"" + text + "\" can't be used; accepted: id,x1,y1,x2,y2");
@@ -25,7 +25,7 @@ const ParameterType kRectParameter = {Kind::kInts, "id,x1,y1,x2,y2", readRect};
 template <>
 struct Parameter<TouchRect> {
     static constexpr const ParameterType* kType = &kRectParameter;
-    static TouchRect from(const Value& value) {
+    static TouchRect from(const ArgumentValue& value) {
         const auto number = [&value](size_t i) { return value.numbers.at(i); };
         return TouchRect(TouchPoint(number(1), number(2), 0), TouchPoint(number(3), number(4), 0),
                          number(0));

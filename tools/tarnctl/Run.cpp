@@ -2,7 +2,7 @@
 
 #include "tools/tarnctl/output/Guard.h"
 #include "tools/tarnctl/session/LibraryLog.h"
-#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 namespace tarnctl {
 
@@ -10,7 +10,7 @@ namespace {
 
 int runParsed(const CommandLine& line, const Streams& streams, const Diagnostics& diagnostics) {
     routeLibraryLog(line.options.verbose);
-    const bool isBatch = !line.words.empty() && line.words[0] == kBatchCommand.name;
+    const bool isBatch = !line.words.empty() && line.words[0] == kBatchVerb.name;
     Session session(line.options, diagnostics, isBatch);
     Context context{session,     line.options, Output(streams.out, line.options.json),
                     diagnostics, streams,      false};

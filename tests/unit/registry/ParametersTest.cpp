@@ -5,12 +5,12 @@
 
 #include "registry/Registry.h"
 
+using tarn::registry::ArgumentValue;
 using tarn::registry::BadArgument;
 using tarn::registry::findController;
 using tarn::registry::findMethods;
 using tarn::registry::Kind;
 using tarn::registry::Method;
-using tarn::registry::Value;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

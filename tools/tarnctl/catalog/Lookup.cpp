@@ -16,9 +16,9 @@ namespace {
 
 constexpr char kCommandPrefix[] = "CMD_";
 
-std::string takesText(const Target& target) {
+std::string takesText(const Overloads& overloads) {
     std::vector<std::string> counts;
-    for (const Method* method : target.methods) {
+    for (const Method* method : overloads.methods) {
         counts.push_back(std::to_string(method->arguments.size()));
     }
     return joined(counts, " or ") +
@@ -34,7 +34,7 @@ const Controller& requireController(const std::string& name) {
     throw Failure(kNoSuchName, "no controller \"" + name + "\"" + didYouMean(name, names));
 }
 
-Target requireMethods(const std::string& path) {
+Overloads requireMethods(const std::string& path) {
     const size_t dot = path.find('.');
     if (dot == std::string::npos) {
         if (const Controller* controller = findController(path)) {
@@ -46,14 +46,14 @@ Target requireMethods(const std::string& path) {
     }
     const Controller& controller = requireController(path.substr(0, dot));
     const std::string name = path.substr(dot + 1);
-    const Target target{&controller, findMethods(controller, name)};
-    if (target.methods.empty()) {
+    const Overloads overloads{&controller, findMethods(controller, name)};
+    if (overloads.methods.empty()) {
         std::vector<std::string> names;
         for (const Method& method : controller.methods) names.push_back(method.name);
         throw Failure(kNoSuchName, controller.name + " has no method \"" + name + "\"" +
                                            didYouMean(name, names));
     }
-    return target;
+    return overloads;
 }
 
 std::string suggestPaths(const std::string& method) {
@@ -70,15 +70,16 @@ std::string suggestPaths(const std::string& method) {
     return "";
 }
 
-const Method& requireOverload(const Target& target, size_t argumentCount) {
+const Method& requireOverload(const Overloads& overloads, size_t argumentCount) {
     std::vector<std::string> signatures;
-    for (const Method* method : target.methods) {
+    for (const Method* method : overloads.methods) {
         if (method->arguments.size() == argumentCount) return *method;
-        signatures.push_back(signatureOf(*target.controller, *method));
+        signatures.push_back(signatureOf(*overloads.controller, *method));
     }
-    throw Failure(kBadUsage, pathOf(*target.controller, *target.methods[0]) + " takes " +
-                                     takesText(target) + ", not " + std::to_string(argumentCount) +
-                                     ": " + joined(signatures, " or "));
+    throw Failure(kBadUsage, pathOf(*overloads.controller, *overloads.methods[0]) + " takes " +
+                                     takesText(overloads) + ", not " +
+                                     std::to_string(argumentCount) + ": " +
+                                     joined(signatures, " or "));
 }
 
 bool looksLikeCommand(const std::string& text) {

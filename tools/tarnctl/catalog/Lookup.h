@@ -22,19 +22,19 @@ using ::tarn::registry::Method;
 const Controller& requireController(const std::string& name);
 
 /** A method by its name, with its overloads. */
-struct Target {
+struct Overloads {
     const Controller* controller;
     std::vector<const Method*> methods;
 };
 
 /** The methods of "audio.setVolume". */
-Target requireMethods(const std::string& path);
+Overloads requireMethods(const std::string& path);
 
 /** "; did you mean audio.setVolume?" for a method's name without its controller, or nothing. */
 std::string suggestPaths(const std::string& method);
 
 /** The overload that takes so many arguments. */
-const Method& requireOverload(const Target& target, size_t argumentCount);
+const Method& requireOverload(const Overloads& overloads, size_t argumentCount);
 
 /** The rows of a command by its name, or by its code in decimal or hexadecimal. */
 std::vector<const ::tarn::protocol::Command*> requireCommands(const std::string& nameOrCode);

@@ -100,15 +100,15 @@ std::vector<NamedProperty> namedProperties() {
     return properties;
 }
 
-Target findAccessors(const std::string& property, Access access) {
+Overloads findAccessors(const std::string& property, Access access) {
     const size_t dot = property.find('.');
     const Controller* controller = findController(property.substr(0, dot));
-    if (controller == nullptr || dot == std::string::npos) return Target{controller, {}};
+    if (controller == nullptr || dot == std::string::npos) return Overloads{controller, {}};
     const std::string wanted = property.substr(dot + 1);
     const auto exact = accessors(*controller, access, [&wanted](const std::string& name) {
         return sameLetters(name, wanted);
     });
-    if (!exact.empty()) return Target{controller, exact};
+    if (!exact.empty()) return Overloads{controller, exact};
     const auto stems = accessors(*controller, access, [&wanted](const std::string& name) {
         return sameLetters(withoutEnable(name), withoutEnable(wanted));
     });
@@ -116,7 +116,7 @@ Target findAccessors(const std::string& property, Access access) {
     const bool clear = std::all_of(stems.begin(), stems.end(), [&stems](const Method* method) {
         return method->name == stems[0]->name;
     });
-    return Target{controller, clear ? stems : std::vector<const Method*>()};
+    return Overloads{controller, clear ? stems : std::vector<const Method*>()};
 }
 
 void refuseProperty(const std::string& property, Access access) {

@@ -27,7 +27,7 @@ enum class Access { kGet, kSet };
  * case of letters doesn't matter; an "Enable" or "Enabled" at the end may be left out where that is
  * clear.
  */
-Target findAccessors(const std::string& property, Access access);
+Overloads findAccessors(const std::string& property, Access access);
 
 /** Throws the Failure of a property that can't be found. */
 [[noreturn]] void refuseProperty(const std::string& property, Access access);

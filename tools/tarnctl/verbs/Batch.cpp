@@ -7,7 +7,7 @@
 #include "tools/tarnctl/options/LineWords.h"
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/output/Guard.h"
-#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 namespace tarnctl {
 
@@ -31,7 +31,7 @@ int runLine(Context& batch, const std::string& line, const std::string& place) {
     const Diagnostics diagnostics(batch.streams.err, quiet || asksForQuiet(words), place);
     return guarded(diagnostics, [&] {
         const CommandLine commandLine = parseBatchLine(words, batch.options);
-        if (!commandLine.words.empty() && commandLine.words[0] == kBatchCommand.name) {
+        if (!commandLine.words.empty() && commandLine.words[0] == kBatchVerb.name) {
             throw Failure(kBadUsage, "a batch can't run a batch");
         }
         Context context{batch.session,
@@ -69,7 +69,7 @@ int runLines(Context& context, std::istream& lines, const std::string& name) {
 }
 
 int runBatch(Context& context, const Arguments& arguments) {
-    requireCount(kBatchCommand, arguments, 0, 1);
+    requireCount(kBatchVerb, arguments, 0, 1);
     if (arguments.empty() || arguments[0] == "-") {
         return runLines(context, context.streams.in, "-");
     }
@@ -81,7 +81,7 @@ int runBatch(Context& context, const Arguments& arguments) {
 
 }  // namespace
 
-const CommandDescription kBatchCommand = {
+const Verb kBatchVerb = {
         "batch", "[--keep-going] [FILE]", "run commands from a file or standard input",
         R"(Reads FILE, or standard input without one or for -. One command a line, the words as after
 tarnctl on a command line: quotes and backslashes as in a shell, # begins a comment. All

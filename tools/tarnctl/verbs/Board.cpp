@@ -8,7 +8,7 @@
 #include "tools/tarnctl/catalog/NearNames.h"
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/output/Format.h"
-#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 namespace tarnctl {
 
@@ -118,7 +118,7 @@ const Action& requireAction(const std::string& name) {
 }
 
 int runBoard(Context& context, const Arguments& arguments) {
-    if (arguments.empty()) requireCount(kBoardCommand, arguments, 1, 1);
+    if (arguments.empty()) requireCount(kBoardVerb, arguments, 1, 1);
     const Action& action = requireAction(arguments[0]);
     const Arguments rest(arguments.begin() + 1, arguments.end());
     if (rest.size() < action.least || rest.size() > action.most) {
@@ -144,9 +144,8 @@ std::vector<std::string> boardActions() {
     return names;
 }
 
-const CommandDescription kBoardCommand = {
-        "board", "ACTION [ARGUMENT]...", "control a simulated board",
-        R"(  board list                  every property of the board with its value
+const Verb kBoardVerb = {"board", "ACTION [ARGUMENT]...", "control a simulated board",
+                         R"(  board list                  every property of the board with its value
   board get PROPERTY          one; of an indexed one name[index] is an element
   board set PROPERTY VALUE    change it past the library; raises no event
   board reset                 state and faults as the board's files describe them
@@ -164,6 +163,6 @@ const CommandDescription kBoardCommand = {
 
 It is the board that tarn-board serves, if it does. A board within tarnctl lives as long as
 tarnctl: put such commands into a batch.)",
-        runBoard};
+                         runBoard};
 
 }  // namespace tarnctl

@@ -1,20 +1,20 @@
 #include "tools/tarnctl/catalog/Lookup.h"
-#include "tools/tarnctl/verbs/Commands.h"
 #include "tools/tarnctl/verbs/MethodCall.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 namespace tarnctl {
 
 namespace {
 
 int runCall(Context& context, const Arguments& arguments) {
-    if (arguments.empty()) requireCount(kCallCommand, arguments, 1, 1);
+    if (arguments.empty()) requireCount(kCallVerb, arguments, 1, 1);
     return callMethod(context, requireMethods(arguments[0]),
                       Arguments(arguments.begin() + 1, arguments.end()));
 }
 
 }  // namespace
 
-const CommandDescription kCallCommand = {
+const Verb kCallVerb = {
         "call", "CONTROLLER.METHOD [ARGUMENT]...", "call a method and print its result",
         R"(Arguments as tarnctl describe shows them: numbers in decimal or 0x hexadecimal; true or
 false, on or off, yes or no, 1 or 0; lists separated by commas; bytes as hexadecimal pairs.

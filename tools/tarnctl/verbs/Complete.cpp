@@ -8,7 +8,7 @@
 #include "tools/tarnctl/catalog/Lookup.h"
 #include "tools/tarnctl/catalog/PropertyNames.h"
 #include "tools/tarnctl/output/Failure.h"
-#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 namespace tarnctl {
 
@@ -131,7 +131,7 @@ Candidates ofCommand(Session& session, const std::vector<std::string>& words) {
 
 Candidates commandNamesOfTarnctl() {
     Candidates names;
-    for (const CommandDescription& command : commandTable()) names.push_back(command.name);
+    for (const Verb& verb : verbs()) names.push_back(verb.name);
     return names;
 }
 

@@ -2,7 +2,7 @@
 #include "tools/tarnctl/catalog/Lookup.h"
 #include "tools/tarnctl/catalog/NearNames.h"
 #include "tools/tarnctl/output/Failure.h"
-#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 namespace tarnctl {
 
@@ -40,7 +40,7 @@ class Descriptions {
 }
 
 int runDescribe(Context& context, const Arguments& arguments) {
-    requireCount(kDescribeCommand, arguments, 1, 1);
+    requireCount(kDescribeVerb, arguments, 1, 1);
     const std::string& name = arguments[0];
     Descriptions descriptions;
     if (looksLikeCommand(name)) {
@@ -53,10 +53,10 @@ int runDescribe(Context& context, const Arguments& arguments) {
         }
     } else {
         if (name.find('.') == std::string::npos) refuse(name);
-        const Target target = requireMethods(name);
-        for (const Method* method : target.methods) {
-            descriptions.add(describeMethod(*target.controller, *method),
-                             methodLines(*target.controller, *method));
+        const Overloads overloads = requireMethods(name);
+        for (const Method* method : overloads.methods) {
+            descriptions.add(describeMethod(*overloads.controller, *method),
+                             methodLines(*overloads.controller, *method));
         }
     }
     descriptions.print(&context.output);
@@ -65,7 +65,7 @@ int runDescribe(Context& context, const Arguments& arguments) {
 
 }  // namespace
 
-const CommandDescription kDescribeCommand = {
+const Verb kDescribeVerb = {
         "describe", "NAME", "a method or a command: arguments, code, layouts",
         R"(NAME is a method (audio.setVolume), a controller (audio: all its methods), a command
 (CMD_AUDIO_SET_VOLUME) or its code (0x1402, 5122). Layouts use the types of raw; [...] is a

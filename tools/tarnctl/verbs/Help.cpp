@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "tools/tarnctl/options/Options.h"
-#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 namespace tarnctl {
 
@@ -37,11 +37,11 @@ void appendText(std::vector<std::string>* lines, const std::string& text) {
 std::vector<std::string> helpLines() {
     std::vector<std::string> lines{"usage: tarnctl [OPTIONS] COMMAND [ARGUMENTS]", "", "commands:"};
     size_t width = 0;
-    for (const CommandDescription& command : commandTable()) {
-        width = std::max(width, synopsisOf(command).size());
+    for (const Verb& verb : verbs()) {
+        width = std::max(width, synopsisOf(verb).size());
     }
-    for (const CommandDescription& command : commandTable()) {
-        lines.push_back("  " + padded(synopsisOf(command), width) + "  " + command.summary);
+    for (const Verb& verb : verbs()) {
+        lines.push_back("  " + padded(synopsisOf(verb), width) + "  " + verb.summary);
     }
     lines.insert(lines.end(), {"", "options, before or after the command:"});
     appendOptions(&lines, "");
@@ -70,11 +70,11 @@ tarnctl COMMAND --help tells more about a command.)");
 }
 
 std::vector<std::string> helpLines(const std::string& name) {
-    const CommandDescription& command = requireCommand(name);
-    std::vector<std::string> lines{"usage: tarnctl " + synopsisOf(command), ""};
-    appendText(&lines, command.details);
+    const Verb& verb = requireVerb(name);
+    std::vector<std::string> lines{"usage: tarnctl " + synopsisOf(verb), ""};
+    appendText(&lines, verb.details);
     std::vector<std::string> options;
-    appendOptions(&options, command.name);
+    appendOptions(&options, verb.name);
     if (!options.empty()) {
         lines.insert(lines.end(), {"", "options:"});
         lines.insert(lines.end(), options.begin(), options.end());

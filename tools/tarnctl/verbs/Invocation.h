@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 namespace tarnctl {
 

@@ -3,7 +3,7 @@
 #include "tools/tarnctl/catalog/Description.h"
 #include "tools/tarnctl/catalog/Lookup.h"
 #include "tools/tarnctl/output/Failure.h"
-#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 namespace tarnctl {
 
@@ -55,7 +55,7 @@ void listMethods(Context& context, const Controller& controller) {
 }
 
 int runList(Context& context, const Arguments& arguments) {
-    requireCount(kListCommand, arguments, 0, 1);
+    requireCount(kListVerb, arguments, 0, 1);
     if (arguments.empty()) {
         listControllers(context);
     } else {
@@ -66,7 +66,7 @@ int runList(Context& context, const Arguments& arguments) {
 
 }  // namespace
 
-const CommandDescription kListCommand = {
+const Verb kListVerb = {
         "list", "[CONTROLLER]", "the controllers, or the methods of one",
         R"(Without an argument: every controller with the number of its methods, and the totals.
 With a controller (audio, or AudioCtrl): its methods with arguments and result.)",

@@ -32,8 +32,9 @@ Json::Value decoded(const Json::Value& result, const ::tarn::protocol::Command& 
 
 }  // namespace
 
-int callMethod(Context& context, const Target& target, const std::vector<std::string>& values) {
-    const Method& method = requireOverload(target, values.size());
+int callMethod(Context& context, const Overloads& overloads,
+               const std::vector<std::string>& values) {
+    const Method& method = requireOverload(overloads, values.size());
     method.call(nullptr, values);
     return invoke(context, [&method, values](TracingManager& manager) {
         const Json::Value result = method.call(&manager, values);

@@ -3,7 +3,7 @@
 
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/output/Format.h"
-#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 #include "values/Hex.h"
 
 namespace tarnctl {
@@ -60,7 +60,7 @@ int watch(Context& context, EventCollector& events, const EndSignals& signals) {
 }
 
 int runMonitor(Context& context, const Arguments& arguments) {
-    requireCount(kMonitorCommand, arguments, 0, 0);
+    requireCount(kMonitorVerb, arguments, 0, 0);
     EventCollector& events = context.session.events();
     const EndSignals signals(events.wakeup());
     context.diagnostics.note("waiting for events");
@@ -69,7 +69,7 @@ int runMonitor(Context& context, const Arguments& arguments) {
 
 }  // namespace
 
-const CommandDescription kMonitorCommand = {
+const Verb kMonitorVerb = {
         "monitor", "[--count N]", "print events as they come",
         R"(Prints an event a line: its type, the number of its bytes as a listener gets them, which
 is filled up to whole words, and the words; with --json an object a line.

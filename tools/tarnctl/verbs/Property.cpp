@@ -3,8 +3,8 @@
 #include "tools/tarnctl/board/BoardAccess.h"
 #include "tools/tarnctl/catalog/PropertyNames.h"
 #include "tools/tarnctl/output/Failure.h"
-#include "tools/tarnctl/verbs/Commands.h"
 #include "tools/tarnctl/verbs/MethodCall.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 namespace tarnctl {
 
@@ -59,28 +59,28 @@ int runGet(Context& context, const Arguments& arguments) {
         return kDone;
     }
     const Arguments values(arguments.begin() + 1, arguments.end());
-    const Target target = findAccessors(arguments[0], Access::kGet);
-    if (!target.methods.empty()) return callMethod(context, target, values);
+    const Overloads overloads = findAccessors(arguments[0], Access::kGet);
+    if (!overloads.methods.empty()) return callMethod(context, overloads, values);
     BoardControl& board = requireBoardProperty(context, arguments[0], Access::kGet);
-    requireCount(kGetCommand, arguments, 1, 1);
+    requireCount(kGetVerb, arguments, 1, 1);
     context.output.result(readProperty(board, arguments[0]));
     return kDone;
 }
 
 int runSet(Context& context, const Arguments& arguments) {
-    if (arguments.size() < 2) requireCount(kSetCommand, arguments, 2, 2);
+    if (arguments.size() < 2) requireCount(kSetVerb, arguments, 2, 2);
     const Arguments values(arguments.begin() + 1, arguments.end());
-    const Target target = findAccessors(arguments[0], Access::kSet);
-    if (!target.methods.empty()) return callMethod(context, target, values);
+    const Overloads overloads = findAccessors(arguments[0], Access::kSet);
+    if (!overloads.methods.empty()) return callMethod(context, overloads, values);
     BoardControl& board = requireBoardProperty(context, arguments[0], Access::kSet);
-    requireCount(kSetCommand, arguments, 2, 2);
+    requireCount(kSetVerb, arguments, 2, 2);
     writeProperty(&board, arguments[0], arguments[1]);
     return kDone;
 }
 
 }  // namespace
 
-const CommandDescription kGetCommand = {
+const Verb kGetVerb = {
         "get", "[CONTROLLER.PROPERTY [INDEX]...]", "read a property, or list them all",
         R"(A property is what a controller's getter gives: audio.volume is audio.getVolume(),
 audio.drcEnable or audio.drc is audio.isDrcEnable(). Arguments of the getter follow the
@@ -93,7 +93,7 @@ property of that name, as tarnctl board get gives it.
 Without a name: every property, whether it can be read (r) and written (w), and its type.)",
         runGet};
 
-const CommandDescription kSetCommand = {
+const Verb kSetVerb = {
         "set", "CONTROLLER.PROPERTY [INDEX]... VALUE", "write a property",
         R"(The counterpart of get: set audio.volume 30 is audio.setVolume(30), set audio.drc on is
 audio.enableDrc(true), set audio.ampMute 1 0 is audio.setAmpMute(1, 0). Prints the method's

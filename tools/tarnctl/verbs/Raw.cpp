@@ -5,8 +5,8 @@
 #include "tools/tarnctl/catalog/Lookup.h"
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/output/Format.h"
-#include "tools/tarnctl/verbs/Commands.h"
 #include "tools/tarnctl/verbs/Invocation.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 #include "values/Codec.h"
 #include "values/Hex.h"
 
@@ -74,7 +74,7 @@ Json::Value exchange(TracingManager& manager, const Bytes& bytes,
 }
 
 int runRaw(Context& context, const Arguments& arguments) {
-    if (arguments.empty()) requireCount(kRawCommand, arguments, 1, 1);
+    if (arguments.empty()) requireCount(kRawVerb, arguments, 1, 1);
     const int32_t code = requireCode(arguments[0]);
     const Arguments typesAndValues(arguments.begin() + 1, arguments.end());
     if (typesAndValues.size() % 2 != 0) {
@@ -97,7 +97,7 @@ std::vector<std::string> rawTypes() {
     return words;
 }
 
-const CommandDescription kRawCommand = {
+const Verb kRawVerb = {
         "raw", "CODE|CMD_NAME [TYPE VALUE]...", "send a command word by word",
         R"(Sends the code and the values as they are, known or not: no check against the layout.
 TYPE is i32, bool, s16, f32 or bytes (an int32 length, then the bytes). Prints the status,

@@ -3,7 +3,7 @@
 #include "tools/tarnctl/board/BoardAccess.h"
 #include "tools/tarnctl/output/Failure.h"
 #include "tools/tarnctl/session/LibraryLog.h"
-#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 namespace tarnctl {
 
@@ -36,7 +36,7 @@ Report describeService(Context& context) {
 }
 
 int runStatus(Context& context, const Arguments& arguments) {
-    requireCount(kStatusCommand, arguments, 0, 0);
+    requireCount(kStatusVerb, arguments, 0, 0);
     Report report;
     int code = kDone;
     try {
@@ -54,7 +54,7 @@ int runStatus(Context& context, const Arguments& arguments) {
 
 }  // namespace
 
-const CommandDescription kStatusCommand = {
+const Verb kStatusVerb = {
         "status", "", "whether the service is ready, and where it runs",
         R"(Prints whether the hardware service is ready; where it runs: embedded (a simulated board
 within tarnctl) or in another process, and in which; the name of a simulated board; and the

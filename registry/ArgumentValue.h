@@ -21,7 +21,7 @@ enum class Kind {
 };
 
 /** An argument's value: the member that belongs to its kind. */
-struct Value {
+struct ArgumentValue {
     int64_t number = 0;  // kInt, kUnsigned
     bool flag = false;
     float real = 0;

@@ -9,7 +9,7 @@
 
 namespace tarnctl {
 
-/** What a command works with. */
+/** What a verb works with. */
 struct Context {
     Session& session;
     const Options& options;
@@ -21,7 +21,8 @@ struct Context {
 
 using Arguments = std::vector<std::string>;
 
-struct CommandDescription {
+/** One of tarnctl's own commands: "call", "get", ... */
+struct Verb {
     const char* name;
     const char* arguments;  // "CONTROLLER.METHOD [ARGUMENT]..."
     const char* summary;
@@ -29,26 +30,26 @@ struct CommandDescription {
     int (*run)(Context&, const Arguments&);
 };
 
-/** The commands in the order of the help. */
-const std::vector<CommandDescription>& commandTable();
+/** All of them in the order of the help. */
+const std::vector<Verb>& verbs();
 
 /** Throws Failure(kBadUsage). */
-const CommandDescription& requireCommand(const std::string& name);
+const Verb& requireVerb(const std::string& name);
 
 /** Runs the command that the words name; says what is wrong and gives the exit code. */
 int execute(Context& context, const std::vector<std::string>& words);
 
-extern const CommandDescription kListCommand;
-extern const CommandDescription kDescribeCommand;
-extern const CommandDescription kCallCommand;
-extern const CommandDescription kGetCommand;
-extern const CommandDescription kSetCommand;
-extern const CommandDescription kRawCommand;
-extern const CommandDescription kMonitorCommand;
-extern const CommandDescription kBatchCommand;
-extern const CommandDescription kStatusCommand;
-extern const CommandDescription kBoardCommand;
-extern const CommandDescription kHelpCommand;
+extern const Verb kListVerb;
+extern const Verb kDescribeVerb;
+extern const Verb kCallVerb;
+extern const Verb kGetVerb;
+extern const Verb kSetVerb;
+extern const Verb kRawVerb;
+extern const Verb kMonitorVerb;
+extern const Verb kBatchVerb;
+extern const Verb kStatusVerb;
+extern const Verb kBoardVerb;
+extern const Verb kHelpVerb;
 
 /** What could be the last word; for the hidden command "__complete". */
 std::vector<std::string> completions(Session& session, const std::vector<std::string>& words);
@@ -60,10 +61,9 @@ std::vector<std::string> boardActions();
 std::vector<std::string> rawTypes();
 
 /** "call CONTROLLER.METHOD [ARGUMENT]..." */
-std::string synopsisOf(const CommandDescription& command);
+std::string synopsisOf(const Verb& verb);
 
-/** Throws Failure(kBadUsage) with the command's synopsis unless there are so many arguments. */
-void requireCount(const CommandDescription& command, const Arguments& arguments, size_t least,
-                  size_t most);
+/** Throws Failure(kBadUsage) with the verb's synopsis unless there are so many arguments. */
+void requireCount(const Verb& verb, const Arguments& arguments, size_t least, size_t most);
 
 }  // namespace tarnctl

@@ -1,4 +1,4 @@
-#include "tools/tarnctl/verbs/Commands.h"
+#include "tools/tarnctl/verbs/Verbs.h"
 
 #include "tools/tarnctl/catalog/NearNames.h"
 #include "tools/tarnctl/output/Failure.h"
@@ -10,7 +10,7 @@ namespace tarnctl {
 namespace {
 
 int runHelp(Context& context, const Arguments& arguments) {
-    requireCount(kHelpCommand, arguments, 0, 1);
+    requireCount(kHelpVerb, arguments, 0, 1);
     context.output.lines(arguments.empty() ? helpLines() : helpLines(arguments[0]));
     return kDone;
 }
@@ -29,29 +29,28 @@ int dispatch(Context& context, const std::vector<std::string>& words) {
         context.output.lines(completions(context.session, arguments));
         return kDone;
     }
-    return requireCommand(words[0]).run(context, arguments);
+    return requireVerb(words[0]).run(context, arguments);
 }
 
 }  // namespace
 
-const CommandDescription kHelpCommand = {
+const Verb kHelpVerb = {
         "help", "[COMMAND]", "this help, or more about a command",
         "Prints what --help prints: the commands and options, or one command's details.", runHelp};
 
-const std::vector<CommandDescription>& commandTable() {
-    static const auto* table = new std::vector<CommandDescription>{
-            kListCommand,   kDescribeCommand, kCallCommand,    kGetCommand,
-            kSetCommand,    kRawCommand,      kMonitorCommand, kBatchCommand,
-            kStatusCommand, kBoardCommand,    kHelpCommand,
+const std::vector<Verb>& verbs() {
+    static const auto* table = new std::vector<Verb>{
+            kListVerb,    kDescribeVerb, kCallVerb,   kGetVerb,   kSetVerb,  kRawVerb,
+            kMonitorVerb, kBatchVerb,    kStatusVerb, kBoardVerb, kHelpVerb,
     };
     return *table;
 }
 
-const CommandDescription& requireCommand(const std::string& name) {
+const Verb& requireVerb(const std::string& name) {
     std::vector<std::string> names;
-    for (const CommandDescription& command : commandTable()) {
-        if (name == command.name) return command;
-        names.push_back(command.name);
+    for (const Verb& verb : verbs()) {
+        if (name == verb.name) return verb;
+        names.push_back(verb.name);
     }
     throw Failure(kBadUsage, "no command \"" + name + "\"" + didYouMean(name, names));
 }
@@ -63,15 +62,14 @@ int execute(Context& context, const std::vector<std::string>& words) {
     });
 }
 
-std::string synopsisOf(const CommandDescription& command) {
-    return command.name + std::string(*command.arguments != '\0' ? " " : "") + command.arguments;
+std::string synopsisOf(const Verb& verb) {
+    return verb.name + std::string(*verb.arguments != '\0' ? " " : "") + verb.arguments;
 }
 
-void requireCount(const CommandDescription& command, const Arguments& arguments, size_t least,
-                  size_t most) {
+void requireCount(const Verb& verb, const Arguments& arguments, size_t least, size_t most) {
     if (arguments.size() >= least && arguments.size() <= most) return;
     throw Failure(kBadUsage, std::string("too ") + (arguments.size() < least ? "few" : "many") +
-                                     " arguments; usage: tarnctl " + synopsisOf(command));
+                                     " arguments; usage: tarnctl " + synopsisOf(verb));
 }
 
 }  // namespace tarnctl

@@ -6,7 +6,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "registry/Value.h"
+#include "registry/ArgumentValue.h"
 
 namespace tarn::registry {
 
@@ -16,7 +16,7 @@ struct ParameterType {
     const char* words;  // for people: "int", "bool", "text", ...
 
     /** Reads a text; throws BadArgument, which names the argument. */
-    void (*read)(const std::string& name, const std::string& text, Value* value);
+    void (*read)(const std::string& name, const std::string& text, ArgumentValue* value);
 };
 
 extern const ParameterType kIntParameter;
@@ -38,80 +38,82 @@ struct Parameter;
 template <>
 struct Parameter<int> {
     static constexpr const ParameterType* kType = &kIntParameter;
-    static int from(const Value& value) { return static_cast<int>(value.number); }
+    static int from(const ArgumentValue& value) { return static_cast<int>(value.number); }
 };
 
 template <>
 struct Parameter<unsigned int> {
     static constexpr const ParameterType* kType = &kUnsignedParameter;
-    static unsigned int from(const Value& value) { return static_cast<unsigned int>(value.number); }
+    static unsigned int from(const ArgumentValue& value) {
+        return static_cast<unsigned int>(value.number);
+    }
 };
 
 template <>
 struct Parameter<bool> {
     static constexpr const ParameterType* kType = &kBoolParameter;
-    static bool from(const Value& value) { return value.flag; }
+    static bool from(const ArgumentValue& value) { return value.flag; }
 };
 
 template <>
 struct Parameter<float> {
     static constexpr const ParameterType* kType = &kFloatParameter;
-    static float from(const Value& value) { return value.real; }
+    static float from(const ArgumentValue& value) { return value.real; }
 };
 
 template <>
 struct Parameter<std::string> {
     static constexpr const ParameterType* kType = &kTextParameter;
-    static const std::string& from(const Value& value) { return value.text; }
+    static const std::string& from(const ArgumentValue& value) { return value.text; }
 };
 
 template <>
 struct Parameter<android::String16> {
     static constexpr const ParameterType* kType = &kTextParameter;
-    static android::String16 from(const Value& value);
+    static android::String16 from(const ArgumentValue& value);
 };
 
 template <>
 struct Parameter<const char*> {
     static constexpr const ParameterType* kType = &kTextParameter;
-    static const char* from(const Value& value) { return value.text.c_str(); }
+    static const char* from(const ArgumentValue& value) { return value.text.c_str(); }
 };
 
 /** The library does not write to such texts. */
 template <>
 struct Parameter<char*> {
     static constexpr const ParameterType* kType = &kTextParameter;
-    static char* from(Value& value) { return value.text.data(); }
+    static char* from(ArgumentValue& value) { return value.text.data(); }
 };
 
 template <>
 struct Parameter<std::vector<uint8_t>> {
     static constexpr const ParameterType* kType = &kBytesParameter;
-    static const std::vector<uint8_t>& from(const Value& value) { return value.bytes; }
+    static const std::vector<uint8_t>& from(const ArgumentValue& value) { return value.bytes; }
 };
 
 template <>
 struct Parameter<std::vector<int>> {
     static constexpr const ParameterType* kType = &kIntsParameter;
-    static std::vector<int>& from(Value& value) { return value.numbers; }
+    static std::vector<int>& from(ArgumentValue& value) { return value.numbers; }
 };
 
 template <>
 struct Parameter<std::vector<std::string>> {
     static constexpr const ParameterType* kType = &kTextsParameter;
-    static const std::vector<std::string>& from(const Value& value) { return value.texts; }
+    static const std::vector<std::string>& from(const ArgumentValue& value) { return value.texts; }
 };
 
 template <typename T>
 struct Parameter<T, std::enable_if_t<std::is_enum_v<T>>> {
     static constexpr const ParameterType* kType = &kIntParameter;
-    static T from(const Value& value) { return static_cast<T>(value.number); }
+    static T from(const ArgumentValue& value) { return static_cast<T>(value.number); }
 };
 
 template <typename T>
 struct Parameter<std::vector<T>, std::enable_if_t<std::is_enum_v<T>>> {
     static constexpr const ParameterType* kType = &kIntsParameter;
-    static std::vector<T> from(const Value& value) {
+    static std::vector<T> from(const ArgumentValue& value) {
         std::vector<T> list;
         for (const int32_t number : value.numbers) list.push_back(static_cast<T>(number));
         return list;
