@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 namespace android {
@@ -10,7 +11,7 @@ namespace android {
  * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
  * returns what its method says and logs an error line.
  */
-class IAiNoiseCtrl : public virtual RefBase {
+class TARN_EXPORT IAiNoiseCtrl : public virtual RefBase {
   public:
     /** Passes level on unchecked. Inverted: false when done, true when the call failed. */
     virtual bool setAiNoise(float level) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 namespace android {
@@ -10,7 +11,7 @@ namespace android {
  * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
  * returns -1.
  */
-class IAnionCtrl : public virtual RefBase {
+class TARN_EXPORT IAnionCtrl : public virtual RefBase {
   public:
     /** status is service-defined and passed on unchecked. Returns the service's status word. */
     virtual int setAnionStatus(int status) = 0;

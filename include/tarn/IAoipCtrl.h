@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -11,7 +12,7 @@ namespace android {
  * Calls block until the service has answered; any thread may call. An int result is the service's
  * status word, or -1 when the call failed (see ITarnManager). Arguments are passed on unchecked.
  */
-class IAoipCtrl : public virtual RefBase {
+class TARN_EXPORT IAoipCtrl : public virtual RefBase {
   public:
     /** Tells the unit the state of the call, a service-defined number. */
     virtual int setCallStatus(int status) = 0;

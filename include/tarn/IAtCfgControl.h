@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -14,7 +15,7 @@ namespace android {
  * Reading or installing a key also logs an error line when it fails. Keys and values are passed on
  * unchecked, in a service-defined form; char texts are UTF-8 and must not be null.
  */
-class IAtCfgControl : public virtual RefBase {
+class TARN_EXPORT IAtCfgControl : public virtual RefBase {
   public:
     /** The Widevine keybox as text. The name is spelt so. */
     virtual String16 readWidevinevKey() = 0;

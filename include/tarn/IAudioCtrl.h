@@ -1,6 +1,7 @@
 #pragma once
 
 #include <binder/Parcel.h>
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -19,7 +20,7 @@ enum _EnumChannelType_ : int32_t {};
  * be told from a failure. Arguments are passed on unchecked. Scales, modes and the numbers of
  * bands, amplifiers and outputs are service-defined.
  */
-class IAudioCtrl : public virtual RefBase {
+class TARN_EXPORT IAudioCtrl : public virtual RefBase {
   public:
     /** Master volume, on a service-defined scale. */
     virtual int getVolume() = 0;

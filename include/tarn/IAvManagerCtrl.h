@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -55,7 +56,7 @@ struct AvSignalFormat {
  * channels, devices, algorithms and presets are service-defined. The controller logs nothing of its
  * own.
  */
-class IAvManagerCtrl : public virtual RefBase {
+class TARN_EXPORT IAvManagerCtrl : public virtual RefBase {
   public:
     /** Initialises the unit; the outcome is service-defined. */
     virtual int init() = 0;

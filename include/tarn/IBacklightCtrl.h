@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 namespace android {
@@ -11,7 +12,7 @@ namespace android {
  * returns -1 or false. An int result is the service's status word: a getter's value or a setter's
  * outcome. All levels are on a service-defined scale and passed on unchecked.
  */
-class IBacklightCtrl : public virtual RefBase {
+class TARN_EXPORT IBacklightCtrl : public virtual RefBase {
   public:
     /** Screen brightness; the backlight's real level is getScreenRealBrightness(). */
     virtual int getScreenBrightness() = 0;

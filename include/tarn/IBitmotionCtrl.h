@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -14,7 +15,7 @@ namespace android {
  * returns -1, false or an empty text. An int result is the service's status word, a bool result its
  * answer. Arguments are passed on unchecked.
  */
-class IBitmotionCtrl : public virtual RefBase {
+class TARN_EXPORT IBitmotionCtrl : public virtual RefBase {
   public:
     // First, unlike in the other interfaces: its place in the table of virtual operations.
     virtual ~IBitmotionCtrl() = default;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 namespace android {
@@ -10,7 +11,7 @@ namespace android {
  * Calls block until the service has answered; any thread may call. A bool result is the service's
  * answer, or false when the call failed (see ITarnManager).
  */
-class IBluetoothCtrl : public virtual RefBase {
+class TARN_EXPORT IBluetoothCtrl : public virtual RefBase {
   public:
     /** True when Bluetooth Low Energy may wake the board up. */
     virtual bool isBleWakeup() = 0;

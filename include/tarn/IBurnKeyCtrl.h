@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -33,7 +34,7 @@ struct EntitySwKey {
  * setBurnKey() and setCleanBurnKey() are true. Keys are passed on unchecked, in a service-defined
  * form.
  */
-class IBurnKeyCtrl : public virtual RefBase {
+class TARN_EXPORT IBurnKeyCtrl : public virtual RefBase {
   public:
     /**
      * Replaces the contents of *list with the supported kinds and returns true; when the call

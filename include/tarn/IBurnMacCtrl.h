@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -31,7 +32,7 @@ struct EntitySwMac {
  * ITarnManager) returns differs: see each method. Addresses are passed on unchecked, in a
  * service-defined form.
  */
-class IBurnMacCtrl : public virtual RefBase {
+class TARN_EXPORT IBurnMacCtrl : public virtual RefBase {
   public:
     /**
      * Replaces the contents of *list with the supported slots and returns true; when the call

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -43,7 +44,7 @@ struct EntityFwCamera {
  * a name, an information record or a serial number also logs an error line when it fails. Camera
  * numbers and types are service-defined and passed on unchecked.
  */
-class ICameraCtrl : public virtual RefBase {
+class TARN_EXPORT ICameraCtrl : public virtual RefBase {
   public:
     /** True when the cameras as a whole are enabled; single types: isCameraEnabled(). */
     virtual bool getCameraEnable() = 0;

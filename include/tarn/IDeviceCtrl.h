@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -24,7 +25,7 @@ enum _EnumUsbSWFollowConfig : int32_t {};
  * The USB switches move a part of the shared hub to a host. A setter returns the first number
  * after the status, whose meaning is service-defined; a getter returns the second one, the host.
  */
-class IDeviceCtrl : public virtual RefBase {
+class TARN_EXPORT IDeviceCtrl : public virtual RefBase {
   public:
     /** The list of devices as one service-defined number. */
     virtual int getDeviceList() = 0;

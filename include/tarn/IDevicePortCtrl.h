@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -14,7 +15,7 @@ namespace android {
  * ITarnManager) returns differs: see each method. Port names are passed on unchecked; char names
  * are UTF-8 and must not be null.
  */
-class IDevicePortCtrl : public virtual RefBase {
+class TARN_EXPORT IDevicePortCtrl : public virtual RefBase {
   public:
     /**
      * Enables or disables a port. Returns the service's answer, 0 (false) or 1 (true), or -1 when

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 namespace android {
@@ -10,7 +11,7 @@ namespace android {
  * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
  * returns -1.
  */
-class IEasyTouch : public virtual RefBase {
+class TARN_EXPORT IEasyTouch : public virtual RefBase {
   public:
     /** The feature's log information: one service-defined number, the service's status word. */
     virtual int getEasyTouchLogInfo() = 0;

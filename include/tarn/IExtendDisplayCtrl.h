@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -18,7 +19,7 @@ namespace android {
  * passed on unchecked. States and the spelling of resolutions and colour formats are
  * service-defined; std::string texts are UTF-8.
  */
-class IExtendDisplayCtrl : public virtual RefBase {
+class TARN_EXPORT IExtendDisplayCtrl : public virtual RefBase {
   public:
     /** HDCP state of the USB-C output, a service-defined number. */
     virtual int getTypecOutHDCPStatus() = 0;

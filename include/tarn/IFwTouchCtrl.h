@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -64,7 +65,7 @@ struct TouchFwDataList {
  * contents of *out and returns true; when the call failed (see ITarnManager) *out is empty and the
  * result false. out must not be null.
  */
-class IFwTouchCtrl : public virtual RefBase {
+class TARN_EXPORT IFwTouchCtrl : public virtual RefBase {
   public:
     /** Lists the touch devices. */
     virtual bool getFwTouchList(std::vector<EntityFwTouch>* out) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -32,7 +33,7 @@ namespace android {
  * returns false or an empty text. type is the service-defined number of a target and passed on
  * unchecked; the form of the texts is service-defined.
  */
-class IFwUpgrade : public virtual RefBase {
+class TARN_EXPORT IFwUpgrade : public virtual RefBase {
   public:
     /**
      * Starts the upgrade of a target; returns the service's answer. path is passed on as text, the

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -20,7 +21,7 @@ using TARN_BOOL = int32_t;
  * number that the pointer gives, which must not be null and is 0 after a failure. Pin numbers are
  * service-defined and passed on unchecked.
  */
-class IGpioCtrl : public virtual RefBase {
+class TARN_EXPORT IGpioCtrl : public virtual RefBase {
   public:
     /** Makes a pin an input. */
     virtual int setGpioDirInput(unsigned int gpio) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -33,7 +34,7 @@ struct EntityFwIoBox {
  * Calls block until the service has answered; any thread may call. What a failed call (see
  * ITarnManager) returns is said at each method; it also logs an error line.
  */
-class IIoBoxCtrl : public virtual RefBase {
+class TARN_EXPORT IIoBoxCtrl : public virtual RefBase {
   public:
     /**
      * A box's connection state: 2 is unknown, also when the call failed; the rest is

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -11,7 +12,7 @@ namespace android {
  * Calls block until the service has answered; any thread may call. What a failed call (see
  * ITarnManager) returns differs between the two methods. Arguments are passed on unchecked.
  */
-class IKeyboardCtrl : public virtual RefBase {
+class TARN_EXPORT IKeyboardCtrl : public virtual RefBase {
   public:
     /** True when a keyboard of that name is present; false also when the call failed. */
     virtual bool getKeyboardByName(String16 name) = 0;

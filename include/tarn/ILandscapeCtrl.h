@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <string>
@@ -13,7 +14,7 @@ namespace android {
  * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
  * returns false or an empty list and logs an error line.
  */
-class ILandscapeCtrl : public virtual RefBase {
+class TARN_EXPORT ILandscapeCtrl : public virtual RefBase {
   public:
     /** Replaces the whole list; an empty one is sent too. Returns the service's answer. */
     virtual bool setLandscapeAppList(std::vector<std::string> apps) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -18,7 +19,7 @@ enum _EnumLightEffectMode : int32_t {};
  * Calls block until the service has answered; any thread may call. A bool result is the service's
  * answer, or false when the call failed (see ITarnManager).
  */
-class ILightEffectCtrl : public virtual RefBase {
+class TARN_EXPORT ILightEffectCtrl : public virtual RefBase {
   public:
     /** Gives one device an effect; both are passed on unchecked. */
     virtual bool setLightEffectMode(_EnumLightDeviceType device, _EnumLightEffectMode mode) = 0;

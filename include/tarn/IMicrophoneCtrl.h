@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -32,7 +33,7 @@ struct EntityMicrophone {
  * answer, or false when the call failed (see ITarnManager). Microphone numbers are service-defined
  * and passed on unchecked.
  */
-class IMicrophoneCtrl : public virtual RefBase {
+class TARN_EXPORT IMicrophoneCtrl : public virtual RefBase {
   public:
     /**
      * Gives no data: sends its command, empties *list, reads no records and always returns 1. list

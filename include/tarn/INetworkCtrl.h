@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -14,7 +15,7 @@ namespace android {
  * unless noted, a bool result is the service's answer. Arguments are passed on unchecked: addresses
  * travel as text and are not parsed.
  */
-class INetworkCtrl : public virtual RefBase {
+class TARN_EXPORT INetworkCtrl : public virtual RefBase {
   public:
     /** Switches one Ethernet port; port numbers are service-defined. */
     virtual int SetEthernetEnable(int port, bool on) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <tarn/TarnTypes.h>
 #include <utils/RefBase.h>
 
@@ -32,7 +33,7 @@ struct PresetColorTempValues {
  * is the service's answer. Arguments are passed on unchecked; scales, units and modes are
  * service-defined.
  */
-class IPQCtrl : public virtual RefBase {
+class TARN_EXPORT IPQCtrl : public virtual RefBase {
   public:
     /** True when DCR, dynamic contrast by backlight, is on. */
     virtual bool getDCREnable() = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -19,7 +20,7 @@ enum _EnumPcBootMode : int32_t {
  * ITarnManager) returns -1, false or an empty list, an int result is the service's status word, and
  * a bool result is the service's answer.
  */
-class IPcModuleCtrl : public virtual RefBase {
+class TARN_EXPORT IPcModuleCtrl : public virtual RefBase {
   public:
     /**
      * Returns the module's power state, service-defined. When the call failed or its answer holds

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <tarn/TarnTypes.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
@@ -15,7 +16,7 @@ namespace android {
  * returns -1, false or an empty text. An int result is the service's status word. Arguments are
  * passed on unchecked.
  */
-class IPmsCtrl : public virtual RefBase {
+class TARN_EXPORT IPmsCtrl : public virtual RefBase {
   public:
     /** Returns what woke the board, a service-defined code. */
     virtual int getWakeupSrc() = 0;

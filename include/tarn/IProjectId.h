@@ -1,6 +1,7 @@
 #pragma once
 
 #include <binder/Parcel.h>
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -38,7 +39,7 @@ enum _EnumProjectId_ : int32_t {
  * and in a service-defined layout, and return 0. When the call failed they return -1 and leave it
  * as it was; an empty reply leaves it too, but returns 0.
  */
-class IProjectId : public virtual RefBase {
+class TARN_EXPORT IProjectId : public virtual RefBase {
   public:
     /** Selects the project, 0 to 13. Any other sends nothing, logs an error line, returns -1. */
     virtual int setProjectIdByIndex(_EnumProjectId_ index) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 namespace android {
@@ -10,7 +11,7 @@ namespace android {
  * Calls block until the service has answered; any thread may call. Keys, defaults and values that
  * are sent are UTF-8, passed on unchecked, and must not be null.
  */
-class IPropertiesCtrl : public virtual RefBase {
+class TARN_EXPORT IPropertiesCtrl : public virtual RefBase {
   public:
     /**
      * Sends key and default_value, but drops the answer: value is left alone, and the result is

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -17,7 +18,7 @@ enum _EnumVaLedState_ : int32_t {};
  * is the service's answer. Arguments are passed on unchecked; states and LED numbers are
  * service-defined.
  */
-class IRGBLedCtrl : public virtual RefBase {
+class TARN_EXPORT IRGBLedCtrl : public virtual RefBase {
   public:
     /** Shows a power state of the board. */
     virtual int setPowerState(int state) = 0;

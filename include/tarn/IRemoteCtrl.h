@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -11,7 +12,7 @@ namespace android {
  * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
  * returns false, unless noted. Keys and values are service-defined and passed on unchecked.
  */
-class IRemoteCtrl : public virtual RefBase {
+class TARN_EXPORT IRemoteCtrl : public virtual RefBase {
   public:
     /** Switches the remote control off until enableRemoteCtrl(); returns the service's answer. */
     virtual bool disableRemoteCtrl() = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -13,7 +14,7 @@ namespace android {
  * result is otherwise the service's answer. Port numbers are passed on unchecked; they and the
  * forms of the texts are service-defined.
  */
-class IRs232Ctrl : public virtual RefBase {
+class TARN_EXPORT IRs232Ctrl : public virtual RefBase {
   public:
     /** Returns the state of one USB port at the front. */
     virtual String16 getSmartRs232FrontUsb(int port) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -29,7 +30,7 @@ struct EntitySensorBox {
  *
  * Calls block until the service has answered; any thread may call.
  */
-class ISensorBoxCtrl : public virtual RefBase {
+class TARN_EXPORT ISensorBoxCtrl : public virtual RefBase {
   public:
     /**
      * Asks for the boxes' firmware, but reads no list back: *out is empty afterwards, the result

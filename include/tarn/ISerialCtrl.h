@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -17,7 +18,7 @@ enum _EnumSerialDevice_ : int32_t {};
  * returns -1; the bool results differ in their sense, and each method says its own. Arguments are
  * passed on unchecked.
  */
-class ISerialCtrl : public virtual RefBase {
+class TARN_EXPORT ISerialCtrl : public virtual RefBase {
   public:
     /** Switches a port, with a service-defined parameter. True unless the call failed. */
     virtual bool SetSerialSwitch(_EnumSerialDevice_ device, bool on, int param) = 0;

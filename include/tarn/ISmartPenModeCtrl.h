@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -18,7 +19,7 @@ enum _EnumSmartPenMode : int32_t {
  * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
  * returns an empty list, false or the fallback.
  */
-class ISmartPenModeCtrl : public virtual RefBase {
+class TARN_EXPORT ISmartPenModeCtrl : public virtual RefBase {
   public:
     /** Returns the modes that the board supports, in the service's order. */
     virtual std::vector<_EnumSmartPenMode> getSupportSmartPenModeList() = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -21,7 +22,7 @@ struct SoundScreenAngle {
  * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
  * logs an error line.
  */
-class ISoundScreenAngleCtrl : public virtual RefBase {
+class TARN_EXPORT ISoundScreenAngleCtrl : public virtual RefBase {
   public:
     /**
      * Sets both angles, passed on unchecked. True when the status is not 0, so also when the call

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 namespace android {
@@ -11,7 +12,7 @@ namespace android {
  * status word, -1 when the call failed (see ITarnManager). Arguments are passed on unchecked; the
  * numbers of sources, ports and EDID versions are service-defined.
  */
-class ISourceCtrl : public virtual RefBase {
+class TARN_EXPORT ISourceCtrl : public virtual RefBase {
   public:
     /** Returns a number, not a list: a count or handle that is service-defined. */
     virtual int getChannelList() = 0;

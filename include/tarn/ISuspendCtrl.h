@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 namespace android {
@@ -10,7 +11,7 @@ namespace android {
  * Calls block until the service has answered; any thread may call. A failed call (see ITarnManager)
  * returns -1 or false; otherwise an int result is 0, and a bool result is the service's answer.
  */
-class ISuspendCtrl : public virtual RefBase {
+class TARN_EXPORT ISuspendCtrl : public virtual RefBase {
   public:
     /** True when the board is in the suspend state. */
     virtual bool getSuspendStatus() = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -44,7 +45,7 @@ enum _EnumCecCtlType_ : int32_t {};
  * a bool result is the service's answer. Unless noted, arguments are passed on unchecked; units,
  * modes, states and numbers are service-defined.
  */
-class ISystemCtrl : public virtual RefBase {
+class TARN_EXPORT ISystemCtrl : public virtual RefBase {
   public:
     /** Sets the SELinux mode. Any but the three sends nothing, logs an error line, returns -1. */
     virtual int setSelinuxMode(_EnumSelinuxMode_ mode) = 0;

@@ -2,6 +2,7 @@
 
 #include <binder/IInterface.h>
 #include <binder/Parcel.h>
+#include <tarn/Export.h>
 #include <utils/Mutex.h>
 
 namespace android {
@@ -11,7 +12,7 @@ namespace android {
  *
  * The meta-interface is written out by hand: the platform's macro differs between releases.
  */
-class ITarnClient : public IInterface {
+class TARN_EXPORT ITarnClient : public IInterface {
   public:
     static const String16 descriptor;
     static sp<ITarnClient> default_impl;
@@ -52,7 +53,7 @@ class ITarnClient : public IInterface {
  * delivered one at a time in the whole process; without the right interface token it gets
  * PERMISSION_DENIED.
  */
-class BnTarnClient : public BnInterface<ITarnClient> {
+class TARN_EXPORT BnTarnClient : public BnInterface<ITarnClient> {
   public:
     status_t onTransact(uint32_t code, const Parcel& data, Parcel* reply,
                         uint32_t flags = 0) override;
@@ -70,7 +71,7 @@ class BnTarnClient : public BnInterface<ITarnClient> {
 };
 
 /** The sending side, for a client in another process. */
-class BpTarnClient : public BpInterface<ITarnClient> {
+class TARN_EXPORT BpTarnClient : public BpInterface<ITarnClient> {
   public:
     explicit BpTarnClient(const sp<IBinder>& remote);
 

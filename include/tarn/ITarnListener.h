@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tarn/Export.h>
+
 namespace android {
 class Parcel;
 }
@@ -8,7 +10,7 @@ class Parcel;
  * An application's listener for the board's events; see ITarnManager::registerListener(). The
  * library does not own it: keep it alive until it is unregistered and no event is being delivered.
  */
-class ITarnListener {
+class TARN_EXPORT ITarnListener {
   public:
     /**
      * Called for every event on the library's event thread, with no library lock held: it may issue

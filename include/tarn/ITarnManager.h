@@ -1,6 +1,7 @@
 #pragma once
 
 #include <binder/Parcel.h>
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 class ITarnListener;
@@ -73,7 +74,7 @@ class IXbugCtrl;
  * one longer wraps the pointer in an sp<> of its own. Accessors don't wait for each other, except
  * getCameraCtrl(), getSensorBoxCtrl(), getIoBoxCtrl() and getSerialCtrl(), which share a lock.
  */
-class ITarnManager : public virtual RefBase {
+class TARN_EXPORT ITarnManager : public virtual RefBase {
   public:
     /**
      * Sends one command: an int32 code and its arguments, without an interface token. An empty

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <tarn/Export.h>
+
 namespace android {
 
 /**
  * The platform side of the binder service: notifications for its clients come in here, on any
  * thread.
  */
-class ITarnPlatform {
+class TARN_EXPORT ITarnPlatform {
   public:
     /** Always returns -1: the service has nothing to start. */
     virtual int initTv() const = 0;

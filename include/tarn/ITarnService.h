@@ -2,6 +2,7 @@
 
 #include <binder/IInterface.h>
 #include <binder/Parcel.h>
+#include <tarn/Export.h>
 #include <tarn/ITarnClient.h>
 #include <utils/Mutex.h>
 
@@ -12,7 +13,7 @@ namespace android {
  *
  * The meta-interface is written out by hand: the platform's macro differs between releases.
  */
-class ITarnService : public IInterface {
+class TARN_EXPORT ITarnService : public IInterface {
   public:
     static const String16 descriptor;
     static sp<ITarnService> default_impl;
@@ -54,7 +55,7 @@ class ITarnService : public IInterface {
  * The receiving side; called on binder threads of the process, several at once. A call without the
  * right interface token gets PERMISSION_DENIED.
  */
-class BnTarnService : public BnInterface<ITarnService> {
+class TARN_EXPORT BnTarnService : public BnInterface<ITarnService> {
   public:
     status_t onTransact(uint32_t code, const Parcel& data, Parcel* reply,
                         uint32_t flags = 0) override;
@@ -65,7 +66,7 @@ class BnTarnService : public BnInterface<ITarnService> {
 };
 
 /** The sending side, for a service in another process. */
-class BpTarnService : public BpInterface<ITarnService> {
+class TARN_EXPORT BpTarnService : public BpInterface<ITarnService> {
   public:
     explicit BpTarnService(const sp<IBinder>& remote);
 

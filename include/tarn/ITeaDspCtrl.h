@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <string>
@@ -14,7 +15,7 @@ namespace android {
  * bool result is the service's answer. Arguments are passed on unchecked; device numbers, route
  * modes, states and the contents of texts are service-defined. Texts are UTF-8.
  */
-class ITeaDspCtrl : public virtual RefBase {
+class TARN_EXPORT ITeaDspCtrl : public virtual RefBase {
   public:
     /** Switches the microphone algorithm. */
     virtual bool setTeaMicAlgorithm(bool on) = 0;

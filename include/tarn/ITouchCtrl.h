@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -49,7 +50,7 @@ enum EnumPcKeyEventAction : int32_t {};
  * a bool result is the service's answer. Arguments are passed on unchecked; modes, states,
  * coordinates, key codes and the forms of texts are service-defined.
  */
-class ITouchCtrl : public virtual RefBase {
+class TARN_EXPORT ITouchCtrl : public virtual RefBase {
   public:
     /** Returns the state of the mouse cursor's fading. */
     virtual int getMouseFadeState() = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 #include <cstdint>
@@ -20,7 +21,7 @@ enum _EnumTxbMaterialType_ : int32_t {};
  * or null values is not sent and counts as a status of 0. Arguments are passed on unchecked;
  * numbers, units and states are service-defined.
  */
-class ITxbCtrl : public virtual RefBase {
+class TARN_EXPORT ITxbCtrl : public virtual RefBase {
   public:
     /** Sends a key. */
     virtual bool sendTxbKeycode(_EnumTxbKeyType_ key) = 0;

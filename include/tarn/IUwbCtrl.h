@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 #include <utils/String16.h>
 
@@ -13,7 +14,7 @@ namespace android {
  * is otherwise the service's status word. Arguments are passed on unchecked; scales, states and the
  * forms of texts are service-defined.
  */
-class IUwbCtrl : public virtual RefBase {
+class TARN_EXPORT IUwbCtrl : public virtual RefBase {
   public:
     /** Returns the dongle's version as text. */
     virtual String16 getUwbDongleVersion() = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <utils/RefBase.h>
 
 namespace android {
@@ -11,7 +12,7 @@ namespace android {
  * status word, -1 when the call failed (see ITarnManager). Arguments are passed on unchecked; items
  * and the scales of their values are service-defined.
  */
-class IVgaAdjust : public virtual RefBase {
+class TARN_EXPORT IVgaAdjust : public virtual RefBase {
   public:
     /** Sets the value of one item. */
     virtual int setvgaAdjustData(int item, int value) = 0;

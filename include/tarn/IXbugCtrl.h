@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <tarn/TarnLog.h>
 #include <utils/RefBase.h>
 
@@ -15,7 +16,7 @@ namespace android {
  * returns -1, false or an empty text. An int result is the service's status word; a bool result is
  * the service's answer. Arguments are passed on unchecked.
  */
-class IXbugCtrl : public virtual RefBase {
+class TARN_EXPORT IXbugCtrl : public virtual RefBase {
   public:
     /** Sets the log level of the service; the library's own is setLogLevel()'s. */
     virtual int setTarnServiceLogLevel(_TARN_LOG_PRIO_E_ level) = 0;

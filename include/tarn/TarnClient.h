@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <tarn/ITarnClient.h>
 #include <tarn/ITarnService.h>
 #include <utils/Mutex.h>
@@ -8,7 +9,7 @@
 namespace android {
 
 /** Where an application receives the notifications of "tarn.service". */
-class ITarnClientCallback : public virtual RefBase {
+class TARN_EXPORT ITarnClientCallback : public virtual RefBase {
   public:
     /**
      * Receives one notification. When the service is in another process, this is called on a binder
@@ -30,7 +31,7 @@ class ITarnClientCallback : public virtual RefBase {
  * the reference is there already, client is not registered. The reference is dropped when the
  * service dies: a caller that may see that happen uses a TarnClient instead. Any thread may call.
  */
-const sp<ITarnService>& getTarnService(const ITarnClient* client);
+TARN_EXPORT const sp<ITarnService>& getTarnService(const ITarnClient* client);
 
 /**
  * An application's client of "tarn.service"; any thread may call. Hold it in an sp<> from the
@@ -39,7 +40,7 @@ const sp<ITarnService>& getTarnService(const ITarnClient* client);
  * Each call finds the service by itself, a restarted one too. The client whose call found it is
  * registered with it; every other one gets its notifications only after a connect() of its own.
  */
-class TarnClient : public BnTarnClient {
+class TARN_EXPORT TarnClient : public BnTarnClient {
   public:
     /** @param callback where notifications go; null drops them. */
     explicit TarnClient(const sp<ITarnClientCallback>& callback = nullptr);

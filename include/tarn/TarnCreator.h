@@ -1,12 +1,13 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <tarn/ITarnManager.h>
 #include <utils/Mutex.h>
 
 namespace android {
 
 /** Where an application gets its manager from. */
-class TarnCreator {
+class TARN_EXPORT TarnCreator {
   public:
     /**
      * Returns the process's manager, created on the first call: never null, owned by the library

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tarn/Export.h>
+
 /**
  * Log levels; their values are the Android log priorities of the same name. Lines of some levels
  * are coloured by escape sequences in their text.
@@ -24,7 +26,7 @@ extern "C" {
  * this itself: an application that wants the persisted level calls it once at start-up. Any thread
  * may call this and the functions below.
  */
-void Tarn_Log_Init(void);
+TARN_EXPORT void Tarn_Log_Init(void);
 
 /**
  * Writes "[function:line] message" to the Android log; a message is cut after 1023 characters.
@@ -34,8 +36,8 @@ void Tarn_Log_Init(void);
  * @param tag   the line's tag; null drops the line.
  * @return 0 when the line was written, -1 when it was dropped.
  */
-int TarnLog(unsigned int level, const char* tag, const char* function, int line, const char* format,
-            ...) __attribute__((format(printf, 5, 6)));
+TARN_EXPORT int TarnLog(unsigned int level, const char* tag, const char* function, int line,
+                        const char* format, ...) __attribute__((format(printf, 5, 6)));
 
 /**
  * Sets the filter level of this process and persists its name in the property
@@ -44,9 +46,9 @@ int TarnLog(unsigned int level, const char* tag, const char* function, int line,
  * @param level TARN_LOG_UNKNOWN (0) to TARN_LOG_FATAL (7).
  * @return 0, or -1 for any other level, which changes nothing.
  */
-int setLogLevel(unsigned int level);
+TARN_EXPORT int setLogLevel(unsigned int level);
 
 /** Returns the default level for which = 1, the current filter level for which = 2, else -1. */
-int getLogLevel(int which);
+TARN_EXPORT int getLogLevel(int which);
 
 }  // extern "C"

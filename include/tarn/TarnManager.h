@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <tarn/ITarnManager.h>
 #include <utils/Mutex.h>
 #include <utils/StrongPointer.h>
@@ -17,7 +18,7 @@ class HwTarnClient;
  * A derived manager may override invoke() to see, record or answer every command. A controller and
  * its manager hold each other: once an accessor has been called, the manager is never destroyed.
  */
-class TarnManager : virtual public ITarnManager {
+class TARN_EXPORT TarnManager : virtual public ITarnManager {
   public:
     /** Looks the hardware service up once; it need not be there yet. */
     TarnManager();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tarn/Export.h>
 #include <tarn/ITarnPlatform.h>
 #include <tarn/ITarnService.h>
 #include <utils/Mutex.h>
@@ -11,7 +12,7 @@ namespace android {
  * The platform side of the published service; null before instantiate(), after deinstantiate() and
  * after the service's end.
  */
-extern ITarnPlatform* sTarnPlatform;
+TARN_EXPORT extern ITarnPlatform* sTarnPlatform;
 
 /**
  * The service of "tarn.service": keeps its clients forever, each once and dead ones too, and sends
@@ -20,7 +21,7 @@ extern ITarnPlatform* sTarnPlatform;
  * Clients in other processes call it on binder threads of this process, several at once. Any thread
  * may call its platform side; notifications go out one at a time, on the thread that raises them.
  */
-class TarnService : public BnTarnService, public ITarnPlatform {
+class TARN_EXPORT TarnService : public BnTarnService, public ITarnPlatform {
   public:
     /**
      * Creates a service and publishes it as "tarn.service", not for isolated processes;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <stdlib.h>
+#include <tarn/TarnManager.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -12,7 +13,6 @@
 #include <sstream>
 #include <thread>
 
-#include "core/HwTarnClient.h"
 #include "host/HostServiceManager.h"
 #include "registry/Registry.h"
 #include "tests/support/FakeHwTarn.h"
@@ -83,7 +83,8 @@ class Tarnctl : public testing::Test {
 
     static void forgetServices() {
         android::host::removeAllServices();
-        android::mHwTarnService.clear();
+        // The end of any manager drops the process's reference to the hardware service.
+        android::sp<android::ITarnManager>(new android::TarnManager).clear();
     }
 
     const std::string mBoardFile;

@@ -1,12 +1,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <tarn/TarnManager.h>
 #include <unistd.h>
 
 #include <fstream>
 #include <sstream>
 
-#include "core/HwTarnClient.h"
 #include "host/HostServiceManager.h"
 #include "tools/tarnctl/Run.h"
 
@@ -49,7 +49,8 @@ Ran runLines(const std::string& lines) {
     std::ostringstream err;
     const int code = tarnctl::run({"-q", "-k", "batch"}, tarnctl::Streams{in, out, err});
     android::host::removeAllServices();
-    android::mHwTarnService.clear();
+    // The end of any manager drops the process's reference to the hardware service.
+    android::sp<android::ITarnManager>(new android::TarnManager).clear();
     return Ran{code, out.str(), err.str()};
 }
 
