@@ -1,5 +1,6 @@
 #include <binder/Binder.h>
 #include <binder/IServiceManager.h>
+#include <binder/ProcessState.h>
 #include <fcntl.h>
 #include <sdbus-c++/sdbus-c++.h>
 #include <spawn.h>
@@ -81,6 +82,7 @@ class Counter : public android::BBinder {
 int serve() {
     const sp<EchoBoard> board = new EchoBoard;
     if (board->registerAsService() != android::OK) return 1;
+    android::ProcessState::self()->startThreadPool();
     android::defaultServiceManager()->addService(String16(kCounterName), new Counter);
 
     const auto connection = sdbus::createSessionBusConnection(kBareName);

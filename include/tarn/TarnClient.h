@@ -37,8 +37,15 @@ TARN_EXPORT const sp<ITarnService>& getTarnService(const ITarnClient* client);
  * An application's client of "tarn.service"; any thread may call. Hold it in an sp<> from the
  * start.
  *
- * Each call finds the service by itself, a restarted one too. The client whose call found it is
- * registered with it; every other one gets its notifications only after a connect() of its own.
+ * Notifications, and the news that the service died, come on binder threads of the process. The
+ * library starts none: the process has to call ProcessState::self()->startThreadPool() first.
+ * Without it no notification comes, and after the service's end every invoke() returns DEAD_OBJECT
+ * (-32), also when the service is back.
+ *
+ * Each call finds the service by itself, a restarted one too; nothing happens between calls, so
+ * after a restart no notification comes before the next connect() or invoke(). The client whose
+ * call found it is registered with it; every other one gets its notifications only after a
+ * connect() of its own.
  */
 class TARN_EXPORT TarnClient : public BnTarnClient {
   public:

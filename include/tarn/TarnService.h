@@ -18,15 +18,20 @@ TARN_EXPORT extern ITarnPlatform* sTarnPlatform;
  * The service of "tarn.service": keeps its clients forever, each once and dead ones too, and sends
  * every notification of its platform side to all of them.
  *
- * Clients in other processes call it on binder threads of this process, several at once. Any thread
+ * Clients in other processes call it on binder threads of this process, several at once. The
+ * library starts none: the process has to call ProcessState::self()->startThreadPool(), best before
+ * instantiate(), or IPCThreadState::self()->joinThreadPool(); until then the published service
+ * answers nobody, and whoever connects waits. Any thread
  * may call its platform side; notifications go out one at a time, on the thread that raises them.
+ * One that is too large for the transport is lost without a sign.
  */
 class TARN_EXPORT TarnService : public BnTarnService, public ITarnPlatform {
   public:
     /**
      * Creates a service and publishes it as "tarn.service", not for isolated processes;
-     * sTarnPlatform is its platform side. When it can't be published it is gone again, and
-     * sTarnPlatform null.
+     * sTarnPlatform is its platform side. When the service manager refuses it, as a device does
+     * where a rule for the name is missing, it is gone again and sTarnPlatform null; nothing else
+     * tells, so test sTarnPlatform.
      */
     static void instantiate();
 

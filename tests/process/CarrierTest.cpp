@@ -45,7 +45,14 @@ int publish(const std::string& name, const sp<IBinder>& service) {
     return android::defaultServiceManager()->addService(String16(name.c_str()), service);
 }
 
+// The tests' own process serves: what it lends is called, and it is told of deaths.
+class Carrier : public testing::Test {
+  protected:
+    static void SetUpTestSuite() { android::ProcessState::self()->startThreadPool(); }
+};
+
 CHILD(desk) {
+    android::ProcessState::self()->startThreadPool();
     if (publish(arguments[0], new Desk) != NO_ERROR) return 1;
     return serveUntilClosed();
 }
@@ -79,7 +86,7 @@ class Recipient : public IBinder::DeathRecipient {
     std::vector<wp<IBinder>> mDead;
 };
 
-TEST(Carrier, ReachesAServiceOfAnotherProcess) {
+TEST_F(Carrier, ReachesAServiceOfAnotherProcess) {
     RemoteDesk desk("tarn.test.desk");
     EXPECT_EQ(nullptr, desk.client.binder()->localBinder());
     EXPECT_EQ(NO_ERROR, desk.client.binder()->pingBinder());
@@ -89,7 +96,7 @@ TEST(Carrier, ReachesAServiceOfAnotherProcess) {
     EXPECT_EQ((std::vector<uint8_t>{1, 2, 0, 3}), back);
 }
 
-TEST(Carrier, ReportsTheStatusOfTheOtherSide) {
+TEST_F(Carrier, ReportsTheStatusOfTheOtherSide) {
     RemoteDesk desk("tarn.test.desk");
     Parcel data;
     Parcel reply;
@@ -97,7 +104,7 @@ TEST(Carrier, ReportsTheStatusOfTheOtherSide) {
     EXPECT_EQ(NO_ERROR, desk.client.binder()->pingBinder());
 }
 
-TEST(Carrier, TellsTheServiceWhoCalls) {
+TEST_F(Carrier, TellsTheServiceWhoCalls) {
     RemoteDesk desk("tarn.test.desk");
     Parcel data;
     Parcel reply;
@@ -107,11 +114,11 @@ TEST(Carrier, TellsTheServiceWhoCalls) {
     EXPECT_EQ(desk.process.pid(), reply.readInt32());
 }
 
-TEST(Carrier, FindsNoServiceThatIsNotThere) {
+TEST_F(Carrier, FindsNoServiceThatIsNotThere) {
     EXPECT_EQ(nullptr, find("tarn.test.nobody").get());
 }
 
-TEST(Carrier, KeepsServicesOfSimilarNamesApart) {
+TEST_F(Carrier, KeepsServicesOfSimilarNamesApart) {
     const std::vector<std::string> names = {"a.b",
                                             "a/b",
                                             "a@b",
@@ -148,7 +155,7 @@ TEST(Carrier, KeepsServicesOfSimilarNamesApart) {
     }
 }
 
-TEST(Carrier, GivesANameToWhoAddsItLast) {
+TEST_F(Carrier, GivesANameToWhoAddsItLast) {
     RemoteDesk first("tarn.test.desk");
     EXPECT_EQ(NO_ERROR, first.client.note(1));
     RemoteDesk second("tarn.test.desk");
@@ -163,7 +170,7 @@ TEST(Carrier, GivesANameToWhoAddsItLast) {
     EXPECT_EQ(nullptr, find("tarn.test.desk").get());
 }
 
-TEST(Carrier, ForgetsItsOwnServiceThatAnotherProcessReplaced) {
+TEST_F(Carrier, ForgetsItsOwnServiceThatAnotherProcessReplaced) {
     const sp<Desk> mine = new Desk;
     ASSERT_EQ(NO_ERROR, publish("tarn.test.desk", mine));
     EXPECT_EQ(mine, find("tarn.test.desk"));
@@ -180,14 +187,14 @@ TEST(Carrier, ForgetsItsOwnServiceThatAnotherProcessReplaced) {
     EXPECT_EQ(nullptr, find("tarn.test.desk").get());
 }
 
-TEST(Carrier, TakesANameAwayWithItsOwner) {
+TEST_F(Carrier, TakesANameAwayWithItsOwner) {
     RemoteDesk desk("tarn.test.desk");
     desk.process.kill();
     EXPECT_EQ(nullptr, find("tarn.test.desk").get());
     EXPECT_EQ(0u, android::defaultServiceManager()->listServices().size());
 }
 
-TEST(Carrier, GivesTheSameProxyForTheSameObject) {
+TEST_F(Carrier, GivesTheSameProxyForTheSameObject) {
     RemoteDesk desk("tarn.test.desk");
     EXPECT_EQ(desk.client.binder(), find("tarn.test.desk"));
     ASSERT_EQ(NO_ERROR, desk.client.keep(desk.client.binder()));
@@ -200,7 +207,7 @@ TEST(Carrier, GivesTheSameProxyForTheSameObject) {
     desk.client.drop();
 }
 
-TEST(Carrier, BringsAnObjectHomeAsItself) {
+TEST_F(Carrier, BringsAnObjectHomeAsItself) {
     RemoteDesk desk("tarn.test.desk");
     const sp<Desk> mine = new Desk;
     ASSERT_EQ(NO_ERROR, desk.client.keep(mine));
@@ -209,7 +216,7 @@ TEST(Carrier, BringsAnObjectHomeAsItself) {
     desk.client.drop();
 }
 
-TEST(Carrier, CallsBackWhoeverIsWaitingForAnAnswer) {
+TEST_F(Carrier, CallsBackWhoeverIsWaitingForAnAnswer) {
     RemoteDesk desk("tarn.test.desk");
     const sp<Desk> mine = new Desk;
     ASSERT_EQ(NO_ERROR, desk.client.keep(mine));
@@ -229,7 +236,7 @@ TEST(Carrier, CallsBackWhoeverIsWaitingForAnAnswer) {
     desk.client.drop();
 }
 
-TEST(Carrier, CarriesAnObjectToAThirdProcess) {
+TEST_F(Carrier, CarriesAnObjectToAThirdProcess) {
     RemoteDesk left("tarn.test.left");
     RemoteDesk right("tarn.test.right");
     ASSERT_EQ(NO_ERROR, left.client.keep(right.client.binder()));
@@ -244,7 +251,7 @@ TEST(Carrier, CarriesAnObjectToAThirdProcess) {
     left.client.drop();
 }
 
-TEST(Carrier, LendsAnObjectOnToAThirdProcess) {
+TEST_F(Carrier, LendsAnObjectOnToAThirdProcess) {
     RemoteDesk left("tarn.test.left");
     RemoteDesk right("tarn.test.right");
     for (int i = 0; i < 20; i++) {
@@ -260,7 +267,7 @@ TEST(Carrier, LendsAnObjectOnToAThirdProcess) {
     EXPECT_EQ(0, kept.inside());
 }
 
-TEST(Carrier, KeepsALentObjectWhileAnotherProcessRefersToIt) {
+TEST_F(Carrier, KeepsALentObjectWhileAnotherProcessRefersToIt) {
     RemoteDesk left("tarn.test.left");
     RemoteDesk right("tarn.test.right");
     const int before = Desk::alive();
@@ -283,7 +290,7 @@ TEST(Carrier, KeepsALentObjectWhileAnotherProcessRefersToIt) {
     EXPECT_EQ(nullptr, weak.promote().get());
 }
 
-TEST(Carrier, EndsTheHoldsOfAProcessThatDies) {
+TEST_F(Carrier, EndsTheHoldsOfAProcessThatDies) {
     const int before = Desk::alive();
     {
         RemoteDesk desk("tarn.test.desk");
@@ -296,7 +303,7 @@ TEST(Carrier, EndsTheHoldsOfAProcessThatDies) {
     EXPECT_TRUE(eventually([] { return countsHere().proxies == 0; }));
 }
 
-TEST(Carrier, LeavesNothingBehindWhenObjectsComeAndGo) {
+TEST_F(Carrier, LeavesNothingBehindWhenObjectsComeAndGo) {
     RemoteDesk desk("tarn.test.desk");
     const int before = Desk::alive();
     for (int i = 0; i < 200; i++) {
@@ -310,7 +317,7 @@ TEST(Carrier, LeavesNothingBehindWhenObjectsComeAndGo) {
     EXPECT_EQ(1, countsHere().proxies);
 }
 
-TEST(Carrier, StaysConsistentWhileManyThreadsExchangeObjects) {
+TEST_F(Carrier, StaysConsistentWhileManyThreadsExchangeObjects) {
     RemoteDesk left("tarn.test.left");
     RemoteDesk right("tarn.test.right");
     const int before = Desk::alive();
@@ -341,7 +348,7 @@ TEST(Carrier, StaysConsistentWhileManyThreadsExchangeObjects) {
     }));
 }
 
-TEST(Carrier, ServesManyCallersAtOnce) {
+TEST_F(Carrier, ServesManyCallersAtOnce) {
     RemoteDesk desk("tarn.test.desk");
     std::vector<std::thread> callers;
     std::atomic<int> passed{0};
@@ -355,7 +362,7 @@ TEST(Carrier, ServesManyCallersAtOnce) {
     EXPECT_EQ(10, passed);
 }
 
-TEST(Carrier, KeepsTheOrderOfOneWayCalls) {
+TEST_F(Carrier, KeepsTheOrderOfOneWayCalls) {
     RemoteDesk desk("tarn.test.desk");
     std::vector<int32_t> sent;
     for (int32_t i = 0; i < 1000; i++) {
@@ -366,7 +373,7 @@ TEST(Carrier, KeepsTheOrderOfOneWayCalls) {
     EXPECT_EQ(sent, desk.client.notes());
 }
 
-TEST(Carrier, DoesNotWaitForAOneWayCall) {
+TEST_F(Carrier, DoesNotWaitForAOneWayCall) {
     RemoteDesk desk("tarn.test.desk");
     Parcel data;
     EXPECT_EQ(NO_ERROR,
@@ -379,7 +386,7 @@ TEST(Carrier, DoesNotWaitForAOneWayCall) {
     EXPECT_TRUE(eventually([&] { return desk.client.notes().size() == 1; }));
 }
 
-TEST(Carrier, CarriesEverySizeUpToItsLimitBothWays) {
+TEST_F(Carrier, CarriesEverySizeUpToItsLimitBothWays) {
     RemoteDesk desk("tarn.test.desk");
     for (const size_t size :
          {size_t{0}, size_t{1000}, size_t{1016}, size_t{1017}, size_t{1020}, size_t{1021},
@@ -392,7 +399,7 @@ TEST(Carrier, CarriesEverySizeUpToItsLimitBothWays) {
     }
 }
 
-TEST(Carrier, RefusesMoreThanItsLimit) {
+TEST_F(Carrier, RefusesMoreThanItsLimit) {
     RemoteDesk desk("tarn.test.desk");
     std::vector<uint8_t> bytes(16 * kMebibyte);
     std::vector<uint8_t> back;
@@ -402,7 +409,7 @@ TEST(Carrier, RefusesMoreThanItsLimit) {
     EXPECT_EQ(NO_ERROR, desk.client.fill(16 * kMebibyte - 4, &back));
 }
 
-TEST(Carrier, CarriesLargePayloadsOfSeveralThreadsAtOnce) {
+TEST_F(Carrier, CarriesLargePayloadsOfSeveralThreadsAtOnce) {
     RemoteDesk desk("tarn.test.desk");
     std::atomic<int> wrong{0};
     std::vector<std::thread> threads;
@@ -426,7 +433,7 @@ android::status_t sendManyReferences(const DeskClient& desk, const sp<IBinder>& 
     return desk.binder()->transact(Desk::KEEP, data, nullptr, IBinder::FLAG_ONEWAY);
 }
 
-TEST(Carrier, WritesOnWhatDidNotFitIntoTheSocket) {
+TEST_F(Carrier, WritesOnWhatDidNotFitIntoTheSocket) {
     constexpr int kMessages = 240;                 // some 23 MiB; a socket holds 16 at most
     constexpr auto kMuchPatience = 4 * kPatience;  // a sanitizer on a busy machine is slow at it
     RemoteDesk desk("tarn.test.desk");
@@ -463,7 +470,7 @@ TEST(Carrier, WritesOnWhatDidNotFitIntoTheSocket) {
     EXPECT_TRUE(eventually([] { return countsHere().holds == 0; }, kMuchPatience));
 }
 
-TEST(Carrier, TellsOfADeath) {
+TEST_F(Carrier, TellsOfADeath) {
     RemoteDesk desk("tarn.test.desk");
     const sp<Recipient> linked = new Recipient;
     const sp<Recipient> unlinked = new Recipient;
@@ -481,16 +488,17 @@ TEST(Carrier, TellsOfADeath) {
     EXPECT_EQ(0u, unlinked->deaths());
 }
 
-TEST(Carrier, KnowsOfADeathThatNobodyWatchedFor) {
+TEST_F(Carrier, KnowsOfADeathThatNobodyWatchedForFromTheNextCall) {
     RemoteDesk desk("tarn.test.desk");
-    // A pool is there as soon as an object was lent.
-    desk.client.keep(new Desk);
+    const sp<Desk> mine = new Desk;
+    desk.client.keep(mine);
     desk.process.kill();
-    EXPECT_TRUE(eventually([&] { return !desk.client.binder()->isBinderAlive(); }));
+    EXPECT_EQ(DEAD_OBJECT, desk.client.binder()->pingBinder());
+    EXPECT_FALSE(desk.client.binder()->isBinderAlive());
     EXPECT_EQ(DEAD_OBJECT, desk.client.binder()->linkToDeath(new Recipient));
 }
 
-TEST(Carrier, TellsOfADeathBeforeTheLink) {
+TEST_F(Carrier, TellsOfADeathBeforeTheLink) {
     RemoteDesk desk("tarn.test.desk");
     desk.process.kill();
     const sp<Recipient> recipient = new Recipient;
@@ -498,7 +506,7 @@ TEST(Carrier, TellsOfADeathBeforeTheLink) {
     EXPECT_TRUE(linked == DEAD_OBJECT || eventually([&] { return recipient->deaths() == 1; }));
 }
 
-TEST(Carrier, EndsACallWhoseProcessIsKilled) {
+TEST_F(Carrier, EndsACallWhoseProcessIsKilled) {
     RemoteDesk desk("tarn.test.desk");
     auto waiting = std::async(std::launch::async, [&] { return desk.client.pass(); });
     EXPECT_TRUE(eventually([&] { return desk.client.inside() == 1; }));
@@ -509,12 +517,12 @@ TEST(Carrier, EndsACallWhoseProcessIsKilled) {
     EXPECT_EQ(DEAD_OBJECT, desk.client.binder()->pingBinder());
 }
 
-TEST(Carrier, EndsACallWhoseProcessExitsWithoutAnswering) {
+TEST_F(Carrier, EndsACallWhoseProcessExitsWithoutAnswering) {
     RemoteDesk desk("tarn.test.desk");
     EXPECT_EQ(DEAD_OBJECT, desk.client.vanish());
 }
 
-TEST(Carrier, TellsOfTheDeathOfAThirdProcess) {
+TEST_F(Carrier, TellsOfTheDeathOfAThirdProcess) {
     RemoteDesk left("tarn.test.left");
     sp<IBinder> shown;
     {
@@ -532,8 +540,8 @@ TEST(Carrier, TellsOfTheDeathOfAThirdProcess) {
     left.client.drop();
 }
 
-// Binder objects of a process that never started a pool, nor joined one, are served all the same.
 CHILD(caller) {
+    android::ProcessState::self()->startThreadPool();
     const DeskClient desk(find(arguments[0]));
     if (desk.keep(new Desk) != NO_ERROR) return 1;
     tell("kept");
@@ -541,16 +549,9 @@ CHILD(caller) {
     return 0;
 }
 
-TEST(Carrier, ServesTheCallbacksOfAProcessWithoutAPool) {
-    RemoteDesk desk("tarn.test.desk");
-    Child caller("caller", {"tarn.test.desk"});
-    EXPECT_EQ("kept", caller.readLine());
-    EXPECT_EQ(0, desk.client.call(Desk::INSIDE));
-}
-
-// A process that wants no thread of its own serves on the one that joins.
+// A process without a pool serves on the one that joins.
 CHILD(single) {
-    android::ProcessState::self()->setThreadPoolMaxThreadCount(0);
+    find(arguments[0]);
     const size_t before = runningThreads();
     if (publish(arguments[0], new Desk) != NO_ERROR) return 1;
     if (runningThreads() != before) return 2;
@@ -563,7 +564,7 @@ CHILD(single) {
     return 0;
 }
 
-TEST(Carrier, ServesOnTheJoinedThreadAlone) {
+TEST_F(Carrier, ServesOnTheJoinedThreadAlone) {
     Child single("single", {"tarn.test.desk"});
     single.readLine();
     const DeskClient desk(find("tarn.test.desk"));
@@ -588,6 +589,7 @@ struct Epilogue {
 
 CHILD(leaving) {
     static const Epilogue epilogue;
+    android::ProcessState::self()->startThreadPool();
     if (publish(arguments[0], new Dawdler) != NO_ERROR) return 1;
     return serveUntilClosed();
 }
@@ -595,7 +597,6 @@ CHILD(leaving) {
 // The same without a pool: a thread joins, and the main one ends the process.
 CHILD(leaving_joined) {
     static const Epilogue epilogue;
-    android::ProcessState::self()->setThreadPoolMaxThreadCount(0);
     if (publish(arguments[0], new Dawdler) != NO_ERROR) return 1;
     std::thread([] { android::IPCThreadState::self()->joinThreadPool(); }).detach();
     return serveUntilClosed();
@@ -604,14 +605,13 @@ CHILD(leaving_joined) {
 // And where the main thread joins, and another one ends the process.
 CHILD(leaving_aside) {
     static const Epilogue epilogue;
-    android::ProcessState::self()->setThreadPoolMaxThreadCount(0);
     if (publish(arguments[0], new Dawdler) != NO_ERROR) return 1;
     std::thread([] { exit(serveUntilClosed()); }).detach();
     android::IPCThreadState::self()->joinThreadPool();
     return 2;
 }
 
-TEST(Carrier, ServesNoCallWhileStaticObjectsAreDestroyed) {
+TEST_F(Carrier, ServesNoCallWhileStaticObjectsAreDestroyed) {
     for (const char* role : {"leaving", "leaving_joined", "leaving_aside"}) {
         SCOPED_TRACE(role);
         Child leaving(role, {"tarn.test.dawdler"});
@@ -637,6 +637,7 @@ CHILD(forking) {
     atexit([] {
         if (getpid() != self) _exit(0);
     });
+    android::ProcessState::self()->startThreadPool();
     if (publish(arguments[0], new Desk) != NO_ERROR) return 1;
     tell("ready");
     listen();
@@ -651,7 +652,7 @@ CHILD(forking) {
 }
 
 // Each would wait a second for threads that only its parent has.
-TEST(Carrier, LetsForkedChildrenEnd) {
+TEST_F(Carrier, LetsForkedChildrenEnd) {
     Child forking("forking", {"tarn.test.desk"});
     EXPECT_EQ("ready", forking.readLine());
     const DeskClient desk(find("tarn.test.desk"));
@@ -681,15 +682,17 @@ CHILD(threadless) {
     return runningThreads() == 1 ? 0 : 3;
 }
 
-TEST(Carrier, StaysWithinAProcessThatCanHaveNoThreads) {
+TEST_F(Carrier, StaysWithinAProcessThatCanHaveNoThreads) {
     Child threadless("threadless");
 }
 
 CHILD(crowded) {
     if (find(arguments[0]) != nullptr) return 1;
     refuseThreads(true);
+    android::ProcessState::self()->startThreadPool();
     if (publish(arguments[0], new Desk) != NO_ERROR) return 2;
     refuseThreads(false);
+    android::ProcessState::self()->startThreadPool();
     if (publish(arguments[0], new Desk) != NO_ERROR) return 3;
     refuseThreads(true);
     tell("ready");
@@ -700,7 +703,7 @@ CHILD(crowded) {
     return 0;
 }
 
-TEST(Carrier, ServesWithTheThreadsThatCanBeHad) {
+TEST_F(Carrier, ServesWithTheThreadsThatCanBeHad) {
     Child crowded("crowded", {"tarn.test.desk"});
     crowded.readLine();
     const DeskClient desk(find("tarn.test.desk"));
@@ -718,6 +721,7 @@ TEST(Carrier, ServesWithTheThreadsThatCanBeHad) {
 // What is left when the bus goes away.
 CHILD(orphan) {
     PrivateBus bus;
+    android::ProcessState::self()->startThreadPool();
     Child other("desk", {"tarn.test.desk"});
     other.readLine();
     const DeskClient desk(find("tarn.test.desk"));
@@ -742,7 +746,7 @@ CHILD(orphan) {
     return eventually([] { return countsHere().lent == 0; }) ? 0 : 14;
 }
 
-TEST(Carrier, SurvivesTheEndOfTheBus) {
+TEST_F(Carrier, SurvivesTheEndOfTheBus) {
     Child orphan("orphan");
 }
 
@@ -766,6 +770,77 @@ class ErrorOutput {
 };
 
 // Says how many lines the process wrote to its standard error.
+// A process that starts no pool until it is told to. It lends, publishes and waits for a death.
+CHILD(unserved) {
+    const ErrorOutput output;
+    const sp<IBinder> other = find(arguments[0]);
+    const DeskClient desk(other);
+    const sp<Recipient> recipient = new Recipient;
+    const size_t before = runningThreads();
+    if (arguments[2] == "lends" && desk.keep(new Desk) != NO_ERROR) return 1;
+    if (publish(arguments[1], new Desk) != NO_ERROR) return 2;
+    if (desk.keep(new Desk) != NO_ERROR) return 3;
+    if (other->linkToDeath(recipient) != NO_ERROR) return 4;
+    if (runningThreads() != before) return 5;
+    if (output.lines() != 1) return 6;
+    const std::string warning = output.text();
+    tell(warning.substr(0, warning.size() - 1));
+    listen();
+    tell(std::to_string(recipient->deaths()));
+    listen();
+    android::ProcessState::self()->startThreadPool();
+    tell("serves");
+    listen();
+    tell(eventually([&] { return recipient->deaths() == 1; }) ? "told" : "not told");
+    listen();
+    return 0;
+}
+
+constexpr std::chrono::milliseconds kNobodyServes{300};
+
+TEST_F(Carrier, ServesNobodyUntilTheProcessHasAPool) {
+    RemoteDesk desk("tarn.test.desk");
+    Child unserved("unserved", {"tarn.test.desk", "tarn.test.unserved", "publishes"});
+    const std::string warning = unserved.readLine();
+    EXPECT_NE(std::string::npos,
+              warning.find("Service 'tarn.test.unserved' is published, but no thread of this "
+                           "process serves binder (yet): it has to call "
+                           "ProcessState::startThreadPool()"))
+            << warning;
+    // What it published and what it lent.
+    const DeskClient published(find("tarn.test.unserved"));
+    ASSERT_NE(nullptr, published.binder());
+    auto ping = std::async(std::launch::async, [&] { return published.binder()->pingBinder(); });
+    auto lent = std::async(std::launch::async, [&] { return desk.client.call(Desk::INSIDE); });
+    EXPECT_EQ(std::future_status::timeout, ping.wait_for(kNobodyServes));
+    EXPECT_EQ(std::future_status::timeout, lent.wait_for(kNobodyServes));
+    unserved.writeLine("count");
+    EXPECT_EQ("0", unserved.readLine());
+    unserved.writeLine("start");
+    EXPECT_EQ("serves", unserved.readLine());
+    EXPECT_EQ(NO_ERROR, ping.get());
+    EXPECT_EQ(0, lent.get());
+    desk.process.kill();
+    unserved.writeLine("wait");
+    EXPECT_EQ("told", unserved.readLine());
+}
+
+TEST_F(Carrier, TellsNobodyOfADeathUntilTheProcessHasAPool) {
+    RemoteDesk desk("tarn.test.desk");
+    Child unserved("unserved", {"tarn.test.desk", "tarn.test.unserved", "lends"});
+    const std::string warning = unserved.readLine();
+    EXPECT_NE(std::string::npos, warning.find("An object is lent to another process, but no "))
+            << warning;
+    desk.process.kill();
+    std::this_thread::sleep_for(kNobodyServes);
+    unserved.writeLine("count");
+    EXPECT_EQ("0", unserved.readLine());
+    unserved.writeLine("start");
+    EXPECT_EQ("serves", unserved.readLine());
+    unserved.writeLine("wait");
+    EXPECT_EQ("told", unserved.readLine());
+}
+
 CHILD(alone) {
     const ErrorOutput output;
     const sp<Desk> desk = new Desk;
@@ -776,7 +851,7 @@ CHILD(alone) {
     return 0;
 }
 
-TEST(Carrier, StaysWithinTheProcessWithoutABus) {
+TEST_F(Carrier, StaysWithinTheProcessWithoutABus) {
     const std::string address = getenv("DBUS_SESSION_BUS_ADDRESS");
     setenv("DBUS_SESSION_BUS_ADDRESS", "", 1);
     EXPECT_EQ("0", Child("alone").readLine());
@@ -787,7 +862,7 @@ TEST(Carrier, StaysWithinTheProcessWithoutABus) {
     setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
 }
 
-TEST(Carrier, WarnsOnceOfABusThatCannotBeReached) {
+TEST_F(Carrier, WarnsOnceOfABusThatCannotBeReached) {
     const std::string address = getenv("DBUS_SESSION_BUS_ADDRESS");
     for (const char* bad : {"unix:path=/nonexistent/bus", "nonsense"}) {
         setenv("DBUS_SESSION_BUS_ADDRESS", bad, 1);
@@ -806,7 +881,7 @@ CHILD(seeker) {
     return 0;
 }
 
-TEST(Carrier, SaysThatAServiceDoesNotAnswer) {
+TEST_F(Carrier, SaysThatAServiceDoesNotAnswer) {
     RemoteDesk desk("tarn.test.desk");
     kill(desk.process.pid(), SIGSTOP);
     Child seeker("seeker", {"tarn.test.desk"});
@@ -815,7 +890,7 @@ TEST(Carrier, SaysThatAServiceDoesNotAnswer) {
     kill(desk.process.pid(), SIGCONT);
 }
 
-TEST(Carrier, FindsTheBusOfTheUsersSession) {
+TEST_F(Carrier, FindsTheBusOfTheUsersSession) {
     RemoteDesk desk("tarn.test.desk");
     const std::string address = getenv("DBUS_SESSION_BUS_ADDRESS");
     const std::string path =

@@ -2,6 +2,7 @@
 
 #include <binder/Binder.h>
 #include <binder/IServiceManager.h>
+#include <binder/ProcessState.h>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sdbus-c++/sdbus-c++.h>
@@ -42,6 +43,7 @@ sp<IBinder> find(const std::string& name) {
 }
 
 CHILD(desk) {
+    android::ProcessState::self()->startThreadPool();
     android::defaultServiceManager()->addService(String16(arguments[0].c_str()), new Desk);
     return serveUntilClosed();
 }

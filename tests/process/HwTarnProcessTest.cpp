@@ -1,18 +1,22 @@
 // The hardware service in one process, applications in others.
 
+#include <binder/IServiceManager.h>
 #include <binder/Parcel.h>
+#include <binder/ProcessState.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <tarn/ITarnListener.h>
 #include <tarn/TarnManager.h>
 
 #include <algorithm>
+#include <atomic>
 #include <condition_variable>
 #include <cstring>
 #include <future>
 #include <mutex>
 #include <thread>
 
+#include "tests/process/Desk.h"
 #include "tests/process/ProcessTest.h"
 #include "tests/support/FakeHwTarn.h"
 #include "tests/support/LogCapture.h"
@@ -25,6 +29,7 @@ using android::sp;
 using android::TarnManager;
 using testing::Contains;
 using testing::Not;
+using vendor::zunt::hwtarn::V1_0::IHwTarn;
 
 constexpr size_t kLargestEvent = 1024 * 1024 - 2 * 4096;
 
@@ -115,6 +120,14 @@ class Listener : public ITarnListener {
     std::mutex mLock;
     std::vector<unsigned int> mTypes;
     std::vector<std::string> mEvents;
+};
+
+struct Mourner : public android::hardware::hidl_death_recipient {
+    void serviceDied(uint64_t value,
+                     const android::wp<android::hidl::base::V1_0::IBase>&) override {
+        cookie = value;
+    }
+    std::atomic<uint64_t> cookie{0};
 };
 
 TEST(HwTarnProcess, CommandsReachTheServiceOfAnotherProcess) {
@@ -223,6 +236,50 @@ TEST(HwTarnProcess, FindsAServiceThatStartsAfterTheApplication) {
     const auto board = startBoard();
     EXPECT_TRUE(echoes(*manager, "some"));
     EXPECT_EQ(0, manager->isTarnReady());
+}
+
+// Exports an object of HIDL's, the listener for events, and one of plain binder.
+CHILD(exporter) {
+    const sp<TarnManager> manager = new TarnManager;
+    Listener listener;
+    manager->registerListener(&listener);
+    if (manager->createTarnMsgManager() != 0) return 1;
+    android::defaultServiceManager()->addService(android::String16("tarn.test.desk"), new Desk);
+    // It waits for the board's death as HIDL does it.
+    const sp<Mourner> mourner = new Mourner;
+    const sp<IHwTarn> board = IHwTarn::getService();
+    if (!board->linkToDeath(mourner, 5).withDefault(false)) return 2;
+    tell("ready");
+    listen();
+    tell(eventually([&] { return listener.events().size() == 3; }) ? "events" : "no events");
+    listen();
+    tell(eventually([&] { return mourner->cookie == 5; }) ? "told" : "not told");
+    listen();
+    android::ProcessState::self()->startThreadPool();
+    listen();
+    manager->unRegisterListener(&listener);
+    return 0;
+}
+
+// HIDL brings its own thread, which does not serve plain binder.
+TEST(HwTarnProcess, HasEventsAndDeathsServedByAThreadOfHidlsAlone) {
+    auto board = startBoard();
+    const sp<TarnManager> manager = new TarnManager;
+    Child exporter("exporter");
+    EXPECT_EQ("ready", exporter.readLine());
+    const DeskClient desk(
+            android::defaultServiceManager()->checkService(android::String16("tarn.test.desk")));
+    ASSERT_NE(nullptr, desk.binder());
+    auto ping = std::async(std::launch::async, [&] { return desk.binder()->pingBinder(); });
+    for (int i = 0; i < 3; i++) EXPECT_EQ(0, invoke(*manager, RAISE, "one.", nullptr));
+    exporter.writeLine("events");
+    EXPECT_EQ("events", exporter.readLine());
+    board->kill();
+    exporter.writeLine("death");
+    EXPECT_EQ("told", exporter.readLine());
+    EXPECT_EQ(std::future_status::timeout, ping.wait_for(std::chrono::milliseconds(300)));
+    exporter.writeLine("start");
+    EXPECT_EQ(android::NO_ERROR, ping.get());
 }
 
 CHILD(application) {

@@ -2,6 +2,7 @@
 
 #include <binder/Binder.h>
 #include <binder/IServiceManager.h>
+#include <binder/ProcessState.h>
 #include <gtest/gtest.h>
 #include <tarn/TarnManager.h>
 
@@ -28,6 +29,7 @@ constexpr int kClients = 4;
 constexpr char kDeskName[] = "tarn.test.desk";
 
 CHILD(service) {
+    android::ProcessState::self()->startThreadPool();
     const sp<FakeHwTarn> board = new FakeHwTarn;
     board->publish();
     android::defaultServiceManager()->addService(String16(kDeskName), new Desk);
@@ -113,6 +115,7 @@ bool commandWorks() {
 }
 
 TEST(Restart, LeavesNothingBehindAndEveryClientAtWork) {
+    android::ProcessState::self()->startThreadPool();
     auto service = std::make_unique<Child>("service");
     service->readLine();
     EXPECT_TRUE(commandWorks());

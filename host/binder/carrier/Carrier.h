@@ -14,6 +14,9 @@
 
 namespace android::host {
 
+/** Which of a process's threads do a work: HIDL's, or those of plain binder. */
+enum class Domain { BINDER, HWBINDER };
+
 /** One transaction that another process sent to an object of this one. */
 class IncomingCall {
   public:
@@ -55,12 +58,12 @@ class Carrier {
                               Payload* reply) = 0;
 
     /**
-     * Waits for the next work; none ends the calling pool thread. One-way calls to one object come
-     * out in the order they were sent, the next not before the one ahead is destroyed.
+     * Waits for the next work of a domain; none ends the calling pool thread. One-way calls to one
+     * object come out in the order they were sent, the next not before the one ahead is destroyed.
      */
-    virtual std::optional<PoolWork> receive() = 0;
+    virtual std::optional<PoolWork> receive(Domain domain) = 0;
 
-    /** Ends the pool: from now on receive() gives none. */
+    /** Ends the pools: from now on receive() gives none. */
     virtual void stop() {}
 
     /** Counts the proxies of a handle: the remote object is kept while there is one. */
@@ -68,8 +71,8 @@ class Carrier {
     virtual void release(int32_t handle) = 0;
 
     /**
-     * Asks for sendObituary() on the proxy, on a thread of the pool, when the process dies or if it
-     * is dead already. Both are called with the proxy's lock held: they must not call the proxy.
+     * Asks for sendObituary() on the proxy, on a thread of the domain, when the process dies or if
+     * it is dead already. Both are called with the proxy's lock held: they must not call the proxy.
      */
     virtual void watchDeath(int32_t handle, const wp<BpBinder>& proxy) = 0;
     virtual void unwatchDeath(int32_t /*handle*/) {}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <condition_variable>
 #include <deque>
 #include <map>
@@ -14,7 +15,7 @@
 namespace android::host::dbus {
 
 /**
- * What waits for the pool's threads: calls, and tasks of the carrier's own.
+ * What waits for the threads of one domain: calls, and tasks of the carrier's own.
  *
  * One-way calls to one object form a lane: the next comes out when the one ahead is destroyed.
  */
@@ -48,6 +49,25 @@ class CallQueue {
     // By object: the calls after the one-way call that is ready or being served.
     std::map<uint64_t, std::deque<std::unique_ptr<BusCall>>> mLanes;
     bool mStopped = false;
+};
+
+/** A queue for each domain, since a thread of one must not do the other's work. */
+class CallQueues {
+  public:
+    CallQueue& of(Domain domain) { return mQueues[static_cast<size_t>(domain)]; }
+
+    void stop() {
+        for (CallQueue& queue : mQueues) queue.stop();
+    }
+
+    size_t size() {
+        size_t waiting = 0;
+        for (CallQueue& queue : mQueues) waiting += queue.size();
+        return waiting;
+    }
+
+  private:
+    std::array<CallQueue, 2> mQueues;
 };
 
 }  // namespace android::host::dbus

@@ -50,7 +50,8 @@ void CallReceiver::onTransact(sdbus::MethodCall message, const std::shared_ptr<P
     } else {
         call->callingPid = caller->pid;
         call->callingUid = caller->uid;
-        mQueue.add(std::move(call));
+        CallQueue& queue = mQueues.of(SharedObjects::domainOf(call->object));
+        queue.add(std::move(call));
         return;
     }
     mReleaser.release(localObjectsOf(*call));

@@ -14,9 +14,13 @@ namespace android::host::dbus {
 /** Takes the transactions that other processes send, queues them, and sends the replies. */
 class CallReceiver {
   public:
-    CallReceiver(BusLink& link, SharedObjects& objects, ObjectExchange& exchange, CallQueue& queue,
-                 PoolReleaser& releaser)
-        : mLink(link), mObjects(objects), mExchange(exchange), mQueue(queue), mReleaser(releaser) {}
+    CallReceiver(BusLink& link, SharedObjects& objects, ObjectExchange& exchange,
+                 CallQueues& queues, PoolReleaser& releaser)
+        : mLink(link),
+          mObjects(objects),
+          mExchange(exchange),
+          mQueues(queues),
+          mReleaser(releaser) {}
 
     /** The method Transact, on the link's thread; throws sdbus::Error at a malformed message. */
     void onTransact(sdbus::MethodCall message, const std::shared_ptr<Peer>& caller);
@@ -28,7 +32,7 @@ class CallReceiver {
     BusLink& mLink;
     SharedObjects& mObjects;
     ObjectExchange& mExchange;
-    CallQueue& mQueue;
+    CallQueues& mQueues;
     PoolReleaser& mReleaser;
 };
 

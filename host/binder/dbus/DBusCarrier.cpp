@@ -14,14 +14,14 @@ namespace android::host::dbus {
 DBusCarrier::DBusCarrier(const std::string& address)
     : mLink(address),
       mBus(mLink),
-      mReleaser(mQueue),
+      mReleaser(mQueues),
       mPeerTable(mLink),
-      mDeaths(mPeerTable, mObjects, mQueue, mReleaser),
-      mPeers(mBus, mPeerTable, mDeaths, mQueue),
+      mDeaths(mPeerTable, mObjects, mQueues, mReleaser),
+      mPeers(mBus, mPeerTable, mDeaths, mQueues),
       mExchange(mLink, mObjects, mPeers, mReleaser),
       mSender(mLink, mObjects, mExchange, mDeaths),
-      mReceiver(mLink, mObjects, mExchange, mQueue, mReleaser),
-      mServices(mLink, mBus, mPeers, mExchange, mQueue, mReleaser) {
+      mReceiver(mLink, mObjects, mExchange, mQueues, mReleaser),
+      mServices(mLink, mBus, mPeers, mExchange, mQueues, mReleaser) {
     mLink.start(this);
 }
 
@@ -65,12 +65,12 @@ status_t DBusCarrier::transact(int32_t handle, uint32_t code, uint32_t flags, Pa
     return mSender.transact(handle, code, flags, std::move(request), reply);
 }
 
-std::optional<PoolWork> DBusCarrier::receive() {
-    return mQueue.take();
+std::optional<PoolWork> DBusCarrier::receive(Domain domain) {
+    return mQueues.of(domain).take();
 }
 
 void DBusCarrier::stop() {
-    mQueue.stop();
+    mQueues.stop();
 }
 
 void DBusCarrier::acquire(int32_t handle) {
@@ -83,6 +83,10 @@ void DBusCarrier::release(int32_t handle) {
 
 void DBusCarrier::watchDeath(int32_t handle, const wp<BpBinder>& proxy) {
     mDeaths.watch(handle, proxy);
+}
+
+void DBusCarrier::unwatchDeath(int32_t handle) {
+    mDeaths.unwatch(handle);
 }
 
 status_t DBusCarrier::publish(const String16& name, const sp<IBinder>& service) {
@@ -102,7 +106,7 @@ std::vector<String16> DBusCarrier::list() {
 }
 
 DBusCarrier::Counts DBusCarrier::counts() {
-    return {mObjects.counts(), mPeerTable.size(), mQueue.size()};
+    return {mObjects.counts(), mPeerTable.size(), mQueues.size()};
 }
 
 }  // namespace android::host::dbus

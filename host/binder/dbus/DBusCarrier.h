@@ -31,11 +31,12 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
 
     status_t transact(int32_t handle, uint32_t code, uint32_t flags, Payload request,
                       Payload* reply) override;
-    std::optional<PoolWork> receive() override;
+    std::optional<PoolWork> receive(Domain domain) override;
     void stop() override;
     void acquire(int32_t handle) override;
     void release(int32_t handle) override;
     void watchDeath(int32_t handle, const wp<BpBinder>& proxy) override;
+    void unwatchDeath(int32_t handle) override;
     status_t publish(const String16& name, const sp<IBinder>& service) override;
     void withdraw(const String16& name) override;
     sp<IBinder> find(const String16& name) override;
@@ -58,7 +59,7 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
     BusLink mLink;
     BusDaemon mBus;
     SharedObjects mObjects;
-    CallQueue mQueue;
+    CallQueues mQueues;
     PoolReleaser mReleaser;
     PeerTable mPeerTable;
     DeathWatch mDeaths;

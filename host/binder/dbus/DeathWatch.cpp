@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/binder/process/PoolForCalls.h"
+#include "host/binder/process/UnservedWarning.h"
 
 namespace android::host::dbus {
 
@@ -13,9 +13,10 @@ void DeathWatch::peerDied(const std::shared_ptr<Peer>& peer) {
     mPeers.remove(peer);
     SharedObjects::Objects released;
     const std::vector<int32_t> handles = mObjects.peerDied(*peer, &released);
-    if (!handles.empty()) startPoolForCalls();
     for (const int32_t handle : handles) {
-        mQueue.add([this, handle] {
+        // It is pinned, so it is there.
+        const Domain domain = SharedObjects::domainOf(mObjects.remote(handle)->object);
+        mQueues.of(domain).add([this, handle] {
             const sp<IBinder> proxy = ProcessState::self()->getStrongProxyForHandle(handle);
             mObjects.unpin(handle);
             if (proxy != nullptr) proxy->remoteBinder()->sendObituary();
@@ -34,10 +35,12 @@ void DeathWatch::allGone() {
 }
 
 void DeathWatch::watch(int32_t handle, const wp<BpBinder>& proxy) {
-    startPoolForCalls();
     const auto remote = mObjects.remote(handle);
-    if (remote.has_value() && !remote->owner->dead) return;
-    mQueue.add([proxy] {
+    const Domain domain =
+            remote.has_value() ? SharedObjects::domainOf(remote->object) : Domain::BINDER;
+    if (domain == Domain::BINDER) warnIfUnserved("A death is waited for");
+    if (mObjects.watch(handle)) return;
+    mQueues.of(domain).add([proxy] {
         const sp<BpBinder> dead = proxy.promote();
         if (dead != nullptr) dead->sendObituary();
     });

@@ -13,26 +13,28 @@
 namespace android::host::dbus {
 
 /**
- * Does what follows from the death of other processes. Every proxy is told of its owner's death,
- * watched or not, on a thread of the pool.
+ * Does what follows from the death of other processes. A proxy that is watched is told of its
+ * owner's death on a thread of its domain, once the process has one.
  */
 class DeathWatch {
   public:
-    DeathWatch(PeerTable& peers, SharedObjects& objects, CallQueue& queue, PoolReleaser& releaser)
-        : mPeers(peers), mObjects(objects), mQueue(queue), mReleaser(releaser) {}
+    DeathWatch(PeerTable& peers, SharedObjects& objects, CallQueues& queues, PoolReleaser& releaser)
+        : mPeers(peers), mObjects(objects), mQueues(queues), mReleaser(releaser) {}
 
     // On the link's thread: a process died, the owner of a unique name is gone, all are gone.
     void peerDied(const std::shared_ptr<Peer>& peer);
     void nameGone(const std::string& uniqueName);
     void allGone();
 
-    /** Makes sure that there is a thread to tell of a death; tells at once of one that was. */
+    void unwatch(int32_t handle) { mObjects.unwatch(handle); }
+
+    /** Warns if no thread can tell of a death; tells at once of one that was. */
     void watch(int32_t handle, const wp<BpBinder>& proxy);
 
   private:
     PeerTable& mPeers;
     SharedObjects& mObjects;
-    CallQueue& mQueue;
+    CallQueues& mQueues;
     PoolReleaser& mReleaser;
 };
 

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "BusName.h"
-#include "host/binder/process/PoolForCalls.h"
+#include "host/binder/process/UnservedWarning.h"
 
 namespace android::host::dbus {
 
@@ -22,7 +22,9 @@ bool ObjectExchange::isSendable(const sp<IBinder>& binder) {
 Reference ObjectExchange::refer(const sp<IBinder>& binder, Peer& receiver,
                                 std::vector<Grant>* grants) {
     if (BBinder* local = binder->localBinder(); local != nullptr) {
-        startPoolForCalls();
+        if (SharedObjects::domainOf(binder) == Domain::BINDER) {
+            warnIfUnserved("An object is lent to another process");
+        }
         return {0, "", mObjects.lend(local, receiver)};
     }
     const SharedObjects::Remote remote = *mObjects.remote(binder->remoteBinder()->handle());

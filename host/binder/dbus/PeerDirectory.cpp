@@ -53,7 +53,8 @@ void PeerDirectory::identified(Peer& peer) {
     for (std::unique_ptr<BusCall>& call : std::exchange(peer.unidentified, {})) {
         call->callingPid = peer.pid;
         call->callingUid = peer.uid;
-        mQueue.add(std::move(call));
+        CallQueue& queue = mQueues.of(SharedObjects::domainOf(call->object));
+        queue.add(std::move(call));
     }
 }
 

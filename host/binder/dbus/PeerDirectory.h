@@ -16,8 +16,8 @@ namespace android::host::dbus {
  */
 class PeerDirectory {
   public:
-    PeerDirectory(BusDaemon& bus, PeerTable& peers, DeathWatch& deaths, CallQueue& queue)
-        : mBus(bus), mPeers(peers), mDeaths(deaths), mQueue(queue) {}
+    PeerDirectory(BusDaemon& bus, PeerTable& peers, DeathWatch& deaths, CallQueues& queues)
+        : mBus(bus), mPeers(peers), mDeaths(deaths), mQueues(queues) {}
 
     std::shared_ptr<Peer> named(const std::string& uniqueName);
 
@@ -29,7 +29,7 @@ class PeerDirectory {
     BusDaemon& mBus;
     PeerTable& mPeers;
     DeathWatch& mDeaths;
-    CallQueue& mQueue;
+    CallQueues& mQueues;
 };
 
 }  // namespace android::host::dbus

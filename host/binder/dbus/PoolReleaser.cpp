@@ -5,19 +5,24 @@
 namespace android::host::dbus {
 
 void PoolReleaser::release(SharedObjects::Objects objects) {
-    if (objects.empty()) return;
+    for (sp<IBinder>& object : objects) release(std::move(object));
+}
+
+void PoolReleaser::release(sp<IBinder> object) {
+    const Domain domain = SharedObjects::domainOf(object);
+    std::set<sp<IBinder>>& waiting = mWaiting[static_cast<size_t>(domain)];
     std::lock_guard<std::mutex> lock(mLock);
-    if (mWaiting.empty()) {
-        mQueue.add([this] {
+    if (waiting.empty()) {
+        mQueues.of(domain).add([this, &waiting] {
             // Destroyed after the guard, so without the lock.
             std::set<sp<IBinder>> released;
             std::lock_guard<std::mutex> guard(mLock);
-            released.swap(mWaiting);
+            released.swap(waiting);
         });
     }
-    for (sp<IBinder>& object : objects) mWaiting.insert(std::move(object));
-    // With the lock held: the set still has each of them, so none is destroyed here.
-    objects.clear();
+    waiting.insert(object);
+    // With the lock held: the set has the object, so it is not destroyed here.
+    object.clear();
 }
 
 }  // namespace android::host::dbus

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <mutex>
 #include <set>
 
@@ -9,20 +10,21 @@
 namespace android::host::dbus {
 
 /**
- * Releases references to this process's objects on a thread of the pool: an object's destructor
+ * Releases references to this process's objects on a thread of their domain: an object's destructor
  * may do anything, so the last reference must not go on the link's thread or within a lock.
  */
 class PoolReleaser {
   public:
-    explicit PoolReleaser(CallQueue& queue) : mQueue(queue) {}
+    explicit PoolReleaser(CallQueues& queues) : mQueues(queues) {}
 
     /** An object that waits already does not wait a second time. */
+    void release(sp<IBinder> object);
     void release(SharedObjects::Objects objects);
 
   private:
-    CallQueue& mQueue;
-    std::mutex mLock;  // guards what follows
-    std::set<sp<IBinder>> mWaiting;
+    CallQueues& mQueues;
+    std::mutex mLock;                               // guards what follows
+    std::array<std::set<sp<IBinder>>, 2> mWaiting;  // by domain
 };
 
 }  // namespace android::host::dbus

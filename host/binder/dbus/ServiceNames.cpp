@@ -11,8 +11,8 @@
 
 #include "BusName.h"
 #include "MessageFormat.h"
-#include "host/binder/process/PoolForCalls.h"
 #include "host/binder/process/ServiceTable.h"
+#include "host/binder/process/UnservedWarning.h"
 
 namespace android::host::dbus {
 
@@ -30,8 +30,10 @@ constexpr uint32_t kAlreadyOwner = 4;
 // The link's thread enters the new service, so before it sees a Lookup that the bus sends here for
 // the name, and after the bus's earlier messages about the name.
 status_t ServiceNames::publish(const String16& name, const sp<IBinder>& service) {
-    startPoolForCalls();
     const std::string name8 = String8(name).string();
+    if (service->localBinder() != nullptr && SharedObjects::domainOf(service) == Domain::BINDER) {
+        warnIfUnserved("Service '" + name8 + "' is published");
+    }
     uint32_t outcome = 0;
     sp<IBinder> replaced;
     try {
@@ -154,7 +156,7 @@ void ServiceNames::onLookup(sdbus::MethodCall& call, Peer& caller) {
     sdbus::MethodReply reply = call.createReply();
     reply << (reference.owner.empty() ? mLink.uniqueName() : reference.owner) << reference.object;
     mLink.send(reply);
-    mReleaser.release({service});
+    mReleaser.release(service);
 }
 
 void ServiceNames::onNameLost(const std::string& busName) {
@@ -162,7 +164,8 @@ void ServiceNames::onNameLost(const std::string& busName) {
     if (!name.has_value()) return;
     sp<IBinder> lost = remove(*name);
     if (lost == nullptr) return;
-    mQueue.add([name16 = String16(name->c_str()), service = std::move(lost)] {
+    CallQueue& queue = mQueues.of(SharedObjects::domainOf(lost));
+    queue.add([name16 = String16(name->c_str()), service = std::move(lost)] {
         ServiceTable::get()->removeReplaced(name16, service);
     });
 }

@@ -21,12 +21,12 @@ namespace android::host::dbus {
 class ServiceNames {
   public:
     ServiceNames(BusLink& link, BusDaemon& bus, PeerDirectory& peers, ObjectExchange& exchange,
-                 CallQueue& queue, PoolReleaser& releaser)
+                 CallQueues& queues, PoolReleaser& releaser)
         : mLink(link),
           mBus(bus),
           mPeers(peers),
           mExchange(exchange),
-          mQueue(queue),
+          mQueues(queues),
           mReleaser(releaser) {}
 
     // As the functions of Carrier. They wait for the bus, so not on the link's thread.
@@ -52,7 +52,7 @@ class ServiceNames {
     BusDaemon& mBus;
     PeerDirectory& mPeers;
     ObjectExchange& mExchange;
-    CallQueue& mQueue;
+    CallQueues& mQueues;
     PoolReleaser& mReleaser;
 
     std::mutex mLock;  // guards what follows

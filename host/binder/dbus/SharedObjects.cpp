@@ -7,27 +7,40 @@
 
 #include <algorithm>
 
+#include "host/HwBinder.h"
+
 namespace android::host::dbus {
 
 namespace {
 
+constexpr uint64_t kHwBit = 1;
+
 // A process that knows the number can call the object, so it must not be guessable.
-uint64_t newNumber() {
+uint64_t newNumber(Domain domain) {
     uint64_t number = 0;
     const ssize_t got = getrandom(&number, sizeof(number), 0);
     LOG_ALWAYS_FATAL_IF(got != sizeof(number), "no random numbers");
-    return number;
+    return domain == Domain::HWBINDER ? number | kHwBit : number & ~kHwBit;
 }
 
 }  // namespace
 
+Domain SharedObjects::domainOf(const sp<IBinder>& object) {
+    return object->checkSubclass(hwObjectId()) ? Domain::HWBINDER : Domain::BINDER;
+}
+
+Domain SharedObjects::domainOf(uint64_t number) {
+    return (number & kHwBit) != 0 ? Domain::HWBINDER : Domain::BINDER;
+}
+
 uint64_t SharedObjects::lend(const sp<BBinder>& object, Peer& holder) {
+    const Domain domain = domainOf(object);
     std::lock_guard<std::mutex> lock(mLock);
     if (holder.dead) return 0;
     const auto known = mNumbers.find(object.get());
     uint64_t number = known != mNumbers.end() ? known->second : 0;
     while (number == 0 || (known == mNumbers.end() && mLent.count(number) > 0)) {
-        number = newNumber();
+        number = newNumber(domain);
     }
     mNumbers[object.get()] = number;
     Lent& lent = mLent[number];
@@ -132,6 +145,20 @@ std::optional<SharedObjects::Remote> SharedObjects::remote(int32_t handle) {
     return received->second.remote;
 }
 
+bool SharedObjects::watch(int32_t handle) {
+    std::lock_guard<std::mutex> lock(mLock);
+    const auto received = mReceived.find(handle);
+    if (received == mReceived.end() || received->second.remote.owner->dead) return false;
+    received->second.watched = true;
+    return true;
+}
+
+void SharedObjects::unwatch(int32_t handle) {
+    std::lock_guard<std::mutex> lock(mLock);
+    const auto received = mReceived.find(handle);
+    if (received != mReceived.end()) received->second.watched = false;
+}
+
 std::vector<int32_t> SharedObjects::peerDied(Peer& peer, Objects* released) {
     std::lock_guard<std::mutex> lock(mLock);
     peer.dead = true;
@@ -141,7 +168,7 @@ std::vector<int32_t> SharedObjects::peerDied(Peer& peer, Objects* released) {
     peer.holds.clear();
     std::vector<int32_t> handles;
     for (auto& [handle, received] : mReceived) {
-        if (received.remote.owner.get() != &peer) continue;
+        if (received.remote.owner.get() != &peer || !received.watched) continue;
         received.pins++;
         handles.push_back(handle);
     }

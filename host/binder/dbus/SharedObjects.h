@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "Peer.h"
+#include "host/binder/carrier/Carrier.h"
 
 namespace android::host::dbus {
 
@@ -24,6 +25,9 @@ namespace android::host::dbus {
  * process that no longer needs an object gives back as many as it received. So a reference that is
  * on its way while others are given back is never lost. An object is kept while any process has a
  * hold on it; when a process dies, all of its holds end.
+ *
+ * An object's number is random, but for its lowest bit: that is set if the object is HIDL's, so
+ * that both sides know which threads its calls and its death concern.
  *
  * References that a function removes are handed to its caller (`released`): an object's destructor
  * must not run with the lock held, nor on the link's thread.
@@ -44,6 +48,10 @@ class SharedObjects {
         uint32_t count;
     };
 
+    /** The domain of an object of this process, and of any object by its number. */
+    static Domain domainOf(const sp<IBinder>& object);
+    static Domain domainOf(uint64_t number);
+
     /** Adds a hold on an object of this process and gives its number; 0 if the holder is dead. */
     uint64_t lend(const sp<BBinder>& object, Peer& holder);
     /** The same for an object that was lent before; false if none has this number. */
@@ -63,10 +71,15 @@ class SharedObjects {
     void acquire(int32_t handle);
     std::optional<Holds> release(int32_t handle);
 
+    /** Has peerDied() give a handle, or no longer; false if its object's process is dead already.
+     */
+    bool watch(int32_t handle);
+    void unwatch(int32_t handle);
+
     /** The object of a handle; none if the handle is not in use. */
     std::optional<Remote> remote(int32_t handle);
 
-    /** Ends a process's holds. Gives the handles of its objects, each pinned once. */
+    /** Ends a process's holds. Gives the watched handles of its objects, each pinned once. */
     std::vector<int32_t> peerDied(Peer& peer, Objects* released);
 
     struct Counts {
@@ -86,6 +99,7 @@ class SharedObjects {
         uint32_t holds = 0;
         int32_t proxies = 0;
         int32_t pins = 0;
+        bool watched = false;
     };
 
     void addHold(uint64_t object, Lent& lent, Peer& holder);

@@ -13,7 +13,9 @@
 #include <optional>
 #include <variant>
 
+#include "HwPool.h"
 #include "ServingGate.h"
+#include "UnservedWarning.h"
 #include "host/binder/carrier/Carrier.h"
 
 namespace android {
@@ -94,6 +96,7 @@ void IPCThreadState::joinThreadPool(bool /*isMain*/) {
         return;
     }
     host::ServingGate::closeAtExit();
+    if (host::threadDomain() == host::Domain::BINDER) host::noteServing();
     while (getAndExecuteCommand() == NO_ERROR) {
     }
 }
@@ -111,21 +114,27 @@ void IPCThreadState::blockUntilThreadAvailable() {
     pthread_mutex_unlock(&mProcess->mThreadCountLock);
 }
 
-// Waits for work and does it. Starts another thread of the pool if none is left to wait for more.
+// Waits for work of the thread's domain and does it. Starts another thread of the pool if none is
+// left to wait for more.
 status_t IPCThreadState::getAndExecuteCommand() {
     host::Carrier* const carrier = host::carrier();
     if (carrier == nullptr) return NO_INIT;
-    std::optional<host::PoolWork> work = carrier->receive();
+    const host::Domain domain = host::threadDomain();
+    std::optional<host::PoolWork> work = carrier->receive(domain);
     if (!work.has_value()) return NO_INIT;
 
-    pthread_mutex_lock(&mProcess->mThreadCountLock);
-    mProcess->mExecutingThreadsCount++;
-    const size_t threads =
-            static_cast<size_t>(__atomic_load_n(&mProcess->mThreadPoolSeq, __ATOMIC_ACQUIRE) - 1);
-    if (mProcess->mExecutingThreadsCount >= threads && threads < mProcess->mMaxThreads) {
-        mProcess->spawnPooledThread(false);
+    if (domain == host::Domain::HWBINDER) {
+        host::beginHwWork();
+    } else {
+        pthread_mutex_lock(&mProcess->mThreadCountLock);
+        mProcess->mExecutingThreadsCount++;
+        const size_t threads = static_cast<size_t>(
+                __atomic_load_n(&mProcess->mThreadPoolSeq, __ATOMIC_ACQUIRE) - 1);
+        if (mProcess->mExecutingThreadsCount >= threads && threads < mProcess->mMaxThreads) {
+            mProcess->spawnPooledThread(false);
+        }
+        pthread_mutex_unlock(&mProcess->mThreadCountLock);
     }
-    pthread_mutex_unlock(&mProcess->mThreadCountLock);
 
     {
         const host::ServingGate gate;
@@ -139,6 +148,10 @@ status_t IPCThreadState::getAndExecuteCommand() {
         work.reset();
     }
 
+    if (domain == host::Domain::HWBINDER) {
+        host::endHwWork();
+        return NO_ERROR;
+    }
     pthread_mutex_lock(&mProcess->mThreadCountLock);
     mProcess->mExecutingThreadsCount--;
     pthread_cond_broadcast(&mProcess->mThreadCountDecrement);

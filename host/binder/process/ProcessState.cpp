@@ -13,8 +13,8 @@
 #include <system_error>
 #include <thread>
 
-#include "PoolForCalls.h"
 #include "ServingGate.h"
+#include "UnservedWarning.h"
 #include "host/binder/carrier/Carrier.h"
 #include "host/binder/dbus/SessionCarrier.h"
 
@@ -134,6 +134,7 @@ void ProcessState::expungeHandle(int32_t handle, IBinder* binder) {
 void ProcessState::startThreadPool() {
     if (__atomic_exchange_n(&mThreadPoolStarted, true, __ATOMIC_ACQ_REL)) return;
     host::ServingGate::closeAtExit();
+    host::noteServing();
     spawnPooledThread(true);
 }
 
@@ -163,7 +164,6 @@ String8 ProcessState::makeBinderThreadName() {
 status_t ProcessState::setThreadPoolMaxThreadCount(size_t maxThreads) {
     pthread_mutex_lock(&mThreadCountLock);
     mMaxThreads = maxThreads;
-    host::setPoolWanted(maxThreads > 0);
     pthread_mutex_unlock(&mThreadCountLock);
     return NO_ERROR;
 }

@@ -3,6 +3,7 @@
 
 #include "BaseCodes.h"
 #include "StubTable.h"
+#include "host/HwBinder.h"
 
 namespace android::hidl::base::V1_0 {
 
@@ -21,7 +22,7 @@ BnHwBase::~BnHwBase() {
 }
 
 bool BnHwBase::checkSubclass(const void* id) const {
-    return id == subclassId();
+    return id == subclassId() || id == ::android::host::hwObjectId();
 }
 
 const void* BnHwBase::subclassId() {

@@ -200,6 +200,8 @@ class DeathLinks::Link : public IBinder::DeathRecipient {
 bool DeathLinks::link(IBinder* remote, const sp<hidl_death_recipient>& recipient, uint64_t cookie,
                       const wp<IBase>& who) {
     if (recipient == nullptr) return false;
+    // It is told on a thread of this process.
+    startRpcThreadpool();
     const sp<Link> link = new Link(recipient, cookie, who);
     {
         const std::lock_guard<std::mutex> guard(mLock);

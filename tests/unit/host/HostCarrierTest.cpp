@@ -74,7 +74,7 @@ class LoopbackCarrier : public host::Carrier {
         return result.status;
     }
 
-    std::optional<host::PoolWork> receive() override {
+    std::optional<host::PoolWork> receive(host::Domain /*domain*/) override {
         std::unique_lock<std::mutex> lock(mLock);
         mArrived.wait(lock, [this] { return !mCalls.empty(); });
         std::unique_ptr<host::IncomingCall> call = std::move(mCalls.front());

@@ -8,7 +8,8 @@
 namespace android::hardware {
 
 /**
- * Sets how many threads serve calls from other processes; call it before anything is registered.
+ * Sets how many threads serve HIDL's calls and tell of deaths, 1 unless set. They serve no plain
+ * binder. Call it before anything is registered.
  * @param maxThreads at least 1, the caller included if it will join
  * @param callerWillJoin whether the caller goes on to joinRpcThreadpool()
  */
