@@ -66,8 +66,13 @@ class IXbugCtrl;
  * kind counts as an empty reply, so its status reads as 0, a success.
  *
  * A command that can't reach the service, or finds it dead, logs error lines; a status of -1 does
- * not. The connection is kept for the manager's life: once the service has died every command
- * fails, even when it is back and isTarnReady() says so.
+ * not. The connection belongs to the process and is kept: once the service has died every command
+ * of every manager fails, even when the service is back and isTarnReady() says so. It is dropped
+ * when a manager ends; one that has handed out a controller never does, since the two hold each
+ * other. After a restart events come again only after another createTarnMsgManager().
+ *
+ * On a device, while a service that is declared there has not started yet, what looks it up may
+ * wait for it: making the first manager, isTarnReady(), and the first command.
  *
  * An accessor creates its controller on the first call, returns the same object on every later one,
  * needs no service and never returns null. The manager owns the controllers; a caller that keeps
@@ -253,7 +258,12 @@ class TARN_EXPORT ITarnManager : public virtual RefBase {
      */
     virtual int unRegisterListener(ITarnListener* listener) = 0;
 
-    /** Looks the hardware service up afresh: 0 when it is there, -1 when not. */
+    /**
+     * Looks the hardware service up afresh, which may wait as said above.
+     *
+     * @return 0 when it is there, though the process's connection may still be the dead one; -1
+     * when it is not.
+     */
     virtual int isTarnReady() = 0;
 
     /**
