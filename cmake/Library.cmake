@@ -20,6 +20,8 @@ endif()
 
 set(exports ${CMAKE_CURRENT_LIST_DIR}/exports.map)
 add_library(tarn_vendor_api SHARED)
+# As another project calls it that found it installed.
+add_library(tarn_vendor_api::tarn_vendor_api ALIAS tarn_vendor_api)
 target_link_libraries(tarn_vendor_api PUBLIC tarn_headers
                                       PRIVATE tarn_objects)
 target_link_options(tarn_vendor_api PRIVATE

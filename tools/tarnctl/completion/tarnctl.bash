@@ -1,6 +1,5 @@
 # Completion of tarnctl's command line in bash: source this file, or install it as
-# /usr/share/bash-completion/completions/tarnctl. In zsh, run "autoload bashcompinit; bashcompinit"
-# before. The candidates come from tarnctl itself.
+# /usr/share/bash-completion/completions/tarnctl. The candidates come from tarnctl itself.
 
 _tarnctl() {
     local words=("${COMP_WORDS[@]:1:COMP_CWORD}")
