@@ -69,11 +69,13 @@ void* obtain(TarnManager* manager, Mutex* lock, void* (*fillSlot)(TarnManager*, 
 }  // namespace
 
 // clang-format off
+// NOLINTBEGIN(bugprone-macro-parentheses): names of classes and methods stand in no parentheses.
 #define ACCESSOR(name, Controller, lock)                                                     \
     I##Controller* TarnManager::name() {                                                     \
         return static_cast<I##Controller*>(                                                  \
                 obtain(this, &lock, fill<Controller, I##Controller>, &m##Controller));       \
     }
+// NOLINTEND(bugprone-macro-parentheses)
 
 //       accessor                    controller             created under
 ACCESSOR(getSystemCtrl,              SystemCtrl,            mSystemCtrlLock)
