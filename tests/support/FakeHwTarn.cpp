@@ -1,15 +1,12 @@
 #include "tests/support/FakeHwTarn.h"
 
-#include <utils/String16.h>
-
 #include <stdexcept>
 
-#include "host/HostServiceManager.h"
+#include "tests/support/Withdraw.h"
 
 namespace tarn::test {
 
 using ::android::sp;
-using ::android::String16;
 using ::android::hardware::hidl_string;
 using ::android::hardware::hidl_vec;
 using ::android::hardware::Return;
@@ -22,7 +19,7 @@ void FakeHwTarn::publish() {
 }
 
 void FakeHwTarn::withdraw() {
-    ::android::host::removeService(String16("vendor.zunt.hwtarn@1.0::IHwTarn/default"));
+    withdrawDefault(this);
 }
 
 void FakeHwTarn::raiseEvent(uint32_t msgType, const std::vector<uint8_t>& bytes) {
@@ -66,6 +63,14 @@ bool FakeHwTarn::hasCallback() const {
 
 Return<void> FakeHwTarn::transport() const {
     return mTransport.isOk() ? Void() : Return<void>(mTransport);
+}
+
+Return<void> FakeHwTarn::hwReserved1() {
+    return Status::fromStatusT(::android::UNKNOWN_TRANSACTION);
+}
+
+Return<void> FakeHwTarn::hwReserved4() {
+    return Status::fromStatusT(::android::UNKNOWN_TRANSACTION);
 }
 
 Return<void> FakeHwTarn::hwRegisterCallback(const sp<IHwTarnCallback>& callback, int32_t pid) {

@@ -41,6 +41,10 @@ class FakeHwTarn : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
     int callbackPid() const;
     bool hasCallback() const;
 
+    // Pure where the HIDL compiler made the interface.
+    ::android::hardware::Return<void> hwReserved1() override;
+    ::android::hardware::Return<void> hwReserved4() override;
+
     ::android::hardware::Return<void> hwRegisterCallback(
             const ::android::sp<::vendor::zunt::hwtarn::V1_0::IHwTarnCallback>& callback,
             int32_t pid) override;

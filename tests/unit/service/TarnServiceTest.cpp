@@ -6,6 +6,7 @@
 
 #include <cstring>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@
 #include "tests/support/LogCapture.h"
 #include "tests/support/RecordingManager.h"
 #include "tests/support/RelayBinder.h"
+#include "tests/support/TokenMark.h"
 
 using android::BnTarnClient;
 using android::BpTarnClient;
@@ -138,13 +140,14 @@ class CapturingBinder : public android::BBinder {
     }
 };
 
-// An interface token is the strict mode word, the work source, the mark "SYST" and the name.
+// An interface token is the strict mode word, the work source, the partition's mark and the name.
 constexpr char kServiceToken[] =
-        "00000080 ffffffff 54535953 14000000 6100 6e00 6400 7200 6f00 6900 6400 2e00"
+        "00000080 ffffffff " TOKEN_MARK
+        " 14000000 6100 6e00 6400 7200 6f00 6900 6400 2e00"
         "4900 5400 6100 7200 6e00 5300 6500 7200 7600 6900 6300 6500 0000 0000";
-constexpr char kClientToken[] =
-        "00000080 ffffffff 54535953 13000000 6100 6e00 6400 7200 6f00 6900 6400 2e00"
-        "4900 5400 6100 7200 6e00 4300 6c00 6900 6500 6e00 7400 0000";
+constexpr char kClientToken[] = "00000080 ffffffff " TOKEN_MARK
+                                " 13000000 6100 6e00 6400 7200 6f00 6900 6400 2e00"
+                                "4900 5400 6100 7200 6e00 4300 6c00 6900 6500 6e00 7400 0000";
 
 TEST(BpTarnService, SendsAConnectAsTokenProcessAndClient) {
     const sp<CapturingBinder> remote = new CapturingBinder;
@@ -458,13 +461,38 @@ class RecordingServiceManager : public android::IServiceManager {
         return android::OK;
     }
 
+#ifdef __ANDROID__
+    // What Android 13 asks for beyond the headers of a Linux host.
+    using Callback = sp<LocalRegistrationCallback>;
+    android::Vector<String16> getDeclaredInstances(const String16&) override {
+        return {};
+    }
+    std::optional<String16> updatableViaApex(const String16&) override {
+        return {};
+    }
+    std::optional<ConnectionInfo> getConnectionInfo(const String16&) override {
+        return {};
+    }
+    status_t registerForNotifications(const String16&, const Callback&) override {
+        return android::INVALID_OPERATION;
+    }
+    status_t unregisterForNotifications(const String16&, const Callback&) override {
+        return android::INVALID_OPERATION;
+    }
+    std::vector<ServiceDebugInfo> getServiceDebugInfo() override {
+        return {};
+    }
+#endif
+
     String16 name;
     sp<IBinder> service;
     bool allowIsolated = true;
     int dumpFlags = 0;
 
   protected:
-    IBinder* onAsBinder() override { return nullptr; }
+    IBinder* onAsBinder() override {
+        return nullptr;
+    }
 };
 
 sp<RecordingServiceManager> installManager() {
