@@ -27,7 +27,8 @@ done
 # Those that the device can't run, for the reasons that stand in Android.bp.
 elsewhere='tests/unit/service/TarnClientTest.cpp
 tests/unit/tarnctl/TarnctlArgumentsTest.cpp
-tests/unit/tarnctl/TarnctlCommandsTest.cpp'
+tests/unit/tarnctl/TarnctlCommandsTest.cpp
+tests/unit/tarnctl/TarnctlValuesTest.cpp'
 for test in tests/contract/*Test.cpp tests/wire/*Test.cpp tests/unit/*/*Test.cpp; do
     case $test in tests/unit/host/* | tests/unit/simulator/*) continue ;; esac
     echo $named $elsewhere | tr ' ' '\n' | grep -qxF "$test" ||
