@@ -6,7 +6,10 @@
 
 namespace tarn::registry {
 
-/** The slot of a virtual method: C++ member pointers of the ABIs in use hold its table offset. */
+/**
+ * The slot of a virtual method. The first word of its member pointer is its offset in the table:
+ * plus one in most C++ ABIs, as it is in the ARM one, where that mark stands in the second word.
+ */
 template <typename MemberFunction>
 size_t slotOf(MemberFunction method) {
     uintptr_t word = 0;
