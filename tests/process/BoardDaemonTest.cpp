@@ -15,6 +15,7 @@
 #include <future>
 #include <map>
 #include <memory>
+#include <stdexcept>
 #include <thread>
 
 #include "protocol/Commands.h"
@@ -47,6 +48,13 @@ constexpr char kNoServiceLine[] = "Error, hw_invoke failed, mHwTarnService null 
 /** The manager of an application; when it goes, so does what it found. */
 sp<TarnManager> application() {
     return new TarnManager;
+}
+
+/** The board that is served. Where there is none the test fails and ends. */
+std::unique_ptr<simulator::BoardControl> servedBoard() {
+    std::unique_ptr<simulator::BoardControl> board = findServedBoard();
+    if (board == nullptr) throw std::runtime_error("no board is served");
+    return board;
 }
 
 int volumeOf(const sp<TarnManager>& manager) {
@@ -137,7 +145,7 @@ TEST(BoardDaemon, ServesTheBoardThatItIsGiven) {
         "properties": {"audio.volume": {"type": "i32", "initial": 13}}})");
     {
         const BoardProcess board({"--board", file.path()});
-        EXPECT_EQ("meeting room", findServedBoard()->name());
+        EXPECT_EQ("meeting room", servedBoard()->name());
         EXPECT_EQ(12, volumeOf(application()));
     }
     const BoardProcess board({"--board", file.path(), "--override", overrides.path()});
@@ -282,7 +290,7 @@ TEST(BoardDaemon, KilledInTheMiddleOfACallFailsThatCall) {
     BoardProcess board({"-v"});
     Json::Value slow;
     slow["delayMs"] = 60'000;
-    findServedBoard()->setFault("CMD_AUDIO_GET_VOLUME", slow);
+    servedBoard()->setFault("CMD_AUDIO_GET_VOLUME", slow);
     const sp<TarnManager> manager = application();
     std::future<int> volume = std::async(std::launch::async, [&] { return volumeOf(manager); });
     board.errorLineWith("CMD_AUDIO_GET_VOLUME");
@@ -297,7 +305,7 @@ TEST(BoardDaemon, DoesNotLetASlowCommandHoldUpOthers) {
     BoardProcess board({"-v"});
     Json::Value slow;
     slow["delayMs"] = 60'000;
-    findServedBoard()->setFault("CMD_AUDIO_GET_VOLUME", slow);
+    servedBoard()->setFault("CMD_AUDIO_GET_VOLUME", slow);
     const sp<TarnManager> manager = application();
     std::vector<std::future<int>> waiting;
     for (int i = 0; i < 4; i++) {
@@ -305,13 +313,13 @@ TEST(BoardDaemon, DoesNotLetASlowCommandHoldUpOthers) {
         board.errorLineWith("CMD_AUDIO_GET_VOLUME");
     }
     EXPECT_EQ(0, manager->exeCmdSet_Int(CMD_AUDIO_SET_VOLUME, 7));
-    EXPECT_EQ(7, findServedBoard()->getProperty("audio.volume").asInt());
+    EXPECT_EQ(7, servedBoard()->getProperty("audio.volume").asInt());
     board.signal(SIGKILL);
 }
 
 TEST(BoardDaemon, DeliversEventsAndKeepsThoseThatApplicationsPost) {
     const BoardProcess board;
-    const auto control = findServedBoard();
+    const auto control = servedBoard();
     // The library's event thread never ends, so its listener must not either.
     static Listener listener;
     const sp<TarnManager> manager = application();
@@ -353,7 +361,7 @@ class EventCounter : public IHwTarnCallback {
 
 TEST(BoardDaemon, KeepsOneCallbackForAProcessWhateverPidsItGives) {
     const BoardProcess board;
-    const auto control = findServedBoard();
+    const auto control = servedBoard();
     const sp<IHwTarn> service = IHwTarn::getService();
     const sp<EventCounter> last = new EventCounter;
     const sp<EventCounter> others = new EventCounter;
@@ -559,7 +567,7 @@ TEST_F(BoardControlOnTheBus, AnswersWhatItDoesNotUnderstandWithAnError) {
                       .getName());
     EXPECT_NE("",
               errorOf(callWith("SetProperty", std::string("audio.volume"), nested(40))).getName());
-    EXPECT_EQ("default", findServedBoard()->name());
+    EXPECT_EQ("default", servedBoard()->name());
 }
 
 TEST_F(BoardControlOnTheBus, HoldsOutAFloodOfCallsThatNobodyWaitsFor) {
@@ -587,7 +595,7 @@ TEST(RemoteBoard, IsNoneWhereNobodyServes) {
 
 TEST(RemoteBoard, GivesEveryPropertyAsTheBoardItselfDoes) {
     const BoardProcess board;
-    const auto control = findServedBoard();
+    const auto control = servedBoard();
     const Json::Value all = control->listProperties();
     for (const std::string& name : all.getMemberNames()) {
         EXPECT_EQ(all[name]["value"], control->getProperty(name)) << name;
@@ -597,7 +605,7 @@ TEST(RemoteBoard, GivesEveryPropertyAsTheBoardItselfDoes) {
 
 TEST(RemoteBoard, RefusesTextsThatAreNotUtf8AsTheBoardItselfDoes) {
     const BoardProcess board;
-    const auto control = findServedBoard();
+    const auto control = servedBoard();
     const std::string text = "\xff\xfe";
     const auto refusesText = testing::ThrowsMessage<std::invalid_argument>("text is not UTF-8");
     EXPECT_THAT([&] { control->setProperty("device.nfcTagMsg", text); }, refusesText);
@@ -622,13 +630,13 @@ TEST(RemoteBoard, RefusesTextsThatAreNotUtf8AsTheBoardItselfDoes) {
 
 TEST(RemoteBoard, SaysWhenTheDaemonIsGone) {
     BoardProcess board;
-    const auto control = findServedBoard();
+    const auto control = servedBoard();
     board.signal(SIGKILL);
     board.wait();
     EXPECT_THROW(control->getProperty("audio.volume"), BoardUnreachable);
     const BoardProcess another;
     EXPECT_THROW(control->getProperty("audio.volume"), BoardUnreachable);
-    EXPECT_EQ(30, findServedBoard()->getProperty("audio.volume").asInt());
+    EXPECT_EQ(30, servedBoard()->getProperty("audio.volume").asInt());
 }
 
 }  // namespace

@@ -19,6 +19,7 @@
 #include "host/HostServiceManager.h"
 #include "tests/process/Desk.h"
 #include "tests/process/ProcessTest.h"
+#include "tests/support/MoreThanMemory.h"
 
 namespace tarn::test {
 namespace {
@@ -434,8 +435,8 @@ android::status_t sendManyReferences(const DeskClient& desk, const sp<IBinder>& 
 }
 
 TEST_F(Carrier, WritesOnWhatDidNotFitIntoTheSocket) {
-    constexpr int kMessages = 240;                 // some 23 MiB; a socket holds 16 at most
-    constexpr auto kMuchPatience = 4 * kPatience;  // a sanitizer on a busy machine is slow at it
+    constexpr int kMessages = 240;             // some 23 MiB; a socket holds 16 at most
+    const auto kMuchPatience = 4 * kPatience;  // a sanitizer on a busy machine is slow at it
     RemoteDesk desk("tarn.test.desk");
     const sp<Desk> mine = new Desk;
     std::atomic<int> sent{0};
@@ -669,7 +670,8 @@ TEST_F(Carrier, LetsForkedChildrenEnd) {
 void refuseThreads(bool refused) {
     pthread_attr_t attributes;
     pthread_attr_init(&attributes);
-    pthread_attr_setstacksize(&attributes, refused ? size_t{1} << 46 : size_t{8} * kMebibyte);
+    pthread_attr_setstacksize(&attributes,
+                              refused ? tarn::test::kMoreThanMemory : size_t{8} * kMebibyte);
     pthread_setattr_default_np(&attributes);
     pthread_attr_destroy(&attributes);
 }

@@ -280,7 +280,7 @@ TEST_F(Hostile, FilesThatCouldChangeOrBlockAreRefused) {
     close(open);
 
     const int huge = memfd_create("huge", MFD_CLOEXEC | MFD_ALLOW_SEALING);
-    ASSERT_EQ(0, ftruncate(huge, off_t{1} << 40));
+    ASSERT_EQ(0, ftruncate64(huge, off64_t{1} << 40));
     ASSERT_EQ(0, fcntl(huge, F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE));
     EXPECT_EQ(kMalformed, transactWithFile(huge));
     close(huge);

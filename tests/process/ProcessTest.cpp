@@ -160,7 +160,10 @@ bool Child::add(const std::string& role, ChildBody body) {
 Child::Child(const std::string& role, const std::vector<std::string>& arguments) {
     const Pipe input;
     const Pipe output;
-    std::vector<std::string> command = {"/proc/self/exe", kChildMark, role};
+    // An emulated program is started through a script.
+    const char* self = getenv("TARN_TEST_SELF");
+    std::vector<std::string> command = {self == nullptr ? "/proc/self/exe" : self, kChildMark,
+                                        role};
     command.insert(command.end(), arguments.begin(), arguments.end());
     mPid = spawn(command, input.read, output.write);
     close(input.read);

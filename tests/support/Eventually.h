@@ -1,12 +1,20 @@
 #pragma once
 
+#include <algorithm>
 #include <chrono>
+#include <cstdlib>
 #include <thread>
 
 namespace tarn::test {
 
-/** How long a test waits for what must happen before it gives up. */
-inline constexpr std::chrono::seconds kPatience(20);
+/**
+ * How long a test waits for what must happen before it gives up; TARN_TEST_PATIENCE multiplies it,
+ * for machines that are slow.
+ */
+inline const std::chrono::seconds kPatience = [] {
+    const char* factor = std::getenv("TARN_TEST_PATIENCE");
+    return std::chrono::seconds(20) * (factor == nullptr ? 1 : std::max(1, std::atoi(factor)));
+}();
 
 /** Waits until a condition holds; false if it does not in time. */
 template <typename Condition>

@@ -24,6 +24,7 @@
 #include "simulator/board/SimulatedBoard.h"
 #include "simulator/control/LocalBoard.h"
 #include "simulator/description/BoardLoader.h"
+#include "tests/support/MoreThanMemory.h"
 #include "tests/support/RecordingManager.h"
 #include "values/Codec.h"
 #include "values/StrictJson.h"
@@ -529,7 +530,7 @@ class NoThreads {
         pthread_getattr_default_np(&mUsual);
         pthread_attr_t impossible;
         pthread_attr_init(&impossible);
-        pthread_attr_setstacksize(&impossible, size_t{1} << 48);
+        pthread_attr_setstacksize(&impossible, tarn::test::kMoreThanMemory);
         pthread_setattr_default_np(&impossible);
         pthread_attr_destroy(&impossible);
     }
