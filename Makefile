@@ -4,7 +4,7 @@
 BUILD ?= build
 CMAKE_FLAGS ?=
 
-.PHONY: run test bench build format clean
+.PHONY: run test test-arm32 bench build format clean
 
 # $(call build,TARGET,LIST OF PACKAGES...)
 define build
@@ -20,6 +20,11 @@ run:
 test: build
 	@ctest --test-dir $(BUILD) --output-on-failure --no-tests=error --parallel 2 --timeout 600
 	@$(BUILD)/bin/wire_test --table
+
+# The same for the device's architecture, 32-bit ARM, on an emulated processor.
+test-arm32:
+	@scripts/install-packages packages.txt packages-test.txt packages-arm32.txt
+	@scripts/test-arm32 build-arm32 $(CMAKE_FLAGS)
 
 bench:
 	$(call build,tarn_bench,packages.txt packages-test.txt)

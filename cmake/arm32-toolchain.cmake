@@ -19,14 +19,14 @@ set(ENV{PKG_CONFIG_LIBDIR} ${TARN_SYSROOT}/usr/lib/arm-linux-gnueabihf/pkgconfig
 set(ENV{PKG_CONFIG_SYSROOT_DIR} ${TARN_SYSROOT})
 
 # No notes about what older compilers passed in another way.
-string(APPEND CMAKE_CXX_FLAGS_INIT "-Wno-psabi")
+set(CMAKE_CXX_FLAGS_INIT "-Wno-psabi")
 
-# Every library names all that it needs, as the device's build demands.
-string(APPEND CMAKE_SHARED_LINKER_FLAGS_INIT "-Wl,--no-undefined")
-
-# The platform's libraries need others from folders that their own rpath doesn't name.
-set(libraries /usr/lib/arm-linux-gnueabihf/android /usr/lib/p7zip)
-string(APPEND CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,-rpath-link,${TARN_SYSROOT}/usr/lib/p7zip")
-string(APPEND CMAKE_SHARED_LINKER_FLAGS_INIT " -Wl,-rpath-link,${TARN_SYSROOT}/usr/lib/p7zip")
+# The platform's libraries need others from folders that they don't name themselves.
+set(libraries ${TARN_SYSROOT}/usr/lib/arm-linux-gnueabihf/android ${TARN_SYSROOT}/usr/lib/p7zip)
 list(JOIN libraries ":" libraries)
+
+# Everything linked names all that it needs, as the device's build demands.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,--no-undefined -Wl,-rpath-link,${libraries}")
+set(CMAKE_SHARED_LINKER_FLAGS_INIT ${CMAKE_EXE_LINKER_FLAGS_INIT})
+
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-arm -L ${TARN_SYSROOT} -E LD_LIBRARY_PATH=${libraries})

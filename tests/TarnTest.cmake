@@ -1,3 +1,28 @@
+# tarn_runner(TARGET VARIABLE): what starts a program of this build, as a path. An emulated program has
+# a script of its name in bin/emulated for that.
+function(tarn_runner target variable)
+  set(${variable} $<TARGET_FILE:${target}> PARENT_SCOPE)
+  if(CMAKE_CROSSCOMPILING_EMULATOR)
+    set(runner ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/emulated/${target})
+    list(JOIN CMAKE_CROSSCOMPILING_EMULATOR " " emulator)
+    set(program ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${target})
+    file(WRITE ${runner} "#!/bin/sh\nexec ${emulator} ${program} \"$@\"\n")
+    file(CHMOD ${runner} FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+    set(${variable} ${runner} PARENT_SCOPE)
+  endif()
+endfunction()
+
+# tarn_test_not_emulated(REASON NAME...): what can't be seen on an emulated processor is reported as
+# skipped, with its reason.
+function(tarn_test_not_emulated reason)
+  if(CMAKE_CROSSCOMPILING_EMULATOR)
+    foreach(name IN LISTS ARGN)
+      set_property(GLOBAL APPEND PROPERTY TARN_NOT_EMULATED "${name}: ${reason}")
+      set_property(TEST ${name} PROPERTY DISABLED TRUE)
+    endforeach()
+  endif()
+endfunction()
+
 # tarn_test(NAME SOURCES file... LIBRARIES target...): one test program, one ctest entry, with
 # properties of its own and, unless it asks for one, no bus.
 function(tarn_test name)
@@ -10,6 +35,11 @@ function(tarn_test name)
   tarn_precompiled_by(${name} test_headers)
   add_test(NAME ${name} COMMAND ${name})
   tarn_test_environment(${name})
+  # A test starts itself anew through it.
+  if(CMAKE_CROSSCOMPILING_EMULATOR)
+    tarn_runner(${name} runner)
+    set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT TARN_TEST_SELF=${runner})
+  endif()
 endfunction()
 
 # tarn_test_threaded(NAME...): tests that run under the thread sanitizer too.
