@@ -23,6 +23,17 @@ function(tarn_test_not_emulated reason)
   endif()
 endfunction()
 
+# tarn_cases_not_emulated(REASON NAME CASE...): the same for single cases of a test.
+function(tarn_cases_not_emulated reason name)
+  if(CMAKE_CROSSCOMPILING_EMULATOR)
+    foreach(case IN LISTS ARGN)
+      set_property(GLOBAL APPEND PROPERTY TARN_NOT_EMULATED "${name}, ${case}: ${reason}")
+    endforeach()
+    list(JOIN ARGN ":" cases)
+    set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT GTEST_FILTER=-${cases})
+  endif()
+endfunction()
+
 # tarn_test(NAME SOURCES file... LIBRARIES target...): one test program, one ctest entry, with
 # properties of its own and, unless it asks for one, no bus.
 function(tarn_test name)

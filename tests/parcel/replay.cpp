@@ -77,9 +77,11 @@ uint64_t num(const Str& s) {
 // A length that the machine has no word for: what Android did with it can't be asked for.
 struct BeyondSizeT {};
 
+// A length of 64 bits. Those next to its end are the same next to the end of a smaller size_t.
 size_t length(const Str& s) {
     const uint64_t n = num(s);
-    if (n > SIZE_MAX) throw BeyondSizeT();
+    const bool negative = n > UINT64_MAX - INT32_MAX;
+    if (n > SIZE_MAX && !negative) throw BeyondSizeT();
     return size_t(n);
 }
 
