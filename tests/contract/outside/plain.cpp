@@ -18,7 +18,8 @@ class Manager : public android::TarnManager {
 }  // namespace
 
 int main() {
-    android::sp<android::ITarnManager> manager = new Manager;
+    // In sight to the end: a manager that handed out a controller is never freed.
+    static android::sp<android::ITarnManager> manager = new Manager;
     printf("ready %d\n", manager->isTarnReady());
     printf("volume %d\n", manager->getAudioCtrl()->getVolume());
     return 0;
