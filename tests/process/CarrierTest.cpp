@@ -550,12 +550,8 @@ CHILD(caller) {
     return 0;
 }
 
-// A process without a pool serves on the one that joins.
-CHILD(single) {
-    find(arguments[0]);
-    const size_t before = runningThreads();
-    if (publish(arguments[0], new Desk) != NO_ERROR) return 1;
-    if (runningThreads() != before) return 2;
+// Joins with this thread; the end of the input, or a line, stops it.
+int serveHereUntilClosed() {
     std::thread([] {
         listen();
         android::IPCThreadState::self()->stopProcess();
@@ -565,10 +561,27 @@ CHILD(single) {
     return 0;
 }
 
+// A process without a pool serves on the one that joins.
+CHILD(single) {
+    find(arguments[0]);
+    const size_t before = runningThreads();
+    const int published = publish(arguments[0], new Desk);
+    if (published != NO_ERROR) {
+        tell("the desk is not published: " + std::to_string(published));
+        return 1;
+    }
+    if (runningThreads() != before) {
+        tell("publishing started a thread");
+        return 2;
+    }
+    return serveHereUntilClosed();
+}
+
 TEST_F(Carrier, ServesOnTheJoinedThreadAlone) {
     Child single("single", {"tarn.test.desk"});
-    single.readLine();
+    ASSERT_EQ("ready", single.readLine());
     const DeskClient desk(find("tarn.test.desk"));
+    ASSERT_NE(nullptr, desk.binder()) << "the child's desk is not found";
     EXPECT_EQ(NO_ERROR, desk.note(1));
     EXPECT_EQ(NO_ERROR, desk.note(2));
     EXPECT_TRUE(eventually([&] { return desk.notes().size() == 2; }));
