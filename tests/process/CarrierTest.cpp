@@ -587,6 +587,47 @@ TEST_F(Carrier, ServesOnTheJoinedThreadAlone) {
     EXPECT_TRUE(eventually([&] { return desk.notes().size() == 2; }));
 }
 
+// Serves further calls while it is called, until the process is stopped. Answers with its caller,
+// and whether that and its place on the stack are still those from before.
+class Nest : public BBinder {
+    android::status_t onTransact(uint32_t code, const Parcel& data, Parcel* reply,
+                                 uint32_t flags) override {
+        if (code != FIRST_CALL_TRANSACTION) return BBinder::onTransact(code, data, reply, flags);
+        android::IPCThreadState* const thread = android::IPCThreadState::self();
+        const pid_t caller = thread->getCallingPid();
+        const void* const place = thread->getServingStackPointer();
+        tell("serving");
+        thread->joinThreadPool();
+        reply->writeInt32(caller);
+        reply->writeBool(thread->getCallingPid() == caller);
+        return reply->writeBool(thread->getServingStackPointer() == place);
+    }
+};
+
+CHILD(nesting) {
+    if (publish(arguments[0], new Nest) != NO_ERROR) return 1;
+    return serveHereUntilClosed();
+}
+
+TEST_F(Carrier, AnswersACallThatServedOthersInBetween) {
+    Child nesting("nesting", {"tarn.test.nest"});
+    ASSERT_EQ("ready", nesting.readLine());
+    const sp<IBinder> nest = find("tarn.test.nest");
+    ASSERT_NE(nullptr, nest);
+    Parcel data;
+    Parcel reply;
+    auto outer = std::async(std::launch::async, [&] {
+        return nest->transact(IBinder::FIRST_CALL_TRANSACTION, data, &reply);
+    });
+    EXPECT_EQ("serving", nesting.readLine());
+    for (int i = 0; i < 2; i++) EXPECT_EQ(NO_ERROR, nest->pingBinder());
+    nesting.writeLine("stop");
+    EXPECT_EQ(NO_ERROR, outer.get());
+    EXPECT_EQ(getpid(), reply.readInt32());
+    EXPECT_TRUE(reply.readBool()) << "another caller";
+    EXPECT_TRUE(reply.readBool()) << "another place on the stack";
+}
+
 // A process that ends while it serves a call.
 class Dawdler : public BBinder {
     android::status_t onTransact(uint32_t, const Parcel&, Parcel*, uint32_t) override {

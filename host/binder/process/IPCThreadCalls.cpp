@@ -141,9 +141,11 @@ status_t IPCThreadState::getAndExecuteCommand() {
         if (const auto* task = std::get_if<host::Task>(&*work); task != nullptr) {
             (*task)();
         } else {
+            // Another one, if what it served has joined the pool.
+            host::IncomingCall* const outer = tIncoming;
             tIncoming = std::get<std::unique_ptr<host::IncomingCall>>(*work).get();
             executeCommand(static_cast<int32_t>(tIncoming->code));
-            tIncoming = nullptr;
+            tIncoming = outer;
         }
         work.reset();
     }
@@ -159,14 +161,20 @@ status_t IPCThreadState::getAndExecuteCommand() {
     return NO_ERROR;
 }
 
-// Serves the incoming call under its caller's identity.
+// Serves the incoming call under its caller's identity. The thread may be serving another call
+// already, whose identity it has again afterwards.
 status_t IPCThreadState::executeCommand(int32_t command) {
     const host::IncomingCall& call = *tIncoming;
     const int64_t workSource = clearCallingWorkSource();
     clearPropagateWorkSource();
     const int32_t strictModePolicy = mStrictModePolicy;
     const int32_t lastFlags = mLastTransactionBinderFlags;
+    const pid_t callingPid = mCallingPid;
+    const char* const callingSid = mCallingSid;
+    const uid_t callingUid = mCallingUid;
+    const void* const servingStackPointer = mServingStackPointer;
     mCallingPid = call.callingPid;
+    mCallingSid = nullptr;
     mCallingUid = call.callingUid;
     mLastTransactionBinderFlags = static_cast<int32_t>(call.flags);
     mServingStackPointer = __builtin_frame_address(0);
@@ -181,8 +189,10 @@ status_t IPCThreadState::executeCommand(int32_t command) {
     }
     if (status != NO_ERROR) reply.setError(status);
 
-    mServingStackPointer = nullptr;
-    clearCaller();
+    mServingStackPointer = servingStackPointer;
+    mCallingPid = callingPid;
+    mCallingSid = callingSid;
+    mCallingUid = callingUid;
     mLastTransactionBinderFlags = lastFlags;
     mStrictModePolicy = strictModePolicy;
     restoreCallingWorkSource(workSource);
