@@ -10,6 +10,8 @@ namespace android {
 
 namespace {
 
+constexpr int kKeyFields = 6;
+
 EntitySwKey readKey(const Parcel& reply) {
     EntitySwKey key;
     key.keyId = reply.readInt32();
@@ -36,7 +38,7 @@ bool BurnKeyCtrl::getSupportBurnKeyList(std::vector<EntitySwKey>* list) {
         TLOGE("[%s]  error, ret = %d\n", __func__, status);
         return false;
     }
-    readList(reply, readKey, list);
+    readList(reply, kKeyFields, readKey, list);
     return true;
 }
 

@@ -10,6 +10,8 @@ namespace android {
 
 namespace {
 
+constexpr int kMacFields = 5;
+
 EntitySwMac readMac(const Parcel& reply) {
     EntitySwMac mac;
     mac.macId = reply.readInt32();
@@ -35,7 +37,7 @@ bool BurnMacCtrl::getSupportBurnMacList(std::vector<EntitySwMac>* list) {
         TLOGE("[%s]  error, ret = %d\n", __func__, status);
         return false;
     }
-    readList(reply, readMac, list);
+    readList(reply, kMacFields, readMac, list);
     return true;
 }
 

@@ -60,7 +60,7 @@ bool CameraCtrl::getFwCameraList(std::vector<EntityFwCamera>* out) {
     if (ok) {
         // The exchange hands over no reply, so the list stays empty and gives callers no data.
         const Parcel reply;
-        readList(reply, readFirmware<EntityFwCamera>, out);
+        readList(reply, kFirmwareFields, readFirmware<EntityFwCamera>, out);
     } else {
         TLOGE_AT(106, "[%s]  fail, ret = %d \n", __func__, ok);
     }

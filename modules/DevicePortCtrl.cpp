@@ -36,7 +36,7 @@ int DevicePortCtrl::getDevicePortList(std::vector<String16>& ports) {
     ports.clear();
     Parcel reply;
     mTarnMgr->exeCmdSet_Parcel(CMD_DEVICE_PORT_GET_LIST, &reply);
-    readList(reply, readName, &ports);
+    readList(reply, 1, readName, &ports);
     return 0;
 }
 

@@ -54,7 +54,7 @@ std::vector<std::string> ExtendDisplayCtrl::getExtendDisplayUserResolutionList()
         TLOGE("exeCmdSet_Parcel:CMD_EXTENDDISPLAY_CTRL_GET_USER_RESOLUTION_LIST error!\n");
         return resolutions;
     }
-    readList(reply, readUtf8, &resolutions);
+    readList(reply, 1, readUtf8, &resolutions);
     return resolutions;
 }
 
@@ -92,7 +92,7 @@ std::vector<std::string> ExtendDisplayCtrl::getExtendDisplaySuportColorFormatLis
         TLOGE("exeCmdSet_Parcel:CMD_EXTENDDISPLAY_CTRL_GET_SUPORT_COLOR_FORMAT_LIST error!\n");
         return formats;
     }
-    readList(reply, readUtf8, &formats);
+    readList(reply, 1, readUtf8, &formats);
     return formats;
 }
 

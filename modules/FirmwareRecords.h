@@ -21,6 +21,8 @@ void readFirmwareTexts(const Parcel& reply, Record* record) {
     record->flag2 = reply.readBool();
 }
 
+constexpr int kDeviceFields = 11;
+
 /** Reads the record of a touch frame or a microphone. */
 template <typename Record>
 Record readDevice(const Parcel& reply) {
@@ -31,6 +33,8 @@ Record readDevice(const Parcel& reply) {
     readFirmwareTexts(reply, &record);
     return record;
 }
+
+constexpr int kFirmwareFields = 12;
 
 /** Reads the record of a camera or an I/O box. */
 template <typename Record>

@@ -12,6 +12,9 @@ namespace android {
 
 namespace {
 
+constexpr int kDriverFields = 6;
+constexpr int kDataFields = 25;
+
 /** The low 16 bits of the next integer. */
 int16_t readShort(const Parcel& reply) {
     return static_cast<int16_t>(reply.readInt32());
@@ -45,12 +48,12 @@ TouchFwDataList readData(const Parcel& reply) {
 
 /** Unlike elsewhere, every result of the exchange but 0 is a failure. */
 template <typename Record>
-bool askForList(const sp<TarnManager>& manager, int cmd, Record (*readRecord)(const Parcel&),
-                std::vector<Record>* out) {
+bool askForList(const sp<TarnManager>& manager, int cmd, int fields,
+                Record (*readRecord)(const Parcel&), std::vector<Record>* out) {
     Parcel reply;
     out->clear();
     if (manager->exeCmdSet_Parcel(cmd, &reply) != 0) return false;
-    readList(reply, readRecord, out);
+    readList(reply, fields, readRecord, out);
     return true;
 }
 
@@ -62,17 +65,18 @@ FwTouchCtrl::FwTouchCtrl(const sp<TarnManager>& manager) : mTarnMgr(manager) {
 
 bool FwTouchCtrl::getFwTouchList(std::vector<EntityFwTouch>* out) {
     TLOGD_AT(30, "[%s]\n", __func__);
-    return askForList(mTarnMgr, CMD_FW_TOUCH_GET_LIST, readDevice<EntityFwTouch>, out);
+    return askForList(mTarnMgr, CMD_FW_TOUCH_GET_LIST, kDeviceFields, readDevice<EntityFwTouch>,
+                      out);
 }
 
 bool FwTouchCtrl::getFwTouchDriverInfoList(std::vector<EntityFwTouchDriver>* out) {
     TLOGD_AT(65, "[%s]\n", __func__);
-    return askForList(mTarnMgr, CMD_FW_TOUCH_GET_DRIVER_LIST, readDriver, out);
+    return askForList(mTarnMgr, CMD_FW_TOUCH_GET_DRIVER_LIST, kDriverFields, readDriver, out);
 }
 
 bool FwTouchCtrl::getTouchFwDataList(std::vector<TouchFwDataList>* out) {
     TLOGD_AT(96, "[%s]\n", __func__);
-    return askForList(mTarnMgr, CMD_FW_TOUCH_GET_DATA_LIST, readData, out);
+    return askForList(mTarnMgr, CMD_FW_TOUCH_GET_DATA_LIST, kDataFields, readData, out);
 }
 
 }  // namespace android

@@ -13,6 +13,8 @@ namespace android {
 
 namespace {
 
+constexpr int kMcuFields = 10;
+
 /** A text that does not fit with its NUL ends the process; it is never cut. */
 template <size_t Size>
 void readText(const Parcel& reply, char (&field)[Size]) {
@@ -67,10 +69,9 @@ String16 FwUpgrade::getFwInfoTypecList() {
 bool FwUpgrade::getFwMcuList(std::vector<EntityFwInfoMcu>& list) {
     Parcel reply;
     if (mTarnMgr->exeCmdSet_Parcel(CMD_FW_GET_MCU_LIST, &reply) == -1) return false;
-    // The count is the service's and is trusted: past the end of a short reply records are zero.
     const int32_t count = reply.readInt32();
     TLOGD("getFwMcuList list_num = %d", count);
-    for (int32_t i = 0; i < count; i++) list.push_back(readMcu(reply));
+    readRecords(reply, recordsToRead(count, kMcuFields), readMcu, &list);
     return true;
 }
 

@@ -34,7 +34,7 @@ bool IoBoxCtrl::getFwIoBoxList(std::vector<EntityFwIoBox>* out) {
     if (ok) {
         // The exchange hands over no reply, so the list stays empty and gives callers no data.
         const Parcel reply;
-        readList(reply, readFirmware<EntityFwIoBox>, out);
+        readList(reply, kFirmwareFields, readFirmware<EntityFwIoBox>, out);
     } else {
         TLOGE_AT(52, "[%s]  fail, ret = %d \n", __func__, ok);
     }

@@ -42,7 +42,7 @@ std::vector<std::string> LandscapeCtrl::getLandscapeAppList() {
         return apps;
     }
     reply.setDataPosition(0);
-    readList(reply, readUtf8, &apps);
+    readList(reply, 1, readUtf8, &apps);
     return apps;
 }
 

@@ -20,7 +20,7 @@ int MicrophoneCtrl::getFwMicrophoneList(std::vector<EntityMicrophone>* list) {
     if (ret) {
         // The exchange hands over no reply, so the list stays empty and gives callers no data.
         const Parcel reply;
-        readList(reply, readDevice<EntityMicrophone>, list);
+        readList(reply, kDeviceFields, readDevice<EntityMicrophone>, list);
     } else {
         TLOGE("[%s]  fail, ret = %d \n", __func__, ret);
     }

@@ -1,5 +1,6 @@
 #include "modules/PcModuleCtrl.h"
 
+#include "modules/Replies.h"
 #include "protocol/Commands.h"
 
 #define TARN_LOG_TAG "Zunt@PcModuleCtrl"
@@ -54,9 +55,9 @@ std::vector<_EnumPcBootMode> PcModuleCtrl::getSupportPcBootModeList() {
     std::vector<_EnumPcBootMode> modes;
     Parcel reply;
     mTarnMgr->exeCmdSet_Parcel(CMD_PC_MODULE_GET_SUPPORTED_BOOT_MODES, &reply);
-    // The count is the service's and is trusted: past the end of a short reply modes read as 0.
     const int32_t count = reply.readInt32();
-    for (int32_t i = 0; i < count; i++) {
+    const int32_t most = recordsToRead(count, 1);
+    for (int32_t i = 0; i < most; i++) {
         const int32_t mode = reply.readInt32();
         TLOGD_AT(104, "PcModuleCtrl::getSupportPcBootModeList list_cnt:%d, val:%d", count, mode);
         modes.push_back(static_cast<_EnumPcBootMode>(mode));

@@ -81,13 +81,35 @@ inline std::string readUtf8(const Parcel& reply) {
 }
 
 /**
- * Appends a counted list of records. The count is the service's and is trusted: past the end of
- * a short reply the records read as zeros and empty texts and are appended all the same.
+ * How many records of a list to read. The count is the service's and is trusted as far as any reply
+ * could carry that many: a record has at least one word of four bytes for each of its fields. What
+ * lies beyond is left out and logged.
+ */
+int32_t recordsToRead(int32_t count, int fields);
+
+/**
+ * Appends count records. Past the end of a short reply they read as zeros and empty texts and are
+ * appended all the same; one of them is read, since the platform logs each text that it misses.
  */
 template <typename Record>
-void readList(const Parcel& reply, Record (*readRecord)(const Parcel&), std::vector<Record>* list) {
-    const int32_t count = reply.readInt32();
-    for (int32_t i = 0; i < count; i++) list->push_back(readRecord(reply));
+void readRecords(const Parcel& reply, int32_t count, Record (*readRecord)(const Parcel&),
+                 std::vector<Record>* list) {
+    Record record;
+    bool ended = false;
+    for (int32_t i = 0; i < count; i++) {
+        if (!ended) {
+            ended = reply.dataAvail() < sizeof(int32_t);
+            record = readRecord(reply);
+        }
+        list->push_back(record);
+    }
+}
+
+/** Appends a counted list of records of so many fields. */
+template <typename Record>
+void readList(const Parcel& reply, int fields, Record (*readRecord)(const Parcel&),
+              std::vector<Record>* list) {
+    readRecords(reply, recordsToRead(reply.readInt32(), fields), readRecord, list);
 }
 
 }  // namespace android

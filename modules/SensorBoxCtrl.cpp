@@ -18,7 +18,7 @@ bool SensorBoxCtrl::getFwSensorBoxList(std::vector<EntitySensorBox>* out) {
     if (ok) {
         // The exchange hands over no reply, so the list stays empty and gives callers no data.
         const Parcel reply;
-        readList(reply, readSensorBox, out);
+        readList(reply, kSensorBoxFields, readSensorBox, out);
     } else {
         TLOGE_AT(50, "[%s]  fail, ret = %d \n", __func__, ok);
     }

@@ -7,6 +7,8 @@
 
 namespace android {
 
+constexpr int kSensorBoxFields = 9;
+
 /** Reads the record of a sensor box. */
 inline EntitySensorBox readSensorBox(const Parcel& reply) {
     EntitySensorBox box;

@@ -1,5 +1,6 @@
 #include "modules/SmartPenModeCtrl.h"
 
+#include "modules/Replies.h"
 #include "protocol/Commands.h"
 
 #define TARN_LOG_TAG "Zunt@SmartPenModeCtrl"
@@ -16,9 +17,9 @@ std::vector<_EnumSmartPenMode> SmartPenModeCtrl::getSupportSmartPenModeList() {
     std::vector<_EnumSmartPenMode> modes;
     Parcel reply;
     mTarnMgr->exeCmdSet_Parcel(CMD_SMART_PEN_MODE_GET_SUPPORTED, &reply);
-    // The count is the service's and is trusted: past the end of a short reply modes read as 0.
     const int32_t count = reply.readInt32();
-    for (int32_t i = 0; i < count; i++) {
+    const int32_t most = recordsToRead(count, 1);
+    for (int32_t i = 0; i < most; i++) {
         const int32_t mode = reply.readInt32();
         TLOGD_AT(43, "SmartPenModeCtrl::getSupportSmartPenModeList list_cnt:%d, val:%d", count,
                  mode);

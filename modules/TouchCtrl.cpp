@@ -38,6 +38,9 @@ bool sendSourceRect(const sp<TarnManager>& manager, int cmd, const TouchRect& re
     return sendForBoolUnlessFailed(manager, cmd, request);
 }
 
+// The index and what readNoTouchArea() reads.
+constexpr int kNoTouchAreaFields = 6;
+
 /** Reads what follows the index in the reply to CMD_TOUCH_GET_NO_TOUCH_AREA. */
 void readNoTouchArea(const Parcel& reply, int id, std::vector<TouchRect>* areas) {
     const int32_t valid = reply.readInt32();
@@ -181,8 +184,7 @@ std::vector<TouchRect> TouchCtrl::getAllNoTouchAreas() {
     std::vector<TouchRect> areas;
     Parcel request;
     Parcel reply;
-    // The count is the service's and is trusted.
-    const int count = getMaxSupportedNoTouchAreas();
+    const int count = recordsToRead(getMaxSupportedNoTouchAreas(), kNoTouchAreaFields);
     for (int i = 0; i < count; i++) {
         request.writeInt32(i);
         const int status = mTarnMgr->exeCmdSet_Parcel(CMD_TOUCH_GET_NO_TOUCH_AREA, request, &reply);

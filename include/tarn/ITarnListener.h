@@ -16,8 +16,8 @@ class TARN_EXPORT ITarnListener {
      * Called for every event on the library's event thread, with no library lock held: it may issue
      * commands and register or unregister listeners. Events come one at a time, in the order in
      * which they were raised and at most one every 10 ms; a listener that takes long delays those
-     * that follow. When createTarnMsgManager() was called more than once, each call added a thread,
-     * and events may come side by side.
+     * that follow. What waits is kept in memory, without a bound. When createTarnMsgManager() was
+     * called more than once, each call added a thread, and events may come side by side.
      *
      * @param msgType the event's number, service-defined.
      * @param ext1    always 0.

@@ -62,8 +62,9 @@ class IXbugCtrl;
  * A command blocks until the service has answered. It fails when the service can't be reached, has
  * died or answers a status of -1; each interface says what a failed call returns, mostly -1, false
  * or an empty text. Any other status, a negative one too, is a success, and a value of -1 can't be
- * told from a failure. What a reply lacks reads as 0, false or empty. A transport error of another
- * kind counts as an empty reply, so its status reads as 0, a success.
+ * told from a failure. What a reply lacks reads as 0, false or empty; a list is as long as the
+ * reply says, up to what the largest reply, 1,040,384 bytes, could hold. A transport error of
+ * another kind counts as an empty reply, so its status reads as 0, a success.
  *
  * A command that can't reach the service, or finds it dead, logs error lines; a status of -1 does
  * not. The connection belongs to the process and is kept: once the service has died every command

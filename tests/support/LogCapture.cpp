@@ -16,6 +16,7 @@ namespace {
 std::mutex gLock;
 bool gCapturing = false;
 std::vector<LogLine> gLines;
+size_t gPlatformLines = 0;
 
 /** What is between the colour codes, or the whole text where there are none. */
 std::string withoutColour(const std::string& text) {
@@ -42,6 +43,7 @@ LogCapture::LogCapture() : mOldLevel(getLogLevel(2)) {
     setLogLevel(TARN_LOG_UNKNOWN);
     std::lock_guard<std::mutex> guard(gLock);
     gLines.clear();
+    gPlatformLines = 0;
     gCapturing = true;
 }
 
@@ -62,9 +64,15 @@ std::vector<std::string> LogCapture::messages() const {
     return messages;
 }
 
+size_t LogCapture::platformLines() const {
+    std::lock_guard<std::mutex> guard(gLock);
+    return gPlatformLines;
+}
+
 void LogCapture::clear() {
     std::lock_guard<std::mutex> guard(gLock);
     gLines.clear();
+    gPlatformLines = 0;
 }
 
 }  // namespace tarn::test
@@ -79,6 +87,7 @@ extern "C" int __android_log_print(int priority, const char* tag, const char* fo
     // The platform's own libraries log through here too; theirs is not the library's shape.
     const bool ours = strstr(format, "[%s:%d] %s") != nullptr;
     std::lock_guard<std::mutex> guard(tarn::test::gLock);
+    if (!ours) tarn::test::gPlatformLines++;
     if (ours && tarn::test::gCapturing) {
         tarn::test::gLines.push_back(
                 tarn::test::takeApart(priority, tag != nullptr ? tag : "", text));

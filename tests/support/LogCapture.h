@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,9 @@ class LogCapture {
 
     /** The messages alone, in order. */
     std::vector<std::string> messages() const;
+
+    /** How many lines the platform's own libraries wrote; their texts are not kept. */
+    size_t platformLines() const;
 
     /** Forgets what came so far. */
     void clear();
