@@ -29,19 +29,15 @@ TarnService::~TarnService() {
     if (sTarnPlatform == this) sTarnPlatform = nullptr;
 }
 
-bool TarnService::hasClient(const sp<ITarnClient>& client) const {
-    const sp<IBinder> binder = IInterface::asBinder(client);
-    for (size_t i = 0; i < mClients.size(); i++) {
-        if (IInterface::asBinder(mClients[i]) == binder) return true;
-    }
-    return false;
-}
-
 int TarnService::connect(int pid, const sp<ITarnClient>& client) {
     AutoMutex guard(mClientLock);
     TLOGD("entern connect, client pid = %d", pid);
     // Each CONNECT of a remote client comes with a proxy of its own; the binder is the same.
-    if (!hasClient(client)) mClients.add(client);
+    const sp<IBinder> binder = IInterface::asBinder(client);
+    if (mBinders.indexOf(binder.get()) < 0) {
+        mBinders.add(binder.get());
+        mClients.add(client);
+    }
     mClientPids.add(pid);
     TLOGD("mClients.size = %d ", static_cast<int>(mClients.size()));
     return -1;

@@ -21,9 +21,9 @@ TARN_EXPORT extern ITarnPlatform* sTarnPlatform;
  * Clients in other processes call it on binder threads of this process, several at once. The
  * library starts none: the process has to call ProcessState::self()->startThreadPool(), best before
  * instantiate(), or IPCThreadState::self()->joinThreadPool(); until then the published service
- * answers nobody, and whoever connects waits. Any thread
- * may call its platform side; notifications go out one at a time, on the thread that raises them.
- * One that is too large for the transport is lost without a sign.
+ * answers nobody, and whoever connects waits. Any thread may call its platform side; notifications
+ * go out one at a time, on the thread that raises them. One that is too large for the transport is
+ * lost without a sign.
  */
 class TARN_EXPORT TarnService : public BnTarnService, public ITarnPlatform {
   public:
@@ -52,12 +52,11 @@ class TARN_EXPORT TarnService : public BnTarnService, public ITarnPlatform {
     int notify(unsigned int msgType, void* data, unsigned int size, void* ext) const override;
 
   private:
-    bool hasClient(const sp<ITarnClient>& client) const;
-
     mutable Mutex mLock;  // held while a notification is fanned out
     SortedVector<sp<ITarnClient>> mClients;
     SortedVector<int> mClientPids;
-    mutable Mutex mClientLock;  // guards the two lists; held while a client connects
+    mutable Mutex mClientLock;        // guards the three lists; held while a client connects
+    SortedVector<IBinder*> mBinders;  // of mClients, which keep them
 };
 
 }  // namespace android
