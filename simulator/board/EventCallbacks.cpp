@@ -27,26 +27,33 @@ class EventCallbacks::DeathRecipient : public ::android::hardware::hidl_death_re
     const IHwTarnCallback* const mCallback;  // only compared, never called
 };
 
+EventDispatcher::Deliver EventCallbacks::delivery(int32_t pid, const Callback& callback) {
+    return [self = weak_from_this(), pid, callback](const Event& event) {
+        const hidl_vec<uint8_t> data(event.data);
+        if (!callback->hwNotify_vec(event.type, 0, data).isDeadObject()) return;
+        if (const auto callbacks = self.lock()) callbacks->drop(pid, callback.get());
+    };
+}
+
 bool EventCallbacks::add(int32_t pid, const Callback& callback) {
-    Receiver receiver;
-    receiver.callback = callback;
-    receiver.deathRecipient = new DeathRecipient(weak_from_this(), pid, callback.get());
+    const sp<DeathRecipient> deathRecipient(
+            new DeathRecipient(weak_from_this(), pid, callback.get()));
+    Receiver replaced;  // released without the lock
     try {
-        receiver.dispatcher = std::make_unique<EventDispatcher>(
-                [self = weak_from_this(), pid, callback](const Event& event) {
-                    const hidl_vec<uint8_t> data(event.data);
-                    if (!callback->hwNotify_vec(event.type, 0, data).isDeadObject()) return;
-                    if (const auto callbacks = self.lock()) callbacks->drop(pid, callback.get());
-                });
+        std::lock_guard<std::mutex> guard(mLock);
+        const auto found = mReceivers.find(pid);
+        if (found == mReceivers.end()) {
+            auto dispatcher = std::make_unique<EventDispatcher>(delivery(pid, callback));
+            mReceivers[pid] = {callback, deathRecipient, std::move(dispatcher)};
+        } else {
+            Receiver& receiver = found->second;
+            receiver.dispatcher->redirect(delivery(pid, callback));
+            replaced.callback = std::exchange(receiver.callback, callback);
+            replaced.deathRecipient = std::exchange(receiver.deathRecipient, deathRecipient);
+        }
     } catch (const std::system_error&) {
         return false;
     }
-    const auto deathRecipient = receiver.deathRecipient;
-    {
-        std::lock_guard<std::mutex> guard(mLock);
-        std::swap(mReceivers[pid], receiver);
-    }
-    if (receiver.dispatcher != nullptr) receiver.dispatcher->abandon();
     if (callback->isRemote() && !callback->linkToDeath(deathRecipient, 0).withDefault(false)) {
         drop(pid, callback.get());
     }

@@ -15,8 +15,8 @@
 namespace tarn::simulator {
 
 /**
- * Who wants the board's events: one callback a process, each called on a thread of its own, so that
- * a process that is stopped holds up nobody else. Any thread may call.
+ * Who wants the board's events: one callback a process, each process's called on a thread of its
+ * own, so that one that is stopped holds up nobody else. Any thread may call.
  */
 class EventCallbacks : public std::enable_shared_from_this<EventCallbacks> {
   public:
@@ -24,8 +24,9 @@ class EventCallbacks : public std::enable_shared_from_this<EventCallbacks> {
     using Callback = ::android::sp<IHwTarnCallback>;
 
     /**
-     * Replaces the callback that the process had. It is dropped when its process dies. False, and
-     * nothing is changed, if no thread can be started for it.
+     * Replaces the callback that the process had, on the same thread: a process has one at most,
+     * however often it registers, so one that does not return holds up the one after it. It is
+     * dropped when its process dies. False, and nothing is changed, if no thread can be started.
      */
     bool add(int32_t pid, const Callback& callback);
 
@@ -46,6 +47,7 @@ class EventCallbacks : public std::enable_shared_from_this<EventCallbacks> {
         std::unique_ptr<EventDispatcher> dispatcher;
     };
 
+    EventDispatcher::Deliver delivery(int32_t pid, const Callback& callback);
     void drop(int32_t pid, const IHwTarnCallback* dead);
 
     mutable std::mutex mLock;

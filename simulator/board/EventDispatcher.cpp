@@ -9,21 +9,30 @@
 namespace tarn::simulator {
 
 struct EventDispatcher::Queue {
+    explicit Queue(Deliver to) : deliver(std::make_shared<const Deliver>(std::move(to))) {}
+
+    /** An event, and who gets it. */
+    struct Handover {
+        Event event;
+        std::shared_ptr<const Deliver> deliver;
+    };
+
     std::mutex lock;
     std::condition_variable changed;
+    std::shared_ptr<const Deliver> deliver;
     std::deque<Event> events;
     size_t bytes = 0;
     bool stopped = false;
 
     /** Waits for the next event; nothing once the queue is stopped. */
-    std::optional<Event> take() {
+    std::optional<Handover> take() {
         std::unique_lock<std::mutex> guard(lock);
         changed.wait(guard, [this] { return stopped || !events.empty(); });
         if (stopped) return std::nullopt;
-        Event event = std::move(events.front());
+        Handover next{std::move(events.front()), deliver};
         events.pop_front();
-        bytes -= event.data.size();
-        return event;
+        bytes -= next.event.data.size();
+        return next;
     }
 
     void stop() {
@@ -33,9 +42,9 @@ struct EventDispatcher::Queue {
     }
 };
 
-EventDispatcher::EventDispatcher(std::function<void(const Event&)> deliver)
-    : mQueue(std::make_shared<Queue>()), mThread([queue = mQueue, deliver = std::move(deliver)] {
-          while (const std::optional<Event> event = queue->take()) deliver(*event);
+EventDispatcher::EventDispatcher(Deliver deliver)
+    : mQueue(std::make_shared<Queue>(std::move(deliver))), mThread([queue = mQueue] {
+          while (const auto next = queue->take()) (*next->deliver)(next->event);
       }) {}
 
 EventDispatcher::~EventDispatcher() {
@@ -47,6 +56,16 @@ EventDispatcher::~EventDispatcher() {
     } else {
         mThread.join();
     }
+}
+
+void EventDispatcher::redirect(Deliver deliver) {
+    // Destroyed without the lock: the last reference to a receiver may go with it.
+    auto other = std::make_shared<const Deliver>(std::move(deliver));
+    std::deque<Event> dropped;
+    std::lock_guard<std::mutex> guard(mQueue->lock);
+    mQueue->deliver.swap(other);
+    mQueue->events.swap(dropped);
+    mQueue->bytes = 0;
 }
 
 void EventDispatcher::abandon() {

@@ -19,11 +19,19 @@ class EventDispatcher {
     static constexpr size_t kMaxPending = 65'536;
     static constexpr size_t kMaxPendingBytes = 16 << 20;
 
+    using Deliver = std::function<void(const Event&)>;
+
     /** Throws std::system_error if no thread can be started. */
-    explicit EventDispatcher(std::function<void(const Event&)> deliver);
+    explicit EventDispatcher(Deliver deliver);
 
     /** Waits for the event that is being handed over, if any; those that wait are dropped. */
     ~EventDispatcher();
+
+    /**
+     * Hands the events that are posted from now on to another function, on the same thread; those
+     * that wait are dropped. The event that is being handed over holds up the later ones.
+     */
+    void redirect(Deliver deliver);
 
     /** Ends without waiting: the event that is being handed over may be finished later. */
     void abandon();

@@ -9,8 +9,10 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <filesystem>
 #include <fstream>
 #include <future>
+#include <iterator>
 #include <map>
 #include <mutex>
 #include <random>
@@ -464,10 +466,12 @@ TEST_F(SimulatedBoardEvents, DropADeadCallbackAndReachTheOthers) {
 class Stuck : public Receiver {
   public:
     Return<void> hwNotify_vec(uint32_t, int32_t, const hidl_vec<uint8_t>&) override {
+        inside = true;
         mFreed.wait();
         return android::hardware::Void();
     }
     std::promise<void> free;
+    std::atomic<bool> inside{false};
 
   private:
     const std::shared_future<void> mFreed = free.get_future();
@@ -483,6 +487,35 @@ TEST_F(SimulatedBoardEvents, ReachOthersWhileACallbackDoesNotReturn) {
     EXPECT_EQ(2U, other->waitFor(2).size());
     mBoard->hwRegisterCallback(other, 1);
     stuck->free.set_value();
+}
+
+size_t runningThreads() {
+    const std::filesystem::directory_iterator tasks("/proc/self/task");
+    return static_cast<size_t>(std::distance(begin(tasks), end(tasks)));
+}
+
+TEST_F(SimulatedBoardEvents, TakeOneThreadAProcessHoweverOftenItRegistersWhileItIsStuck) {
+    const sp<Stuck> stuck(new Stuck);
+    const sp<Receiver> replaced(new Receiver);
+    const sp<Receiver> last(new Receiver);
+    mBoard->hwRegisterCallback(stuck, 1);
+    mControl->raiseEvent(1, {});
+    while (!stuck->inside) std::this_thread::yield();
+    const size_t before = runningThreads();
+    for (int i = 0; i < 50; i++) {
+        mBoard->hwRegisterCallback(replaced, 1);
+        mControl->raiseEvent(2, {});
+    }
+    mBoard->hwRegisterCallback(last, 1);
+    mControl->raiseEvent(3, {});
+    EXPECT_EQ(before, runningThreads());
+    EXPECT_EQ(1U, mBoard->callbackCount());
+
+    stuck->free.set_value();
+    const std::vector<Event> events = last->waitFor(1);
+    ASSERT_EQ(1U, events.size());
+    EXPECT_EQ(3U, events[0].type);
+    EXPECT_EQ(0, replaced->calls());
 }
 
 TEST_F(SimulatedBoardEvents, AreRefusedWhenTooManyBytesWait) {
@@ -543,17 +576,21 @@ class NoThreads {
     pthread_attr_t mUsual;
 };
 
-TEST_F(SimulatedBoardEvents, RefuseACallbackThatNoThreadCanServeAndKeepTheOld) {
+TEST_F(SimulatedBoardEvents, RefuseACallbackThatNoThreadCanServe) {
     const sp<Receiver> first(new Receiver);
     const sp<Receiver> second(new Receiver);
+    const sp<Receiver> other(new Receiver);
     EXPECT_TRUE(mBoard->hwRegisterCallback(first, 1).isOk());
     {
         const NoThreads none;
-        EXPECT_FALSE(mBoard->hwRegisterCallback(second, 1).isOk());
+        EXPECT_FALSE(mBoard->hwRegisterCallback(other, 2).isOk());
+        // The process that has a thread needs no further one.
+        EXPECT_TRUE(mBoard->hwRegisterCallback(second, 1).isOk());
     }
     mControl->raiseEvent(1, {});
-    EXPECT_EQ(1U, first->waitFor(1).size());
-    EXPECT_EQ(0, second->calls());
+    EXPECT_EQ(1U, second->waitFor(1).size());
+    EXPECT_EQ(0, first->calls());
+    EXPECT_EQ(0, other->calls());
 }
 
 TEST_F(SimulatedBoardEvents, SurviveACallbackThatDropsTheBoard) {
