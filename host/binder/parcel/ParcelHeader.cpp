@@ -9,6 +9,7 @@
 
 #include <cstring>
 
+#include "LogLimit.h"
 #include "ParcelLayout.h"
 
 namespace android {
@@ -40,7 +41,9 @@ bool Parcel::enforceInterface(const String16& interface, IPCThreadState* threadS
 
     const int32_t mark = readInt32();
     if (mark != parcel::kTokenMark) {
-        ALOGE("Expecting header 0x%x but found 0x%x", parcel::kTokenMark, mark);
+        if (parcel::mayLog()) {
+            ALOGE("Expecting header 0x%x but found 0x%x", parcel::kTokenMark, mark);
+        }
         return false;
     }
     size_t length;
@@ -49,8 +52,10 @@ bool Parcel::enforceInterface(const String16& interface, IPCThreadState* threadS
         (length == 0 || memcmp(name, interface.string(), length * sizeof(char16_t)) == 0)) {
         return true;
     }
-    ALOGW("enforceInterface() expected '%s' but read '%s'", String8(interface).string(),
-          length > 0 ? String8(name, length).string() : "");
+    if (parcel::mayLog()) {
+        ALOGW("enforceInterface() expected '%s' but read '%s'", String8(interface).string(),
+              length > 0 ? String8(name, length).string() : "");
+    }
     return false;
 }
 

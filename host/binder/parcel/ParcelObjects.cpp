@@ -11,6 +11,7 @@
 #include <cstring>
 
 #include "FlatBinderObject.h"
+#include "LogLimit.h"
 #include "ParcelObjectTable.h"
 
 namespace android {
@@ -83,8 +84,11 @@ const flat_binder_object* Parcel::readObject(bool nullMetaData) const {
     memcpy(&flat, bytes, sizeof(flat));
     const bool null = !nullMetaData && flat.cookie == 0 && flat.reference == 0;
     if (!null && parcel::findObject(mObjects, mObjectsSize, start) == nullptr) {
-        ALOGW("Attempt to read object from Parcel %p at offset %zu that is not in the object list",
-              this, start);
+        if (parcel::mayLog()) {
+            ALOGW("Attempt to read object from Parcel %p at offset %zu that is not in the object "
+                  "list",
+                  this, start);
+        }
         return nullptr;
     }
     return static_cast<const flat_binder_object*>(bytes);

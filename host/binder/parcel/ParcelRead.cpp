@@ -10,6 +10,7 @@
 
 #include <cstring>
 
+#include "LogLimit.h"
 #include "ParcelLayout.h"
 #include "ParcelObjectTable.h"
 
@@ -21,7 +22,7 @@ using parcel::padded;
 // Flat reads must not touch what belongs to an object.
 status_t Parcel::validateReadData(size_t upperBound) const {
     if (!parcel::overlapsObject(mObjects, mObjectsSize, mDataPos, upperBound)) return NO_ERROR;
-    ALOGE("Attempt to read from protected data in Parcel %p", this);
+    if (parcel::mayLog()) ALOGE("Attempt to read from protected data in Parcel %p", this);
     return PERMISSION_DENIED;
 }
 
@@ -215,7 +216,9 @@ status_t Parcel::readString8(String8* pArg) const {
 
 String8 Parcel::readString8() const {
     String8 text;
-    if (readString8(&text) != NO_ERROR) ALOGE("Reading a NULL string not supported here.");
+    if (readString8(&text) != NO_ERROR && parcel::mayLog()) {
+        ALOGE("Reading a NULL string not supported here.");
+    }
     return text;
 }
 
@@ -235,7 +238,9 @@ status_t Parcel::readString16(String16* pArg) const {
 
 String16 Parcel::readString16() const {
     String16 text;
-    if (readString16(&text) != NO_ERROR) ALOGE("Reading a NULL string not supported here.");
+    if (readString16(&text) != NO_ERROR && parcel::mayLog()) {
+        ALOGE("Reading a NULL string not supported here.");
+    }
     return text;
 }
 

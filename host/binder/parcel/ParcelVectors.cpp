@@ -7,6 +7,7 @@
 
 #include <cstring>
 
+#include "LogLimit.h"
 #include "ParcelLayout.h"
 
 namespace android {
@@ -22,7 +23,9 @@ status_t readCount(const Parcel& source, int32_t* outCount) {
     const status_t status = source.readInt32(&count);
     if (status != NO_ERROR) return status;
     if (count > 0 && static_cast<size_t>(count) > source.dataAvail()) {
-        ALOGW("Count %d exceeds the %zu bytes that are left", count, source.dataAvail());
+        if (parcel::mayLog()) {
+            ALOGW("Count %d exceeds the %zu bytes that are left", count, source.dataAvail());
+        }
         return BAD_VALUE;
     }
     *outCount = count;
