@@ -17,6 +17,9 @@ constexpr TypeName kTypeNames[] = {
         {"f32", Type::kFloat}, {"bytes", Type::kBytes},
 };
 
+// Keeps a hostile text from exhausting the stack; no command has a list within a list.
+constexpr int kMostNestedLists = 16;
+
 class Parser {
   public:
     explicit Parser(const std::string& text) : mText(text) {}
@@ -44,11 +47,8 @@ class Parser {
         skipBlanks();
         Field field;
         if (peek() == '[') {
-            mPos++;
             field.type = Type::kList;
-            field.record = fields(']');
-            if (peek() != ']') fail("missing ']'");
-            mPos++;
+            field.record = record();
             skipBlanks();
         } else {
             field.type = type();
@@ -57,6 +57,17 @@ class Parser {
         if (field.name.empty()) fail("missing name");
         skipBlanks();
         return field;
+    }
+
+    Layout record() {
+        if (++mNested > kMostNestedLists)
+            fail("more than " + std::to_string(kMostNestedLists) + " nested lists");
+        mPos++;
+        Layout record = fields(']');
+        if (peek() != ']') fail("missing ']'");
+        mPos++;
+        mNested--;
+        return record;
     }
 
     Type type() {
@@ -87,6 +98,7 @@ class Parser {
 
     const std::string& mText;
     size_t mPos = 0;
+    int mNested = 0;
 };
 
 }  // namespace
