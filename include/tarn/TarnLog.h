@@ -2,11 +2,13 @@
 
 #include <tarn/Export.h>
 
+#include <cstdint>
+
 /**
  * Log levels; their values are the Android log priorities of the same name. Lines of some levels
  * are coloured by escape sequences in their text.
  */
-enum _TARN_LOG_PRIO_E_ {
+enum _TARN_LOG_PRIO_E_ : int32_t {
     TARN_LOG_UNKNOWN = 0,
     TARN_LOG_DEFAULT = 1,
     TARN_LOG_VERBOSE = 2,
