@@ -22,8 +22,10 @@ BoardProcess::BoardProcess(const std::vector<std::string>& arguments)
 }
 
 BoardProcess::~BoardProcess() {
-    signal(SIGTERM);
+    // In this order: at its end the leak checker sends each thread a SIGSTOP and waits, without a
+    // limit, until it stops, and a SIGCONT that comes in between takes the SIGSTOP back.
     signal(SIGCONT);
+    signal(SIGTERM);
     wait();
 }
 
