@@ -25,8 +25,10 @@ set(CMAKE_CXX_FLAGS_INIT "-Wno-psabi")
 set(libraries ${TARN_SYSROOT}/usr/lib/arm-linux-gnueabihf/android ${TARN_SYSROOT}/usr/lib/p7zip)
 list(JOIN libraries ":" libraries)
 
-# Everything linked names all that it needs, as the device's build demands.
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,--no-undefined -Wl,-rpath-link,${libraries}")
+# Everything linked names all that it needs, as the device's build demands. What this build's own
+# libraries need of each other has to be named too: with a sysroot, -rpath leads into that.
+set(CMAKE_EXE_LINKER_FLAGS_INIT
+    "-Wl,--no-undefined -Wl,-rpath-link,${libraries}:${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_SHARED_LINKER_FLAGS_INIT ${CMAKE_EXE_LINKER_FLAGS_INIT})
 
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-arm -L ${TARN_SYSROOT} -E LD_LIBRARY_PATH=${libraries})

@@ -12,23 +12,29 @@ function(tarn_runner target variable)
   endif()
 endfunction()
 
-# tarn_test_not_emulated(REASON NAME...): what can't be seen on an emulated processor is reported as
-# skipped, with its reason.
+# tarn_not_emulated(REASON WHAT...): for scripts/test-arm32 to name what an emulated processor of the
+# device's architecture does not show.
+function(tarn_not_emulated reason)
+  if(CMAKE_CROSSCOMPILING_EMULATOR)
+    foreach(what IN LISTS ARGN)
+      set_property(GLOBAL APPEND PROPERTY TARN_NOT_EMULATED "${what}: ${reason}")
+    endforeach()
+  endif()
+endfunction()
+
+# tarn_test_not_emulated(REASON NAME...): the tests are named and don't run there.
 function(tarn_test_not_emulated reason)
   if(CMAKE_CROSSCOMPILING_EMULATOR)
-    foreach(name IN LISTS ARGN)
-      set_property(GLOBAL APPEND PROPERTY TARN_NOT_EMULATED "${name}: ${reason}")
-      set_property(TEST ${name} PROPERTY DISABLED TRUE)
-    endforeach()
+    tarn_not_emulated("${reason}" ${ARGN})
+    set_tests_properties(${ARGN} PROPERTIES DISABLED TRUE)
   endif()
 endfunction()
 
 # tarn_cases_not_emulated(REASON NAME CASE...): the same for single cases of a test.
 function(tarn_cases_not_emulated reason name)
   if(CMAKE_CROSSCOMPILING_EMULATOR)
-    foreach(case IN LISTS ARGN)
-      set_property(GLOBAL APPEND PROPERTY TARN_NOT_EMULATED "${name}, ${case}: ${reason}")
-    endforeach()
+    list(TRANSFORM ARGN PREPEND "${name}, " OUTPUT_VARIABLE whats)
+    tarn_not_emulated("${reason}" ${whats})
     list(JOIN ARGN ":" cases)
     set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT GTEST_FILTER=-${cases})
   endif()
