@@ -1,13 +1,12 @@
 #include "values/ValueJson.h"
 
-#include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <optional>
 #include <utility>
 
 #include "values/Hex.h"
 #include "values/JsonError.h"
+#include "values/ShortestFloat.h"
 #include "values/Utf8.h"
 
 namespace tarn::values {
@@ -88,18 +87,10 @@ Value listFromJson(const Json::Value& json, const Field& field) {
     return Value{std::move(list)};
 }
 
-/** The shortest decimal number that reads back as the same float. */
-double shortest(float number) {
-    if (!std::isfinite(number)) return number;
-    char text[32];
-    *std::to_chars(text, text + sizeof(text) - 1, number).ptr = '\0';
-    return strtod(text, nullptr);
-}
-
 struct JsonWriter {
     Json::Value operator()(int32_t number) const { return Json::Value(number); }
     Json::Value operator()(bool on) const { return Json::Value(on); }
-    Json::Value operator()(float number) const { return Json::Value(shortest(number)); }
+    Json::Value operator()(float number) const { return Json::Value(shortestOf(number)); }
     Json::Value operator()(const std::u16string& text) const {
         return Json::Value(utf8FromUtf16(text));
     }
