@@ -3,20 +3,37 @@
 #include <utility>
 
 #include "CallQueue.h"
+#include "MessageFormat.h"
 
 namespace android::host::dbus {
 
-BusCall::BusCall(sdbus::MethodCall received, std::shared_ptr<Peer> sender, Responder responder)
-    : message(std::move(received)), caller(std::move(sender)), mResponder(std::move(responder)) {}
+BusCall::BusCall(const sdbus::MethodCall& message, std::shared_ptr<Peer> sender,
+                 Responder responder)
+    : caller(std::move(sender)),
+      mOneWay(message.doesntExpectReply()),
+      mResponder(std::move(responder)) {
+    if (mOneWay) return;
+    reply = message.createReply();
+    failure = message.createErrorReply(sdbus::Error(kUnanswered, "The reply cannot be sent"));
+}
 
 BusCall::~BusCall() {
     if (!mAnswered && !isOneWay()) mResponder(*this, UNKNOWN_ERROR, Payload());
     if (mQueue != nullptr) mQueue->leaveLane(object);
 }
 
-void BusCall::answer(status_t status, Payload reply) {
+void BusCall::answer(status_t status, Payload payload) {
     mAnswered = true;
-    mResponder(*this, status, std::move(reply));
+    mResponder(*this, status, std::move(payload));
+}
+
+std::vector<sp<IBinder>> BusCall::localObjects() const {
+    std::vector<sp<IBinder>> objects;
+    if (target != nullptr) objects.push_back(target);
+    for (const Payload::Object& each : request.objects) {
+        if (each.binder->localBinder() != nullptr) objects.push_back(each.binder);
+    }
+    return objects;
 }
 
 }  // namespace android::host::dbus

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "Peer.h"
 #include "host/binder/carrier/Carrier.h"
@@ -12,13 +13,16 @@ namespace android::host::dbus {
 
 class CallQueue;
 
-/** A transaction that came in over the bus. */
+/**
+ * A transaction that came in over the bus. It does not keep the message, which may have files with
+ * it: what is needed to answer is made when it comes in.
+ */
 class BusCall : public IncomingCall {
   public:
     /** Sends the reply. */
     using Responder = std::function<void(BusCall&, status_t, Payload)>;
 
-    BusCall(sdbus::MethodCall received, std::shared_ptr<Peer> sender, Responder responder);
+    BusCall(const sdbus::MethodCall& message, std::shared_ptr<Peer> sender, Responder responder);
     /** Answers with UNKNOWN_ERROR if the caller still waits, and lets the next one-way call follow.
      */
     ~BusCall() override;
@@ -26,17 +30,25 @@ class BusCall : public IncomingCall {
     void answer(status_t status, Payload reply) override;
     /** Leaves the call without an answer: its caller was sent an error. */
     void abandon() { mAnswered = true; }
-    bool isOneWay() const { return message.doesntExpectReply(); }
+    bool isOneWay() const { return mOneWay; }
 
-    const sdbus::MethodCall message;
+    /** The objects of this process that it holds: they must not be destroyed on the link's thread.
+     */
+    std::vector<sp<IBinder>> localObjects() const;
+
     const std::shared_ptr<Peer> caller;
     uint64_t object = 0;
 
+    // Neither of a one-way call: the reply, and the error in its place if it cannot be filled.
+    sdbus::MethodReply reply;
+    sdbus::MethodReply failure;
+
   private:
     friend class CallQueue;
+    const bool mOneWay;
     const Responder mResponder;
     bool mAnswered = false;
-    CallQueue* mQueue = nullptr;  // where it heads a lane
+    CallQueue* mQueue = nullptr;  // whose lane it is in while it is served
 };
 
 }  // namespace android::host::dbus

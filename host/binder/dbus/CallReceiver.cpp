@@ -4,63 +4,54 @@
 
 #include <log/log.h>
 
+#include <new>
 #include <utility>
 
 #include "MessageFormat.h"
 
 namespace android::host::dbus {
 
-namespace {
-
-// What must not be destroyed on the link's thread when a call ends there.
-SharedObjects::Objects localObjectsOf(const BusCall& call) {
-    SharedObjects::Objects objects;
-    if (call.target != nullptr) objects.push_back(call.target);
-    for (const Payload::Object& object : call.request.objects) {
-        if (object.binder->localBinder() != nullptr) objects.push_back(object.binder);
-    }
-    return objects;
-}
-
-}  // namespace
-
-void CallReceiver::onTransact(sdbus::MethodCall message, const std::shared_ptr<Peer>& caller) {
+void CallReceiver::onTransact(sdbus::MethodCall& message, const std::shared_ptr<Peer>& caller) {
     auto call = std::make_unique<BusCall>(
-            std::move(message), caller, [this](BusCall& answered, status_t status, Payload reply) {
+            message, caller, [this](BusCall& answered, status_t status, Payload reply) {
                 respond(answered, status, std::move(reply));
             });
-    sdbus::MethodCall received = call->message;
-    received >> call->object >> call->code >> call->flags;
-    call->flags &= ~static_cast<uint32_t>(IBinder::FLAG_ONEWAY);
-    if (call->isOneWay()) call->flags |= IBinder::FLAG_ONEWAY;
-    call->target = mObjects.find(call->object);
-    Content content;
-    const bool wellFormed = read(received, &content) &&
-                            mExchange.unpack(std::move(content), caller, &call->request);
-
-    if (!wellFormed) {
-        refuse(*call, kMalformed, "The transaction is malformed");
-    } else if (call->target == nullptr) {
-        refuse(*call, kNoSuchObject, "There is no such object");
-    } else if (!CallQueue::admit(*call)) {
-        refuse(*call, kOverloaded, "Too many calls are waiting");
+    const std::optional<Refusal> refusal = fill(*call, message);
+    if (refusal.has_value()) {
+        if (caller->mayLog()) ALOGW("A call of process %d: %s", caller->pid, refusal->why);
+        call->abandon();
+        mLink.sendError(message, refusal->error, refusal->why);
+        mReleaser.release(call->localObjects());
     } else if (!caller->identified) {
         caller->unidentified.push_back(std::move(call));
-        return;
     } else {
         call->callingPid = caller->pid;
         call->callingUid = caller->uid;
         CallQueue& queue = mQueues.of(SharedObjects::domainOf(call->object));
         queue.add(std::move(call));
-        return;
     }
-    mReleaser.release(localObjectsOf(*call));
 }
 
-void CallReceiver::refuse(BusCall& call, const char* error, const char* why) {
-    if (call.caller->mayLog()) ALOGW("A call of process %d: %s", call.caller->pid, why);
-    call.abandon();
-    mLink.sendError(call.message, error, why);
+// Takes over what the message holds, and counts the call against its caller's share.
+std::optional<CallReceiver::Refusal> CallReceiver::fill(BusCall& call, sdbus::MethodCall& message) {
+    constexpr Refusal kNoRoom{kExhausted, "There is no memory or descriptor for the transaction"};
+    constexpr Refusal kWrong{kMalformed, "The transaction is malformed"};
+    message >> call.object >> call.code >> call.flags;
+    call.flags &= ~static_cast<uint32_t>(IBinder::FLAG_ONEWAY);
+    if (call.isOneWay()) call.flags |= IBinder::FLAG_ONEWAY;
+    call.target = mObjects.find(call.object);
+    try {
+        Content content;
+        const Reading reading = read(message, &content);
+        if (reading == Reading::EXHAUSTED) return kNoRoom;
+        if (reading == Reading::MALFORMED) return kWrong;
+        if (!mExchange.unpack(std::move(content), call.caller, &call.request)) return kWrong;
+    } catch (const std::bad_alloc&) {
+        return kNoRoom;
+    }
+    if (call.target == nullptr) return Refusal{kNoSuchObject, "There is no such object"};
+    if (!CallQueue::admit(call)) return Refusal{kOverloaded, "Too many calls are waiting"};
+    return std::nullopt;
 }
 
 // On the thread that served the call.
@@ -69,14 +60,13 @@ void CallReceiver::respond(BusCall& call, status_t status, Payload reply) {
     ObjectExchange::Packed packed;
     const status_t packing = mExchange.pack(std::move(reply), *call.caller, &packed);
     try {
-        sdbus::MethodReply message = call.message.createReply();
-        message << (packing == NO_ERROR ? status : packing);
-        write(message, packed.content);
+        call.reply << (packing == NO_ERROR ? status : packing);
+        write(call.reply, packed.content);
         mExchange.send(packed.grants, *call.caller);
-        if (mLink.send(message)) return;
+        if (mLink.send(call.reply)) return;
     } catch (const sdbus::Error& error) {
         ALOGE("A reply cannot be sent: %s", error.what());
-        mLink.sendError(call.message, kUnanswered, "The reply cannot be sent");
+        mLink.send(call.failure);
     }
     mExchange.takeBack(packed, *call.caller);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "BusCall.h"
 #include "BusLink.h"
@@ -23,10 +24,15 @@ class CallReceiver {
           mReleaser(releaser) {}
 
     /** The method Transact, on the link's thread; throws sdbus::Error at a malformed message. */
-    void onTransact(sdbus::MethodCall message, const std::shared_ptr<Peer>& caller);
+    void onTransact(sdbus::MethodCall& message, const std::shared_ptr<Peer>& caller);
 
   private:
-    void refuse(BusCall& call, const char* error, const char* why);
+    struct Refusal {
+        const char* error;
+        const char* why;
+    };
+
+    std::optional<Refusal> fill(BusCall& call, sdbus::MethodCall& message);
     void respond(BusCall& call, status_t status, Payload reply);
 
     BusLink& mLink;

@@ -79,11 +79,16 @@ CallSender::Answer CallSender::onAnswer(sdbus::MethodReply& reply, const sdbus::
     Answer answer{UNKNOWN_ERROR, {}};
     try {
         Content content;
-        if (read(reply, &answer.status, &content) &&
+        const Reading reading = read(reply, &answer.status, &content);
+        if (reading == Reading::COMPLETE &&
             mExchange.unpack(std::move(content), callee, &answer.content)) {
             return answer;
         }
-        ALOGW("A reply of process %d is malformed", callee->pid);
+        if (reading == Reading::EXHAUSTED) {
+            ALOGE("There is no memory or descriptor for a reply of process %d", callee->pid);
+        } else {
+            ALOGW("A reply of process %d is malformed", callee->pid);
+        }
     } catch (const std::exception& failure) {
         ALOGE("A reply of process %d cannot be taken: %s", callee->pid, failure.what());
     }

@@ -32,7 +32,7 @@ void DBusCarrier::onCall(sdbus::MethodCall call) {
         const std::shared_ptr<Peer> caller = mPeers.named(call.getSender());
         const std::string method = call.getMemberName();
         if (method == kTransact) {
-            mReceiver.onTransact(std::move(call), caller);
+            mReceiver.onTransact(call, caller);
         } else if (method == kRelease) {
             mExchange.onRelease(call, *caller);
         } else if (method == kGrant) {

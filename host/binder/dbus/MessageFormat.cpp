@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <new>
 
 namespace android::host::dbus {
 
@@ -62,20 +63,23 @@ bool readInline(sdbus::Message& message, std::vector<uint8_t>* bytes) {
     return true;
 }
 
-bool readBytes(sdbus::Message& message, std::vector<uint8_t>* bytes) {
+Reading readBytes(sdbus::Message& message, std::vector<uint8_t>* bytes) {
     std::string type;
     std::string contents;
     message.peekType(type, contents);
-    if (type != "v" || (contents != "ay" && contents != "h")) return false;
-    if (!message.enterVariant(contents)) return false;
+    if (type != "v" || (contents != "ay" && contents != "h")) return Reading::MALFORMED;
+    if (!message.enterVariant(contents)) return Reading::MALFORMED;
     if (contents == "ay") {
-        if (!readInline(message, bytes)) return false;
+        if (!readInline(message, bytes)) return Reading::MALFORMED;
     } else {
+        // The library gives a duplicate, or an invalid one if there can be none.
         sdbus::UnixFd file;
-        if (!(message >> file) || !readFile(file.get(), bytes)) return false;
+        if (!(message >> file)) return Reading::MALFORMED;
+        if (!file.isValid()) return Reading::EXHAUSTED;
+        if (!readFile(file.get(), bytes)) return Reading::MALFORMED;
     }
     message.exitVariant();
-    return true;
+    return Reading::COMPLETE;
 }
 
 bool readReferences(sdbus::Message& message, std::vector<Reference>* references) {
@@ -112,19 +116,22 @@ void write(sdbus::Message& message, const Content& content) {
     message.closeVariant();
 }
 
-bool read(sdbus::Message& message, Content* content) {
+Reading read(sdbus::Message& message, Content* content) {
     try {
-        return readReferences(message, &content->references) && readBytes(message, &content->bytes);
+        if (!readReferences(message, &content->references)) return Reading::MALFORMED;
+        return readBytes(message, &content->bytes);
     } catch (const sdbus::Error&) {
-        return false;
+        return Reading::MALFORMED;
+    } catch (const std::bad_alloc&) {
+        return Reading::EXHAUSTED;
     }
 }
 
-bool read(sdbus::Message& message, int32_t* status, Content* content) {
+Reading read(sdbus::Message& message, int32_t* status, Content* content) {
     try {
         message >> *status;
     } catch (const sdbus::Error&) {
-        return false;
+        return Reading::MALFORMED;
     }
     return read(message, content);
 }

@@ -27,6 +27,7 @@ inline constexpr char kLookup[] = "Lookup";
 
 inline constexpr char kNoSuchObject[] = "tarn.binder.Error.NoSuchObject";
 inline constexpr char kMalformed[] = "tarn.binder.Error.Malformed";
+inline constexpr char kExhausted[] = "tarn.binder.Error.Exhausted";
 inline constexpr char kOverloaded[] = "tarn.binder.Error.Overloaded";
 inline constexpr char kUnanswered[] = "tarn.binder.Error.Unanswered";
 
@@ -56,10 +57,16 @@ inline constexpr char kContentSignature[] = "a(ust)v";
 /** Appends a parcel's content; throws sdbus::Error if it cannot. */
 void write(sdbus::Message& message, const Content& content);
 
-/** Reads a parcel's content; false if it is malformed or too large. */
-bool read(sdbus::Message& message, Content* content);
+/** What came of reading: EXHAUSTED if this process has no memory or descriptor left for it. */
+enum class Reading { COMPLETE, MALFORMED, EXHAUSTED };
 
-/** Reads a reply to Transact; false if it is malformed or too large. */
-bool read(sdbus::Message& message, int32_t* status, Content* content);
+/**
+ * Reads a parcel's content, to which nothing of the message belongs afterwards; MALFORMED also if
+ * it is too large.
+ */
+Reading read(sdbus::Message& message, Content* content);
+
+/** Reads a reply to Transact. */
+Reading read(sdbus::Message& message, int32_t* status, Content* content);
 
 }  // namespace android::host::dbus
