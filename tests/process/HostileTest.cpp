@@ -1,16 +1,22 @@
 // What a process that does not keep to the rules can do to the others: nothing.
 
 #include <binder/Binder.h>
+#include <binder/IPCThreadState.h>
 #include <binder/IServiceManager.h>
 #include <binder/ProcessState.h>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sdbus-c++/sdbus-c++.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
+#include <future>
+#include <numeric>
+#include <thread>
 
 #include "host/binder/dbus/MessageFormat.h"
 #include "tests/process/Desk.h"
@@ -38,6 +44,13 @@ constexpr char kRogueBusName[] = "tarn.binder.name_tarn-dtest-drogue";
 const std::vector<std::string> kNoUniqueNames = {
         ":", ":1", ":.", ":1.", ":.1", ":1..2", ":1.x", ":1." + std::string(253, '1')};
 
+// 0, 1, 2, ...
+std::vector<int32_t> ascending(size_t count) {
+    std::vector<int32_t> values(count);
+    std::iota(values.begin(), values.end(), 0);
+    return values;
+}
+
 sp<IBinder> find(const std::string& name) {
     return android::defaultServiceManager()->checkService(String16(name.c_str()));
 }
@@ -45,6 +58,50 @@ sp<IBinder> find(const std::string& name) {
 CHILD(desk) {
     android::ProcessState::self()->startThreadPool();
     android::defaultServiceManager()->addService(String16(arguments[0].c_str()), new Desk);
+    return serveUntilClosed();
+}
+
+constexpr rlim_t kFewDescriptors = 200;
+
+void allowFewDescriptors() {
+    rlimit limit;
+    getrlimit(RLIMIT_NOFILE, &limit);
+    limit.rlim_cur = kFewDescriptors;
+    setrlimit(RLIMIT_NOFILE, &limit);
+}
+
+CHILD(frugal) {
+    allowFewDescriptors();
+    android::ProcessState::self()->startThreadPool();
+    android::defaultServiceManager()->addService(String16(arguments[0].c_str()), new Desk);
+    return serveUntilClosed();
+}
+
+// A desk whose process has one descriptor left, until it is told to have more.
+CHILD(full) {
+    allowFewDescriptors();
+    android::ProcessState::self()->startThreadPool();
+    android::defaultServiceManager()->addService(String16(arguments[0].c_str()), new Desk);
+    tell("ready");
+    listen();
+    std::vector<int> files;
+    for (int file = 0; file >= 0; files.push_back(file)) file = ::open("/dev/null", O_CLOEXEC);
+    files.pop_back();
+    close(files.back());
+    files.pop_back();
+    tell("full");
+    listen();
+    for (const int file : files) close(file);
+    return serveUntilClosed();
+}
+
+// A desk that answers nobody until it is told to, and then one call at a time. Told to count, it
+// says how many wait.
+CHILD(late) {
+    android::defaultServiceManager()->addService(String16(arguments[0].c_str()), new Desk);
+    tell("ready");
+    while (listen() == "count") tell(std::to_string(countsHere().waiting));
+    std::thread([] { android::IPCThreadState::self()->joinThreadPool(); }).detach();
     return serveUntilClosed();
 }
 
@@ -84,6 +141,18 @@ class Rogue {
         proxy->callMethod(message);
     }
 
+    // Sends calls whose answers it does not wait for, as many as it is told.
+    void sendMany(int count, const std::string& method,
+                  const std::function<void(sdbus::Message&, int)>& fill) {
+        const auto proxy = sdbus::createProxy(*mConnection, kDeskBusName, kObjectPath);
+        for (int i = 0; i < count; i++) {
+            sdbus::MethodCall message = proxy->createMethodCall(kInterface, method);
+            fill(message, i);
+            proxy->callMethod(
+                    message, [](sdbus::MethodReply&, const sdbus::Error*) {}, UINT64_MAX);
+        }
+    }
+
     // The number under which the desk is lent to this connection.
     uint64_t deskNumber(std::string* owner = nullptr) {
         sdbus::MethodReply reply;
@@ -103,7 +172,7 @@ class Rogue {
 
 class Hostile : public testing::Test {
   protected:
-    Hostile() : mProcess("desk", {kDeskName}) {
+    explicit Hostile(const std::string& role = "desk") : mProcess(role, {kDeskName}) {
         mProcess.readLine();
         mDesk = DeskClient(find(kDeskName));
         mNumber = mRogue.deskNumber(&mDeskOwner);
@@ -150,6 +219,25 @@ class Hostile : public testing::Test {
             m << sdbus::UnixFd(file);
             m.closeVariant();
         });
+    }
+
+    // Lets the desk be busy with a one-way call, so that all others wait for it.
+    void keepBusy() {
+        Parcel none;
+        ASSERT_EQ(NO_ERROR,
+                  mDesk.binder()->transact(Desk::PASS, none, nullptr, IBinder::FLAG_ONEWAY));
+        ASSERT_TRUE(eventually([this] { return mDesk.inside() == 1; }));
+    }
+
+    // What asks the desk to note a value down, of so many bytes.
+    Fill note(int32_t value, size_t size = sizeof(int32_t)) const {
+        return [=](sdbus::Message& m) {
+            Parcel parcel;
+            parcel.writeInt32(value);
+            parcel.setDataSize(size);
+            m << mNumber << uint32_t{Desk::NOTE} << uint32_t{0};
+            write(m, {{}, std::vector<uint8_t>(parcel.data(), parcel.data() + size)});
+        };
     }
 
     Child mProcess;
@@ -329,19 +417,8 @@ TEST_F(Hostile, ForgedDeathsAreNotBelieved) {
 
 TEST_F(Hostile, AFloodOfOneWayCallsIsBounded) {
     constexpr int kFlood = 10000;
-    const auto note = [this](int32_t value) {
-        mRogue.send(kTransact, [&](sdbus::Message& m) {
-            Parcel parcel;
-            parcel.writeInt32(value);
-            m << mNumber << uint32_t{Desk::NOTE} << uint32_t{IBinder::FLAG_ONEWAY};
-            write(m, {{}, std::vector<uint8_t>(parcel.data(), parcel.data() + 4)});
-        });
-    };
-    // The desk is busy with a one-way call, so all others wait for it.
-    Parcel none;
-    ASSERT_EQ(NO_ERROR, mDesk.binder()->transact(Desk::PASS, none, nullptr, IBinder::FLAG_ONEWAY));
-    ASSERT_TRUE(eventually([this] { return mDesk.inside() == 1; }));
-    for (int32_t i = 0; i < kFlood; i++) note(i);
+    keepBusy();
+    for (int32_t i = 0; i < kFlood; i++) mRogue.send(kTransact, note(i));
     mRogue.deskNumber();
     EXPECT_EQ(4096, mDesk.counts().waiting);
     // Others are served, one-way too.
@@ -351,12 +428,162 @@ TEST_F(Hostile, AFloodOfOneWayCallsIsBounded) {
 
     EXPECT_EQ(NO_ERROR, mDesk.open());
     EXPECT_TRUE(eventually([this] { return mDesk.notes().size() == 4097; }));
-    const std::vector<int32_t> notes = mDesk.notes();
-    for (int32_t i = 0; i < 4096; i++) ASSERT_EQ(i, notes[static_cast<size_t>(i)]);
-    EXPECT_EQ(-1, notes.back());
+    std::vector<int32_t> notes = mDesk.notes();
+    // Theirs has its turn after the first.
+    EXPECT_EQ(-1, notes[1]);
+    notes.erase(notes.begin() + 1);
+    EXPECT_EQ(ascending(4096), notes);
     // And the rogue is served again.
-    note(5);
+    mRogue.send(kTransact, note(5));
     EXPECT_TRUE(eventually([this] { return mDesk.notes().back() == 5; }));
+}
+
+TEST_F(Hostile, WaitingCallsGoWithTheirSender) {
+    keepBusy();
+    {
+        Rogue other;
+        for (int32_t i = 0; i < 1500; i++) other.send(kTransact, note(i, 2000));
+        other.deskNumber();
+        EXPECT_EQ(1500, mDesk.counts().waiting);
+    }
+    // What a process said last is heard.
+    EXPECT_TRUE(eventually([this] { return mDesk.counts().waiting == 256; }));
+    EXPECT_EQ(NO_ERROR, mDesk.open());
+    EXPECT_TRUE(eventually([this] { return mDesk.notes().size() == 256; }));
+    EXPECT_EQ(ascending(256), mDesk.notes());
+}
+
+class HostileToFrugal : public Hostile {
+  protected:
+    HostileToFrugal() : Hostile("frugal") {}
+};
+
+TEST_F(HostileToFrugal, WaitingCallsKeepNoFileOpen) {
+    constexpr int kCalls = 3 * kFewDescriptors;
+    keepBusy();
+    for (int32_t i = 0; i < kCalls; i++) mRogue.send(kTransact, note(i, 2000));
+    mRogue.deskNumber();
+    EXPECT_LE(mDesk.counts().descriptors, mDescriptors);
+    EXPECT_EQ(kCalls, mDesk.counts().waiting);
+    const std::vector<uint8_t> bytes(2000, 7);
+    std::vector<uint8_t> back;
+    EXPECT_EQ(NO_ERROR, mDesk.echo(bytes, &back));
+    EXPECT_EQ(bytes, back);
+    EXPECT_EQ(NO_ERROR, mDesk.open());
+    EXPECT_TRUE(eventually([this] { return mDesk.notes().size() == kCalls; }));
+}
+
+class HostileToFull : public Hostile {
+  protected:
+    HostileToFull() : Hostile("full") {}
+};
+
+TEST_F(HostileToFull, AShortageIsAnErrorOfItsOwn) {
+    mProcess.writeLine("full");
+    EXPECT_EQ("full", mProcess.readLine());
+    const Content large{{}, std::vector<uint8_t>(2000)};
+    EXPECT_EQ(kExhausted, transact(large, nullptr, Desk::NOTES));
+    std::vector<uint8_t> back;
+    EXPECT_EQ(FAILED_TRANSACTION, mDesk.echo(large.bytes, &back));
+    EXPECT_EQ(NO_ERROR, mDesk.echo({1}, &back));
+    mProcess.writeLine("more");
+    EXPECT_EQ("ready", mProcess.readLine());
+    EXPECT_EQ("", transact(large, nullptr, Desk::NOTES));
+    EXPECT_EQ(NO_ERROR, mDesk.echo(large.bytes, &back));
+}
+
+// A desk that has not begun to serve.
+class HostileToLate : public testing::Test {
+  protected:
+    HostileToLate() : mProcess("late", {kDeskName}) {
+        mProcess.readLine();
+        mDesk = DeskClient(find(kDeskName));
+        mNumber = mRogue.deskNumber();
+        mTasks = count();
+    }
+
+    int32_t count() {
+        mProcess.writeLine("count");
+        return std::stoi(mProcess.readLine());
+    }
+    bool waiting(int32_t calls) {
+        return eventually([&] { return count() == mTasks + calls; });
+    }
+
+    void serve() {
+        mProcess.writeLine("serve");
+        EXPECT_EQ("ready", mProcess.readLine());
+    }
+
+    Fill note(int32_t value) const {
+        return [=](sdbus::Message& m) {
+            Parcel parcel;
+            parcel.writeInt32(value);
+            m << mNumber << uint32_t{Desk::NOTE} << uint32_t{0};
+            write(m, {{}, std::vector<uint8_t>(parcel.data(), parcel.data() + parcel.dataSize())});
+        };
+    }
+
+    Child mProcess;
+    DeskClient mDesk{nullptr};
+    Rogue mRogue;
+    uint64_t mNumber = 0;
+    int32_t mTasks = 0;  // of the carrier's own, which wait too
+};
+
+TEST_F(HostileToLate, CallersAreServedInTurn) {
+    mRogue.sendMany(4000, kTransact, [this](sdbus::Message& m, int i) { note(i)(m); });
+    mRogue.deskNumber();
+    EXPECT_TRUE(waiting(4000));
+    auto noted = std::async(std::launch::async, [this] {
+        Parcel data;
+        Parcel reply;
+        data.writeInt32(-1);
+        return mDesk.binder()->transact(Desk::NOTE, data, &reply);
+    });
+    EXPECT_TRUE(waiting(4001));
+    serve();
+    EXPECT_EQ(NO_ERROR, noted.get());
+    const std::vector<int32_t> notes = mDesk.notes();
+    EXPECT_LE(std::find(notes.begin(), notes.end(), -1) - notes.begin(), 1);
+    EXPECT_LT(notes.size(), 4000u);
+}
+
+TEST_F(HostileToLate, CallsGoWithTheirSender) {
+    {
+        Rogue other;
+        other.sendMany(1000, kTransact, [this](sdbus::Message& m, int i) { note(i)(m); });
+        other.send(kTransact, note(5));
+        other.deskNumber();
+        EXPECT_TRUE(waiting(1001));
+    }
+    // But for the one that nobody waits for.
+    EXPECT_TRUE(waiting(1));
+    serve();
+    EXPECT_TRUE(eventually([this] { return !mDesk.notes().empty(); }));
+    EXPECT_EQ((std::vector<int32_t>{5}), mDesk.notes());
+}
+
+TEST_F(HostileToLate, OneWayCallersOfAnObjectAreServedInTurn) {
+    // The rogue's first one-way call waits behind all of its others.
+    mRogue.sendMany(2000, kTransact, [this](sdbus::Message& m, int i) { note(i)(m); });
+    for (int32_t i = 2000; i < 4000; i++) mRogue.send(kTransact, note(i));
+    mRogue.deskNumber();
+    EXPECT_TRUE(waiting(4000));
+    EXPECT_EQ(NO_ERROR, mDesk.note(-1));
+    EXPECT_EQ(NO_ERROR, mDesk.note(-2));
+    EXPECT_TRUE(waiting(4002));
+    serve();
+    EXPECT_TRUE(eventually([this] { return mDesk.notes().size() == 4002; }));
+    std::vector<int32_t> notes = mDesk.notes();
+    const auto first = std::find(notes.begin(), notes.end(), -1);
+    const auto second = std::find(notes.begin(), notes.end(), -2);
+    EXPECT_LE(first - notes.begin(), 2);
+    EXPECT_LT(first, second);
+    EXPECT_LE(second - notes.begin(), 5);
+    notes.erase(std::remove_if(notes.begin(), notes.end(), [](int32_t note) { return note < 0; }),
+                notes.end());
+    EXPECT_EQ(ascending(4000), notes);
 }
 
 TEST_F(Hostile, AFloodOfRefusedCallsIsGoneAtOnce) {
@@ -375,15 +602,11 @@ TEST_F(Hostile, AFloodOfRefusedCallsIsGoneAtOnce) {
 
 TEST_F(Hostile, AFloodOfCallsWhoseAnswersNobodyReadsIsBounded) {
     Rogue other;
-    const auto proxy = sdbus::createProxy(other.connection(), kDeskBusName, kObjectPath);
-    for (int i = 0; i < 10000; i++) {
-        sdbus::MethodCall message = proxy->createMethodCall(kInterface, kTransact);
-        message << mNumber << uint32_t{Desk::INSIDE} << uint32_t{0};
-        write(message, {});
-        proxy->callMethod(
-                message, [](sdbus::MethodReply&, const sdbus::Error*) {}, UINT64_MAX);
+    other.sendMany(10000, kTransact, [this](sdbus::Message& m, int) {
+        m << mNumber << uint32_t{Desk::INSIDE} << uint32_t{0};
+        write(m, {});
         ASSERT_LE(mDesk.counts().waiting, 4096);
-    }
+    });
 }
 
 // A service that answers as its test says, in words of the signatures that it is given.

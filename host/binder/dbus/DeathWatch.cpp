@@ -13,6 +13,8 @@ void DeathWatch::peerDied(const std::shared_ptr<Peer>& peer) {
     mPeers.remove(peer);
     SharedObjects::Objects released;
     const std::vector<int32_t> handles = mObjects.peerDied(*peer, &released);
+    const CallQueue::Calls dropped = mQueues.senderLeft(*peer);
+    for (const auto& call : dropped) mReleaser.release(call->localObjects());
     for (const int32_t handle : handles) {
         // It is pinned, so it is there.
         const Domain domain = SharedObjects::domainOf(mObjects.remote(handle)->object);
