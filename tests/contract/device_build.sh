@@ -1,6 +1,7 @@
 #!/bin/sh
 # What the device's build relies on: the library compiles without exceptions and run-time type
-# information, and Android.bp names files that exist and every test of one process.
+# information, and Android.bp names files that exist and every test of one process, lets the library
+# export as little as here, and gives the tests of what it hides the static one.
 # Usage: device_build.sh SOURCES CXX [flag...]
 set -eu
 cd "$1"
@@ -33,5 +34,32 @@ for test in tests/contract/*Test.cpp tests/wire/*Test.cpp tests/unit/*/*Test.cpp
     case $test in tests/unit/host/* | tests/unit/simulator/*) continue ;; esac
     echo $named $elsewhere | tr ' ' '\n' | grep -qxF "$test" ||
         { echo "Android.bp lacks $test"; failed=1; }
+done
+
+# module NAME: its lines in Android.bp
+module() {
+    awk -v name="    name: \"$1\"," '/ \{$/ && /^[a-z]/ {block = ""; found = 0}
+        {block = block $0 "\n"} $0 == name {found = 1} /^}/ && found {printf "%s", block; found = 0}' Android.bp
+}
+# has MODULE TEXT...
+has() {
+    of=$1
+    shift
+    for text in "$@"; do
+        module "$of" | grep -qF "$text" || { echo "Android.bp: $of lacks $text"; failed=1; }
+    done
+}
+has tarn_library_defaults '"-fvisibility=hidden"' '"-fvisibility-inlines-hidden"'
+has libtarn_vendor_api '"tarn_library_defaults"' 'version_script: "cmake/exports.map"'
+has libtarn_vendor_api_static '"tarn_library_defaults"'
+for hidden in core modules service; do
+    has tarn_private_tests "\"tests/unit/$hidden/"
+done
+for tests in tarn_private_tests tarn_class_shape_test; do
+    has $tests 'static_libs: ["libtarn_vendor_api_static"]'
+    if module $tests | grep -qF '"libtarn_vendor_api"'; then
+        echo "Android.bp: $tests has the library twice"
+        failed=1
+    fi
 done
 exit $failed
