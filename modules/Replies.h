@@ -14,71 +14,34 @@ namespace android {
 // exeCmdSet_Parcel against exactly -1. A controller that tests against 0 spells its test out.
 
 /** Sends one text; returns the status. */
-inline int sendText(const sp<TarnManager>& manager, int cmd, const String16& text) {
-    Parcel request;
-    request.writeString16(text);
-    return manager->exeCmdSet_Int(cmd, request);
-}
+int sendText(const sp<TarnManager>& manager, int cmd, const String16& text);
 
 /** Asks for a text, whatever the status: after a failure the reply is empty and so is the text. */
-inline String16 askForText(const sp<TarnManager>& manager, int cmd) {
-    Parcel reply;
-    manager->exeCmdSet_Parcel(cmd, &reply);
-    return reply.readString16();
-}
+String16 askForText(const sp<TarnManager>& manager, int cmd);
 
 /** Asks for the text that belongs to a number, whatever the status. */
-inline String16 askForText(const sp<TarnManager>& manager, int cmd, int number) {
-    Parcel request;
-    request.writeInt32(number);
-    Parcel reply;
-    manager->exeCmdSet_Parcel(cmd, request, &reply);
-    return reply.readString16();
-}
+String16 askForText(const sp<TarnManager>& manager, int cmd, int number);
 
 /** Asks for a text; empty when the command failed. */
-inline String16 askForTextUnlessFailed(const sp<TarnManager>& manager, int cmd) {
-    Parcel reply;
-    return manager->exeCmdSet_Parcel(cmd, &reply) != -1 ? reply.readString16() : String16();
-}
+String16 askForTextUnlessFailed(const sp<TarnManager>& manager, int cmd);
 
 /** Asks for an integer; -1 when the command failed. */
-inline int askForIntUnlessFailed(const sp<TarnManager>& manager, int cmd) {
-    Parcel reply;
-    return manager->exeCmdSet_Parcel(cmd, &reply) != -1 ? reply.readInt32() : -1;
-}
+int askForIntUnlessFailed(const sp<TarnManager>& manager, int cmd);
 
 /** Sends a request that an integer answers; -1 when the command failed. */
-inline int sendForIntUnlessFailed(const sp<TarnManager>& manager, int cmd, const Parcel& request) {
-    Parcel reply;
-    return manager->exeCmdSet_Parcel(cmd, request, &reply) != -1 ? reply.readInt32() : -1;
-}
+int sendForIntUnlessFailed(const sp<TarnManager>& manager, int cmd, const Parcel& request);
 
 /** Asks for a boolean; false when the command failed. */
-inline bool askForBoolUnlessFailed(const sp<TarnManager>& manager, int cmd) {
-    Parcel reply;
-    return manager->exeCmdSet_Parcel(cmd, &reply) != -1 && reply.readBool();
-}
+bool askForBoolUnlessFailed(const sp<TarnManager>& manager, int cmd);
 
 /** Sends a request that a boolean answers; false when the command failed. */
-inline bool sendForBoolUnlessFailed(const sp<TarnManager>& manager, int cmd,
-                                    const Parcel& request) {
-    Parcel reply;
-    return manager->exeCmdSet_Parcel(cmd, request, &reply) != -1 && reply.readBool();
-}
+bool sendForBoolUnlessFailed(const sp<TarnManager>& manager, int cmd, const Parcel& request);
 
 /** Sends one text that a boolean answers; false when the command failed. */
-inline bool sendForBoolUnlessFailed(const sp<TarnManager>& manager, int cmd, const String16& text) {
-    Parcel request;
-    request.writeString16(text);
-    return sendForBoolUnlessFailed(manager, cmd, request);
-}
+bool sendForBoolUnlessFailed(const sp<TarnManager>& manager, int cmd, const String16& text);
 
 /** Reads a text as UTF-8. */
-inline std::string readUtf8(const Parcel& reply) {
-    const String8 text(reply.readString16());
-    return std::string(text.c_str(), text.size());
-}
+std::string readUtf8(const Parcel& reply);
 
 /**
  * How many records of a list to read. The count is the service's and is trusted as far as any reply
