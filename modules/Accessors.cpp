@@ -54,16 +54,16 @@ namespace {
 
 /** The controller in *slot, a strong reference to an Interface; made on the first call. */
 template <typename Controller, typename Interface>
-void* fill(TarnManager* manager, void* slot) {
+void* fill(const sp<TarnManager>& manager, void* slot) {
     auto& controller = *static_cast<sp<Interface>*>(slot);
-    if (controller == nullptr) controller = new Controller(sp<TarnManager>(manager));
+    if (controller == nullptr) controller = new Controller(manager);
     return controller.get();
 }
 
-void* obtain(TarnManager* manager, Mutex* lock, void* (*fillSlot)(TarnManager*, void*),
+void* obtain(TarnManager* manager, Mutex* lock, void* (*fillSlot)(const sp<TarnManager>&, void*),
              void* slot) {
     AutoMutex guard(*lock);
-    return fillSlot(manager, slot);
+    return fillSlot(sp<TarnManager>(manager), slot);
 }
 
 }  // namespace
