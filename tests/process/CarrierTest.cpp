@@ -22,6 +22,8 @@
 #include <thread>
 
 #include "host/HostServiceManager.h"
+#include "host/binder/dbus/BusLink.h"
+#include "host/binder/dbus/MessageFormat.h"
 #include "tests/process/Desk.h"
 #include "tests/process/ProcessTest.h"
 #include "tests/support/MoreThanMemory.h"
@@ -40,6 +42,7 @@ using android::sp;
 using android::String16;
 using android::UNKNOWN_TRANSACTION;
 using android::wp;
+using android::host::dbus::BusLink;
 
 constexpr size_t kMebibyte = 1024 * 1024;
 
@@ -511,6 +514,63 @@ TEST_F(Carrier, WritesOnWhatDidNotFitIntoTheSocket) {
     EXPECT_TRUE(eventually([] { return countsHere().holds == 0; }));
 }
 
+// Has something to read all the time: each message that it takes is sent again.
+class BusyLink final : private BusLink::Listener {
+  public:
+    BusyLink() : mLink(theBus().address()) {
+        mSelf = std::make_shared<BusLink::Destination>(mLink, mLink.uniqueName(),
+                                                       android::host::dbus::kObjectPath);
+        mLink.start(this);
+        for (int i = 0; i < 2000; i++) sendToSelf();
+    }
+
+    // Sends the bus what does not fit into a socket.
+    bool sendMuch() {
+        BusLink::Destination bus(mLink, "org.freedesktop.DBus", "/org/freedesktop/DBus");
+        sdbus::MethodCall call = mLink.newCall(bus, "org.freedesktop.DBus", "NameHasOwner");
+        call << std::string(4 * kMebibyte, 'x');
+        return mLink.send(call);
+    }
+
+    bool calmDown() {
+        mEnds = true;
+        return eventually([this] { return mUnderWay == 0; });
+    }
+
+  private:
+    void onCall(sdbus::MethodCall) override {
+        // Takes longer than the bus does.
+        const auto end = std::chrono::steady_clock::now() + std::chrono::microseconds(300);
+        while (std::chrono::steady_clock::now() < end) continue;
+        if (!mEnds) sendToSelf();
+        mUnderWay--;
+    }
+    void onNameOwnerChanged(const std::string&, const std::string&, const std::string&) override {}
+    void onDisconnected() override {}
+
+    void sendToSelf() {
+        mUnderWay++;
+        sdbus::MethodCall call = mLink.newCall(*mSelf, android::host::dbus::kInterface,
+                                               android::host::dbus::kRelease);
+        call << uint64_t{0} << uint32_t{0};
+        mLink.send(call);
+    }
+
+    BusLink mLink;
+    std::shared_ptr<BusLink::Destination> mSelf;
+    std::atomic<int> mUnderWay{0};
+    std::atomic<bool> mEnds{false};
+};
+
+TEST_F(Carrier, WakesASenderAlsoWhileThereIsMoreToRead) {
+    static BusyLink& busy = *new BusyLink;  // its thread runs to the end
+    const SmallSockets small;
+    auto sent = std::async(std::launch::async, [] { return busy.sendMuch(); });
+    EXPECT_EQ(std::future_status::ready, sent.wait_for(kPatience));
+    EXPECT_TRUE(busy.calmDown());
+    EXPECT_TRUE(sent.get());
+}
+
 TEST_F(Carrier, TellsOfADeath) {
     RemoteDesk desk("tarn.test.desk");
     const sp<Recipient> linked = new Recipient;
@@ -942,7 +1002,7 @@ CHILD(alone) {
     const sp<Desk> desk = new Desk;
     if (publish("tarn.test.desk", desk) != NO_ERROR) return 1;
     if (find("tarn.test.desk") != desk || find("tarn.test.other") != nullptr) return 2;
-    if (runningThreads() != 1) return 3;
+    if (!eventually([] { return runningThreads() == 1; })) return 3;
     tell(std::to_string(output.lines()));
     return 0;
 }
@@ -965,6 +1025,23 @@ TEST_F(Carrier, WarnsOnceOfABusThatCannotBeReached) {
         EXPECT_EQ("1", Child("alone").readLine()) << bad;
     }
     setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
+}
+
+// What the first use of binder comes to on a bus that stands still.
+CHILD(hasty) {
+    const ErrorOutput output;
+    const sp<Desk> desk = new Desk;
+    if (publish("tarn.test.desk", desk) != NO_ERROR) return 1;
+    if (find("tarn.test.desk") != desk || find("tarn.test.other") != nullptr) return 2;
+    if (output.lines() != 1) return 3;
+    tell(output.text());
+    return 0;
+}
+
+TEST_F(Carrier, DoesNotWaitLongForABusThatStandsStill) {
+    theBus().pause();
+    EXPECT_NE(std::string::npos, Child("hasty").readLine().find("the bus does not answer"));
+    theBus().resume();
 }
 
 CHILD(seeker) {

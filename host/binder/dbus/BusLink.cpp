@@ -12,6 +12,7 @@
 #include <exception>
 #include <utility>
 
+#include "BusConnection.h"
 #include "MessageFormat.h"
 
 namespace android::host::dbus {
@@ -41,7 +42,7 @@ BusLink::Destination::~Destination() {
 }
 
 BusLink::BusLink(const std::string& address)
-    : mConnection(sdbus::createSessionBusConnectionWithAddress(address)),
+    : mConnection(connectToBus(address, kPromptly)),
       mUniqueName(mConnection->getUniqueName()),
       mWakeFd(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
     if (mWakeFd < 0) throw sdbus::createError(errno, "no event descriptor");
@@ -98,9 +99,15 @@ void BusLink::run() {
     }
 }
 
+// This also writes, as much as the socket takes.
 bool BusLink::process() {
     std::lock_guard<std::mutex> lock(mLock);
-    return mConnection->processPendingRequest();
+    const bool more = mConnection->processPendingRequest();
+    if (mWritten < mQueued && !hasUnwritten()) {
+        mWritten = mQueued;
+        mChanged.notify_all();
+    }
+    return more;
 }
 
 // An exception in one handler must not end the connection.
@@ -123,7 +130,6 @@ void BusLink::waitForEvents() {
     {
         std::lock_guard<std::mutex> lock(mLock);
         wanted = mConnection->getEventLoopPollData();
-        if ((wanted.events & POLLOUT) == 0) mWritten.notify_all();
     }
     pollfd descriptors[] = {{wanted.fd, wanted.events, 0}, {mWakeFd, POLLIN, 0}};
     const int ready = poll(descriptors, 2, wanted.getPollTimeout());
@@ -146,7 +152,7 @@ void BusLink::disconnected(const char* why) {
         std::lock_guard<std::mutex> lock(mLock);
         mBroken = true;
         abandoned.swap(mPending);
-        mWritten.notify_all();
+        mChanged.notify_all();
     }
     handle([this] { mListener->onDisconnected(); });
     const sdbus::Error error("org.freedesktop.DBus.Error.Disconnected", why);
@@ -165,6 +171,11 @@ sdbus::MethodCall BusLink::newCall(Destination& destination, const char* interfa
 bool BusLink::isBroken() {
     std::lock_guard<std::mutex> lock(mLock);
     return mBroken;
+}
+
+size_t BusLink::unanswered() {
+    std::lock_guard<std::mutex> lock(mLock);
+    return mPending.size();
 }
 
 bool BusLink::hasUnwritten() {
@@ -192,9 +203,10 @@ bool BusLink::sendLocked(Send send) {
         return false;
     }
     if (!hasUnwritten()) return true;
+    const uint64_t mine = ++mQueued;
     wake();
     if (std::this_thread::get_id() != mThread) {
-        mWritten.wait(lock, [this] { return mBroken || !hasUnwritten(); });
+        mChanged.wait(lock, [this, mine] { return mBroken || mWritten >= mine; });
     }
     return true;
 }

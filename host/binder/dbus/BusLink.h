@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -59,7 +60,10 @@ class BusLink {
     /** How long the bus and the link's threads of other processes may take to answer. */
     static constexpr std::chrono::seconds kPromptly{5};
 
-    /** Connects; throws sdbus::Error if the bus cannot be reached. */
+    /**
+     * Connects; throws sdbus::Error if the bus cannot be reached or does not answer promptly, and
+     * std::system_error if there can be no thread.
+     */
     explicit BusLink(const std::string& address);
     ~BusLink();
 
@@ -73,6 +77,9 @@ class BusLink {
 
     /** True once the connection is lost. */
     bool isBroken();
+
+    /** How many calls wait for an answer. */
+    size_t unanswered();
 
     sdbus::MethodCall newCall(Destination& destination, const char* interface, const char* method);
 
@@ -115,7 +122,10 @@ class BusLink {
     Listener* mListener = nullptr;
 
     std::mutex mLock;  // around every use of the connection; guards what follows
-    std::condition_variable mWritten;
+    std::condition_variable mChanged;
+    // Of the messages that did not fit into the socket: how many there were, how many are written.
+    uint64_t mQueued = 0;
+    uint64_t mWritten = 0;
     bool mBroken = false;
     std::set<std::shared_ptr<Pending>> mPending;
     std::thread::id mThread;
