@@ -119,6 +119,7 @@ status_t Desk::onTransact(uint32_t code, const Parcel& data, Parcel* reply, uint
             reply->writeInt32(counts.holds);
             reply->writeInt32(counts.waiting);
             reply->writeInt32(counts.peers);
+            reply->writeInt32(counts.questions);
             return reply->writeInt32(counts.descriptors);
         }
         case VANISH:
@@ -134,7 +135,8 @@ Counts countsHere() {
     const auto counts = carrier->counts();
     return {static_cast<int32_t>(counts.objects.remotes), static_cast<int32_t>(counts.objects.lent),
             static_cast<int32_t>(counts.objects.holds),   static_cast<int32_t>(counts.waitingCalls),
-            static_cast<int32_t>(counts.peers),           static_cast<int32_t>(openDescriptors())};
+            static_cast<int32_t>(counts.peers),           static_cast<int32_t>(counts.questions),
+            static_cast<int32_t>(openDescriptors())};
 }
 
 status_t DeskClient::send(uint32_t code) const {
@@ -231,13 +233,15 @@ status_t DeskClient::vanish() const {
 Counts DeskClient::counts() const {
     Parcel data;
     Parcel reply;
-    if (mDesk->transact(Desk::COUNTS, data, &reply) != NO_ERROR) return {-1, -1, -1, -1, -1, -1};
+    if (mDesk->transact(Desk::COUNTS, data, &reply) != NO_ERROR)
+        return {-1, -1, -1, -1, -1, -1, -1};
     Counts counts;
     counts.proxies = reply.readInt32();
     counts.lent = reply.readInt32();
     counts.holds = reply.readInt32();
     counts.waiting = reply.readInt32();
     counts.peers = reply.readInt32();
+    counts.questions = reply.readInt32();
     counts.descriptors = reply.readInt32();
     return counts;
 }

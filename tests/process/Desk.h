@@ -59,6 +59,7 @@ struct Counts {
     int32_t holds = 0;
     int32_t waiting = 0;
     int32_t peers = 0;
+    int32_t questions = 0;
     int32_t descriptors = 0;
 };
 Counts countsHere();

@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sdbus-c++/sdbus-c++.h>
+#include <signal.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -95,12 +96,15 @@ CHILD(full) {
     return serveUntilClosed();
 }
 
-// A desk that answers nobody until it is told to, and then one call at a time. Told to count, it
-// says how many wait.
+// A desk that answers nobody until it is told to, and then one call at a time. Until then it says,
+// when asked, how many calls wait, and how many of its questions.
 CHILD(late) {
     android::defaultServiceManager()->addService(String16(arguments[0].c_str()), new Desk);
     tell("ready");
-    while (listen() == "count") tell(std::to_string(countsHere().waiting));
+    for (std::string word = listen(); word != "serve"; word = listen()) {
+        const Counts counts = countsHere();
+        tell(std::to_string(word == "waiting" ? counts.waiting : counts.questions));
+    }
     std::thread([] { android::IPCThreadState::self()->joinThreadPool(); }).detach();
     return serveUntilClosed();
 }
@@ -337,6 +341,34 @@ TEST_F(Hostile, ReferencesToNothingAreRefused) {
     EXPECT_EQ(NO_ERROR, mDesk.drop());
 }
 
+// References to objects of processes that there never were, a different one each.
+Content inventedReferences(size_t first) {
+    Content content;
+    content.bytes.resize(kMaxReferences * 28);
+    for (size_t i = 0; i < kMaxReferences; i++) {
+        content.references.push_back(
+                {static_cast<uint32_t>(i * 28), ":9." + std::to_string(first + i), i + 1});
+    }
+    return content;
+}
+
+TEST_F(Hostile, OwnersThatThereNeverWereHoldUpNobody) {
+    constexpr int kMessages = 24;
+    mRogue.sendMany(kMessages, kTransact, [this](sdbus::Message& m, int i) {
+        m << mNumber << uint32_t{Desk::KEEP} << uint32_t{0};
+        write(m, inventedReferences(static_cast<size_t>(i) * kMaxReferences));
+    });
+    auto echoed = std::async(std::launch::async, [this] {
+        std::vector<uint8_t> back;
+        return mDesk.echo({1}, &back);
+    });
+    ASSERT_EQ(std::future_status::ready, echoed.wait_for(kPatience));
+    EXPECT_EQ(NO_ERROR, echoed.get());
+    // The last one that is served leaves the desk an object.
+    EXPECT_TRUE(
+            eventually([this] { return mDesk.drop() == NO_ERROR && mDesk.counts().proxies == 0; }));
+}
+
 TEST_F(Hostile, MoreReferencesThanAllowedAreRefused) {
     Content content;
     content.bytes.resize((kMaxReferences + 1) * 28);
@@ -499,15 +531,15 @@ class HostileToLate : public testing::Test {
         mProcess.readLine();
         mDesk = DeskClient(find(kDeskName));
         mNumber = mRogue.deskNumber();
-        mTasks = count();
+        mTasks = count("waiting");
     }
 
-    int32_t count() {
-        mProcess.writeLine("count");
+    int32_t count(const std::string& what) {
+        mProcess.writeLine(what);
         return std::stoi(mProcess.readLine());
     }
     bool waiting(int32_t calls) {
-        return eventually([&] { return count() == mTasks + calls; });
+        return eventually([&] { return count("waiting") == mTasks + calls; });
     }
 
     void serve() {
@@ -547,6 +579,26 @@ TEST_F(HostileToLate, CallersAreServedInTurn) {
     const std::vector<int32_t> notes = mDesk.notes();
     EXPECT_LE(std::find(notes.begin(), notes.end(), -1) - notes.begin(), 1);
     EXPECT_LT(notes.size(), 4000u);
+}
+
+TEST_F(HostileToLate, OwnersThatThereNeverWereAreAskedForTogether) {
+    // The bus stands still before the desk reads.
+    kill(mProcess.pid(), SIGSTOP);
+    mRogue.sendMany(1, kTransact, [this](sdbus::Message& m, int) {
+        m << mNumber << uint32_t{Desk::KEEP} << uint32_t{0};
+        write(m, inventedReferences(0));
+    });
+    mRogue.connection().requestName(kRogueBusName);
+    mRogue.connection().releaseName(kRogueBusName);
+    theBus().pause();
+    kill(mProcess.pid(), SIGCONT);
+    EXPECT_TRUE(waiting(1));
+    EXPECT_LE(count("questions"), 2);
+    theBus().resume();
+    serve();
+    EXPECT_TRUE(
+            eventually([this] { return mDesk.drop() == NO_ERROR && mDesk.counts().proxies == 0; }));
+    EXPECT_EQ(2, mDesk.counts().peers);
 }
 
 TEST_F(HostileToLate, CallsGoWithTheirSender) {

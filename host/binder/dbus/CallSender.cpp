@@ -36,7 +36,7 @@ status_t CallSender::transact(int32_t handle, uint32_t code, uint32_t flags, Pay
     if (status != NO_ERROR) return status;
 
     try {
-        sdbus::MethodCall call = mLink.newCall(*callee->destination, kInterface, kTransact);
+        sdbus::MethodCall call = mLink.newCall(*callee->destination(), kInterface, kTransact);
         call << remote->object << code << flags;
         write(call, packed.content);
         mExchange.send(packed.grants, *callee);
@@ -46,7 +46,7 @@ status_t CallSender::transact(int32_t handle, uint32_t code, uint32_t flags, Pay
             auto promise = std::make_shared<std::promise<Answer>>();
             std::future<Answer> answered = promise->get_future();
             const bool sent = mLink.call(
-                    callee->destination, call, BusLink::kForever,
+                    callee->destination(), call, BusLink::kForever,
                     [this, promise, callee](sdbus::MethodReply& answer, const sdbus::Error* error) {
                         promise->set_value(onAnswer(answer, error, callee));
                     });

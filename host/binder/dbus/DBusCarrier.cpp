@@ -29,7 +29,7 @@ DBusCarrier::DBusCarrier(const std::string& address)
 
 void DBusCarrier::onCall(sdbus::MethodCall call) {
     try {
-        const std::shared_ptr<Peer> caller = mPeers.named(call.getSender());
+        const std::shared_ptr<Peer> caller = mPeers.sender(call.getSender());
         const std::string method = call.getMemberName();
         if (method == kTransact) {
             mReceiver.onTransact(call, caller);
@@ -106,7 +106,7 @@ std::vector<String16> DBusCarrier::list() {
 }
 
 DBusCarrier::Counts DBusCarrier::counts() {
-    return {mObjects.counts(), mPeerTable.size(), mQueues.size()};
+    return {mObjects.counts(), mPeerTable.size(), mQueues.size(), mLink.unanswered()};
 }
 
 }  // namespace android::host::dbus

@@ -47,6 +47,7 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
         SharedObjects::Counts objects;
         size_t peers;
         size_t waitingCalls;
+        size_t questions;  // sent and not answered
     };
     Counts counts();
 

@@ -53,7 +53,7 @@ status_t ObjectExchange::pack(Payload payload, Peer& receiver, Packed* out) {
 void ObjectExchange::send(const std::vector<Grant>& grants, const Peer& holder) {
     for (const Grant& grant : grants) {
         if (grant.owner->dead) continue;
-        sdbus::MethodCall call = mLink.newCall(*grant.owner->destination, kInterface, kGrant);
+        sdbus::MethodCall call = mLink.newCall(*grant.owner->destination(), kInterface, kGrant);
         call << grant.object << holder.name;
         mLink.send(call);
     }
@@ -80,7 +80,7 @@ void ObjectExchange::giveBack(const std::optional<SharedObjects::Holds>& holds) 
     if (!holds.has_value() || holds->remote.owner->dead) return;
     try {
         sdbus::MethodCall call =
-                mLink.newCall(*holds->remote.owner->destination, kInterface, kRelease);
+                mLink.newCall(*holds->remote.owner->destination(), kInterface, kRelease);
         call << holds->remote.object << holds->count;
         mLink.send(call);
     } catch (const sdbus::Error& error) {
@@ -105,7 +105,7 @@ sp<IBinder> ObjectExchange::resolve(const std::string& owner, uint64_t object,
     if (owner == mLink.uniqueName()) return mObjects.find(object);
     if (!isUniqueName(owner)) return nullptr;
     const int32_t handle =
-            mObjects.receive(owner == sender->name ? sender : mPeers.named(owner), object);
+            mObjects.receive(owner == sender->name ? sender : mPeers.mentioned(owner), object);
     const sp<IBinder> proxy = ProcessState::self()->getStrongProxyForHandle(handle);
     giveBack(mObjects.unpin(handle));
     return proxy;
@@ -125,7 +125,7 @@ void ObjectExchange::onGrant(sdbus::MethodCall& call) {
     std::string holder;
     call >> object >> holder;
     if (isUniqueName(holder) && mObjects.find(object) != nullptr) {
-        mObjects.lendOn(object, *mPeers.named(holder));
+        mObjects.lendOn(object, *mPeers.mentioned(holder));
     }
 }
 

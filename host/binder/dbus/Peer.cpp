@@ -5,11 +5,16 @@
 
 namespace android::host::dbus {
 
-Peer::Peer(BusLink& link, const std::string& uniqueName)
-    : name(uniqueName),
-      destination(std::make_shared<BusLink::Destination>(link, uniqueName, kObjectPath)) {}
+Peer::Peer(BusLink& link, const std::string& uniqueName) : name(uniqueName), mLink(link) {}
 
 Peer::~Peer() = default;
+
+const std::shared_ptr<BusLink::Destination>& Peer::destination() {
+    std::call_once(mAddressed, [this] {
+        mDestination = std::make_shared<BusLink::Destination>(mLink, name, kObjectPath);
+    });
+    return mDestination;
+}
 
 bool Peer::mayLog() {
     const auto now = std::chrono::steady_clock::now();

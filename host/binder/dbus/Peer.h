@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -24,8 +25,10 @@ struct Peer {
     /** True at most once a second, so that many bad messages do not make as many log lines. */
     bool mayLog();
 
+    /** Made at its first use: many processes are only heard of. On any thread. */
+    const std::shared_ptr<BusLink::Destination>& destination();
+
     const std::string name;
-    const std::shared_ptr<BusLink::Destination> destination;
 
     std::atomic<bool> dead{false};
 
@@ -37,11 +40,17 @@ struct Peer {
     std::map<uint64_t, uint64_t> holds;
 
     // The rest is used by the link's thread only. Calls wait until pid and uid are known.
+    bool asked = false;
     bool identified = false;
     pid_t pid = 0;
     uid_t uid = static_cast<uid_t>(-1);
     std::vector<std::unique_ptr<BusCall>> unidentified;
     std::chrono::steady_clock::time_point lastLogged{};
+
+  private:
+    BusLink& mLink;
+    std::once_flag mAddressed;
+    std::shared_ptr<BusLink::Destination> mDestination;
 };
 
 }  // namespace android::host::dbus

@@ -4,18 +4,21 @@
 
 #include <log/log.h>
 
+#include <unordered_set>
 #include <utility>
 
 #include "BusCall.h"
 
 namespace android::host::dbus {
 
-// Whether a new process lives has to be asked: a death that was announced before it was known here
-// is not announced again.
-std::shared_ptr<Peer> PeerDirectory::named(const std::string& uniqueName) {
-    const auto found = mPeers.findOrAdd(uniqueName);
-    const std::shared_ptr<Peer> peer = found.first;
-    if (!found.second) return peer;
+std::shared_ptr<Peer> PeerDirectory::sender(const std::string& uniqueName) {
+    const std::shared_ptr<Peer> peer = mPeers.findOrAdd(uniqueName).first;
+    identify(peer);
+    return peer;
+}
+
+void PeerDirectory::identify(const std::shared_ptr<Peer>& peer) {
+    if (std::exchange(peer->asked, true)) return;
     ask(
             "GetConnectionUnixProcessID", *peer,
             [peer](sdbus::MethodReply& reply) {
@@ -32,7 +35,50 @@ std::shared_ptr<Peer> PeerDirectory::named(const std::string& uniqueName) {
                 if (error != nullptr && meansDeath(error->getName())) mDeaths.peerDied(peer);
             });
     if (!asked) identified(*peer);
+}
+
+// Whether it lives has to be asked: a death that was announced before it was known here is not
+// announced again.
+std::shared_ptr<Peer> PeerDirectory::mentioned(const std::string& uniqueName) {
+    const auto [peer, isNew] = mPeers.findOrAdd(uniqueName);
+    if (isNew) {
+        mUnconfirmed.push_back(peer);
+        askWhoLives();
+    }
     return peer;
+}
+
+// One question for all, and one at a time: a message may name thousands that never were. Whoever is
+// asked for once is not asked for again, whatever the answer: a call to a dead one shows it too.
+void PeerDirectory::askWhoLives() {
+    if (mAsking || mUnconfirmed.empty()) return;
+    const Peers peers = std::exchange(mUnconfirmed, {});
+    try {
+        mAsking = mBus.call(
+                mBus.newCall("ListNames"), BusLink::kForever,
+                [this, peers](sdbus::MethodReply& names) { onNames(peers, names); },
+                [this](const sdbus::Error* error) {
+                    if (error != nullptr)
+                        ALOGW("The bus does not say who lives: %s", error->what());
+                    mAsking = false;
+                    askWhoLives();
+                });
+    } catch (const sdbus::Error& error) {
+        ALOGW("The bus cannot be asked who lives: %s", error.what());
+    }
+}
+
+void PeerDirectory::onNames(const Peers& peers, sdbus::MethodReply& names) {
+    std::vector<std::string> listed;
+    names >> listed;
+    const std::unordered_set<std::string> living(listed.begin(), listed.end());
+    for (const std::shared_ptr<Peer>& peer : peers) {
+        if (living.count(peer->name) > 0) {
+            identify(peer);
+        } else {
+            mDeaths.peerDied(peer);
+        }
+    }
 }
 
 // False if the question cannot be sent: then no handler is called.

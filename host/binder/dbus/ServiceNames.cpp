@@ -119,7 +119,7 @@ sp<IBinder> ServiceNames::onFound(sdbus::MethodReply& reply) {
         std::string owner;
         uint64_t object = 0;
         reply >> owner >> object;
-        return mExchange.resolve(owner, object, mPeers.named(reply.getSender()));
+        return mExchange.resolve(owner, object, mPeers.sender(reply.getSender()));
     } catch (const std::exception& malformed) {
         ALOGW("An answer is malformed: %s", malformed.what());
         return nullptr;

@@ -167,11 +167,14 @@ std::vector<int32_t> SharedObjects::peerDied(Peer& peer, Objects* released) {
     }
     peer.holds.clear();
     std::vector<int32_t> handles;
-    for (auto& [handle, received] : mReceived) {
+    for (auto known = mHandles.lower_bound({peer.name, 0});
+         known != mHandles.end() && known->first.first == peer.name; ++known) {
+        Received& received = mReceived[known->second];
         if (received.remote.owner.get() != &peer || !received.watched) continue;
         received.pins++;
-        handles.push_back(handle);
+        handles.push_back(known->second);
     }
+    std::sort(handles.begin(), handles.end());
     return handles;
 }
 
