@@ -9,7 +9,9 @@
 
 #include "registry/Arguments.h"
 #include "tests/support/LogCalls.h"
+#include "tests/support/ParcelWords.h"
 #include "tests/support/RecordingManager.h"
+#include "tests/wire/LayoutCheck.h"
 #include "values/Hex.h"
 
 namespace tarn::test {
@@ -27,6 +29,7 @@ struct Kinds {
     bool failure = false;
     bool empty = false;
     bool sends = false;
+    bool readWhole = false;  // the reply, in one case at least
 
     bool complete() const { return !sends || (success && failure && empty); }
 };
@@ -47,18 +50,40 @@ std::string shown(const Bytes& bytes) {
     return bytes.empty() ? "nothing" : values::hexWords(bytes);
 }
 
-/** Notes how far the log was when each command came. */
+/** What one command wrote behind its code and read from its reply. */
+struct Exchange {
+    std::vector<ParcelWord> written;
+    std::vector<ParcelWord> read;
+};
+
+/** Notes how far the log was when each command came, and what it wrote and read. */
 class WireManager : public RecordingManager {
   public:
     int invoke(const android::Parcel& request, android::Parcel* reply) override {
         mLinesBefore.push_back(logCalls().size());
-        return RecordingManager::invoke(request, reply);
+        endExchange();
+        Exchange exchange;
+        exchange.written.swap(wordsWritten());
+        const int status = RecordingManager::invoke(request, reply);
+        wordsRead().clear();
+        mReply = reply;
+        mExchanges.push_back(exchange);
+        return status;
     }
 
     void startCase() {
         clear();
         mLinesBefore.clear();
         logCalls().clear();
+        mExchanges.clear();
+        wordsWritten().clear();
+        wordsRead().clear();
+    }
+
+    /** For each command of the case, in their order. */
+    const std::vector<Exchange>& exchanges() {
+        endExchange();
+        return mExchanges;
     }
 
     std::vector<LoggedLine> logged() const {
@@ -74,8 +99,31 @@ class WireManager : public RecordingManager {
     }
 
   private:
+    /** What was read since the last command belongs to its reply, in which the status comes first.
+     */
+    void endExchange() {
+        std::vector<ParcelWord> words;
+        words.swap(wordsRead());
+        if (mExchanges.empty()) return;
+        const bool status = !words.empty() && words[0].parcel == mReply && words[0].position == 0;
+        if (status) words.erase(words.begin());
+        mExchanges.back().read = words;
+    }
+
     std::vector<size_t> mLinesBefore;  // of the log, for each command
+    std::vector<Exchange> mExchanges;
+    const android::Parcel* mReply = nullptr;  // of the last command
 };
+
+/** Takes away the code, which stands among the words of a request at the time it was written. */
+bool removeCode(std::vector<ParcelWord>* words, int32_t code) {
+    const auto found = std::find_if(words->begin(), words->end(), [code](const ParcelWord& word) {
+        return strcmp(word.type, "i32") == 0 && word.value == code;
+    });
+    if (found == words->end()) return false;
+    words->erase(found);
+    return true;
+}
 
 class Replayer {
   public:
@@ -108,6 +156,7 @@ class Replayer {
         }
         compare(wireCase, *method, result);
         compareLog(wireCase);
+        compareWords(wireCase, *method);
         note(wireCase, *method);
     }
 
@@ -122,6 +171,8 @@ class Replayer {
                                             (!kinds.success   ? "a status that is not -1"
                                              : !kinds.failure ? "a status of -1"
                                                               : "an empty reply"));
+            } else if (kinds.sends && !kinds.readWhole && !leavesReply(method)) {
+                mReport->failures.push_back(method.name + " never reads its reply to the end");
             } else {
                 mReport->covered++;
             }
@@ -179,6 +230,36 @@ class Replayer {
         expected.swap(mLogOfCreation);
         expected.insert(expected.end(), wireCase.log.begin(), wireCase.log.end());
         const std::string difference = test::compareLog(expected, mManager->logged());
+        if (!difference.empty()) fail(wireCase, difference);
+    }
+
+    /** The rows' words against what was really written and read. */
+    void compareWords(const WireCase& wireCase, const Method& method) {
+        const std::vector<Exchange>& exchanges = mManager->exchanges();
+        for (size_t i = 0; i < exchanges.size(); i++) {
+            const int32_t code = firstWord(mManager->requests()[i]);
+            const protocol::Command* row = rowOf(method, code);
+            if (row == nullptr) continue;
+            Exchange exchange = exchanges[i];
+            removeCode(&exchange.written, code);
+            report(wireCase, compareWritten(row->requestLayout(), exchange.written));
+            report(wireCase, compareRead(row->replyLayout(), exchange.read));
+            mKinds[&method].readWhole |= readToTheEnd(row->replyLayout(), exchange.read);
+        }
+    }
+
+    /** A method that hands its reply on as bytes, and the one that drops it. */
+    static bool leavesReply(const Method& method) {
+        return method.undecoded || method.row == &commandOf(protocol::Row::CMD_PROPERTIES_GET);
+    }
+
+    static const protocol::Command* rowOf(const Method& method, int32_t code) {
+        if (method.row != nullptr && method.row->code == code) return method.row;
+        const std::vector<const protocol::Command*> rows = protocol::findCommands(code);
+        return rows.empty() ? nullptr : rows.front();
+    }
+
+    void report(const WireCase& wireCase, const std::string& difference) {
         if (!difference.empty()) fail(wireCase, difference);
     }
 
