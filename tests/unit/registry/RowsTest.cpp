@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <map>
 #include <set>
@@ -12,6 +13,9 @@
 
 using android::sp;
 using tarn::protocol::Command;
+using tarn::protocol::Field;
+using tarn::protocol::Layout;
+using tarn::protocol::Type;
 using tarn::registry::Argument;
 using tarn::registry::Controller;
 using tarn::registry::Kind;
@@ -70,6 +74,42 @@ TEST(Rows, BelongToTheirMethodsController) {
         for (const Method& method : controller.methods) {
             if (method.row == nullptr) continue;
             EXPECT_EQ(controller.className, method.row->controller) << pathOf(controller, method);
+        }
+    }
+}
+
+/** The kind of argument that a field of a request has. */
+Kind kindOf(const Field& field) {
+    switch (field.type) {
+        case Type::kInt32:
+            return Kind::kInt;
+        case Type::kBool:
+            return Kind::kBool;
+        case Type::kString16:
+            return Kind::kText;
+        case Type::kFloat:
+            return Kind::kFloat;
+        case Type::kBytes:
+            return Kind::kBytes;
+        case Type::kList:
+            return field.record.at(0).type == Type::kInt32 ? Kind::kInts : Kind::kTexts;
+    }
+    return Kind::kRecord;
+}
+
+/** Those of a method whose arguments are its request's fields, one for one. */
+TEST(Rows, HaveTheTypesOfTheirMethodsArguments) {
+    for (const Controller& controller : tarn::registry::controllers()) {
+        for (const Method& method : controller.methods) {
+            if (method.row == nullptr) continue;
+            const Layout request = method.row->requestLayout();
+            for (size_t i = 0; i < std::min(request.size(), method.arguments.size()); i++) {
+                const Argument& argument = method.arguments[i];
+                if (argument.name != request[i].name) break;
+                const bool isUnsigned = argument.kind() == Kind::kUnsigned;
+                EXPECT_EQ(isUnsigned ? Kind::kInt : argument.kind(), kindOf(request[i]))
+                        << pathOf(controller, method) << ", " << argument.name;
+            }
         }
     }
 }
