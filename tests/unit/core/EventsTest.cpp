@@ -128,6 +128,16 @@ TEST_F(Events, ComeWithAnEmptyParcelWhenTheyCarryNothing) {
     manager->unRegisterListener(&listener);
 }
 
+TEST_F(Events, ComeWithTheirOneByteToo) {
+    Listener& listener = keptListener();
+    manager->registerListener(&listener);
+    manager->createTarnMsgManager();
+    service->raiseEvent(7, {'a'});
+    ASSERT_TRUE(listener.waitFor(1));
+    EXPECT_EQ(listener.received()[0].bytes, std::string("a\0\0\0", 4));
+    manager->unRegisterListener(&listener);
+}
+
 TEST_F(Events, ComePaddedToWholeWords) {
     Listener& listener = keptListener();
     manager->registerListener(&listener);

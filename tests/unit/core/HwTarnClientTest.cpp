@@ -1,5 +1,6 @@
 #include <binder/Parcel.h>
 #include <gtest/gtest.h>
+#include <tarn/ITarnListener.h>
 #include <unistd.h>
 
 #include "core/HwTarnClient.h"
@@ -272,6 +273,18 @@ TEST(HwTarnClient, LeavesTheProcessesLooperWhenEventsStop) {
     EXPECT_EQ(client->removeTarnMsgManager(), 0);
     EXPECT_FALSE(looper->sendMsg(1, nullptr, 0));
     EXPECT_EQ(mITarnClientLooper, nullptr);
+}
+
+TEST(HwTarnClient, HandlesAnEventWithFalseWhetherSomebodyListensOrNot) {
+    class Silent : public ITarnListener {
+        void notify(unsigned int, int, int, const Parcel*) override {}
+    };
+    const sp<HwTarnClient> client = new HwTarnClient;
+    EXPECT_FALSE(client->handleMsg(7, nullptr, 0));
+    Silent listener;
+    client->registerListener(&listener);
+    EXPECT_FALSE(client->handleMsg(7, nullptr, 0));
+    client->unRegisterListener(&listener);
 }
 
 TEST(GetHwTarnService, LooksTheServiceUpAfreshEveryTime) {

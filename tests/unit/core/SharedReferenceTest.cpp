@@ -2,6 +2,7 @@
 #include <utils/RefBase.h>
 
 #include <new>
+#include <thread>
 
 #include "core/SharedReference.h"
 
@@ -47,6 +48,17 @@ TEST(SharedReference, KeepsTheFirstOfTwoThatAreSetWhereItIsEmpty) {
     EXPECT_EQ(reference.setIfEmpty(first), first);
     EXPECT_EQ(reference.setIfEmpty(new Object), first);
     EXPECT_EQ(sp<Object>(reference), first);
+}
+
+TEST(SharedReference, MayBeReplacedWhileOthersRead) {
+    Reference reference;
+    reference = new Object;
+    std::thread writer([&reference] {
+        for (int i = 0; i < 2000; i++) reference = new Object;
+    });
+    for (int i = 0; i < 2000; i++) EXPECT_EQ(reference->value, 7);
+    EXPECT_TRUE(reference != nullptr);
+    writer.join();
 }
 
 TEST(SharedReference, BeginsWithItsPointer) {

@@ -157,6 +157,18 @@ TEST_F(TarnClientTest, FindsARestartedService) {
     EXPECT_EQ(second.relay->recipient(), android::gDeathNotifier);
 }
 
+TEST_F(TarnClientTest, MayHearOfADeathWhileItInvokes) {
+    Published published;
+    const sp<TarnClient> client = new TarnClient;
+    EXPECT_EQ(invokeWith(client.get(), 1), 2);
+    std::thread deaths([] {
+        const sp<DeathNotifier> notifier = new DeathNotifier;
+        for (int i = 0; i < 200; i++) notifier->binderDied(nullptr);
+    });
+    for (int i = 0; i < 200; i++) EXPECT_EQ(invokeWith(client.get(), i), i + 1);
+    deaths.join();
+}
+
 TEST_F(TarnClientTest, HoldsUpAnInvokeUntilTheServiceIsPublished) {
     const sp<TarnClient> client = new TarnClient;
     LogCapture log;

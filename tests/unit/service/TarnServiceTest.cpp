@@ -311,6 +311,15 @@ TEST(BnTarnClient, RefusesWrongTokensAndTruncatedNotifications) {
     EXPECT_EQ(client->transact(9, truncated, &reply), android::UNKNOWN_TRANSACTION);
 }
 
+TEST(BnTarnClient, AnswersANotificationWithOk) {
+    const sp<RecordingClient> client = new RecordingClient;
+    Parcel data;
+    withToken(&data, "android.ITarnClient")->writeInt32(1);
+    Parcel reply;
+    EXPECT_EQ(client->transact(ITarnClient::NOTIFY, data, &reply), android::OK);
+    EXPECT_EQ(client->received.size(), 1u);
+}
+
 /** A client that stays in every notification until the gate opens. */
 class HeldClient : public BnTarnClient {
   public:
