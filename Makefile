@@ -4,7 +4,7 @@
 BUILD ?= build
 CMAKE_FLAGS ?=
 
-.PHONY: run test test-arm32 bench build format clean
+.PHONY: run test test-arm32 fuzz bench build format clean
 
 # $(call build,TARGET,LIST OF PACKAGES...)
 define build
@@ -25,6 +25,13 @@ test: build
 test-arm32:
 	@scripts/install-packages packages.txt packages-test.txt packages-arm32.txt
 	@scripts/test-arm32 build-arm32 $(CMAKE_FLAGS)
+
+# Every fuzzer, or those that FUZZERS names, for SECONDS each; fuzz/README.md tells more.
+SECONDS ?= 10
+FUZZERS ?=
+fuzz:
+	@scripts/install-packages packages.txt packages-fuzz.txt
+	@scripts/fuzz build-fuzz $(SECONDS) $(FUZZERS)
 
 bench:
 	$(call build,tarn_bench,packages.txt packages-test.txt)

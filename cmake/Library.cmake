@@ -25,8 +25,12 @@ add_library(tarn_vendor_api::tarn_vendor_api ALIAS tarn_vendor_api)
 target_link_libraries(tarn_vendor_api PUBLIC tarn_headers
                                       PRIVATE tarn_objects)
 target_link_options(tarn_vendor_api PRIVATE
-  -Wl,--version-script,${exports} -Wl,--no-undefined -Wl,--as-needed
+  -Wl,--version-script,${exports} -Wl,--as-needed
   -Wl,-z,relro -Wl,-z,now -Wl,-z,text -Wl,-z,noexecstack)
+# Clang puts the sanitizers' runtime into the program alone.
+if(NOT (TARN_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES "Clang"))
+  target_link_options(tarn_vendor_api PRIVATE -Wl,--no-undefined)
+endif()
 set_target_properties(tarn_vendor_api PROPERTIES LINK_DEPENDS ${exports}
                                                  VERSION ${PROJECT_VERSION}
                                                  SOVERSION ${PROJECT_VERSION_MAJOR})
