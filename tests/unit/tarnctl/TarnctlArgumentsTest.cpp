@@ -273,6 +273,11 @@ TEST(TarnctlNames, AreSuggestedWhereTheyAreNear) {
     EXPECT_EQ(didYouMean("", {"pq"}), "");
     EXPECT_EQ(didYouMean("a", {"pq"}), "");
     EXPECT_EQ(didYouMean("PQ", {"pq"}), "; did you mean pq?");
+    // Two letters that changed places with their neighbours, and one more.
+    EXPECT_EQ(didYouMean("stevolmue", {"setVolume"}), "; did you mean setVolume?");
+    EXPECT_EQ(didYouMean("stevolmuex", {"setVolume"}), "");
+    EXPECT_EQ(didYouMean("volume", {"setVolumeOfTheLoudspeaker", "volmeu"}),
+              "; did you mean volmeu, setVolumeOfTheLoudspeaker?");
 }
 
 TEST(TarnctlProperties, AreGettersAndSetters) {
