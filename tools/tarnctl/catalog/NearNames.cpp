@@ -13,8 +13,12 @@ namespace {
 constexpr size_t kMostSuggestions = 3;
 constexpr size_t kFewestLetters = 3;
 
+char lowered(char c) {
+    return static_cast<char>(tolower(static_cast<unsigned char>(c)));
+}
+
 std::string lowered(std::string text) {
-    for (char& c : text) c = static_cast<char>(tolower(static_cast<unsigned char>(c)));
+    for (char& c : text) c = lowered(c);
     return text;
 }
 
@@ -51,7 +55,8 @@ size_t editDistance(const std::string& left, const std::string& right, size_t fa
 }  // namespace
 
 bool sameLetters(const std::string& left, const std::string& right) {
-    return lowered(left) == lowered(right);
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](char a, char b) { return lowered(a) == lowered(b); });
 }
 
 std::vector<std::string> nearNames(const std::string& name,

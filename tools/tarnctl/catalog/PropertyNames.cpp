@@ -69,9 +69,7 @@ const Method* accessorOf(const NamedProperty& property, Access access) {
     return found.empty() ? nullptr : found[0];
 }
 
-}  // namespace
-
-std::vector<NamedProperty> namedProperties() {
+std::vector<NamedProperty> nameProperties() {
     std::vector<NamedProperty> properties;
     for (const Controller& controller : controllers()) {
         const size_t first = properties.size();
@@ -98,6 +96,13 @@ std::vector<NamedProperty> namedProperties() {
         }
     }
     return properties;
+}
+
+}  // namespace
+
+const std::vector<NamedProperty>& namedProperties() {
+    static const auto* properties = new std::vector<NamedProperty>(nameProperties());
+    return *properties;
 }
 
 Overloads findAccessors(const std::string& property, Access access) {

@@ -18,7 +18,7 @@ struct NamedProperty {
 };
 
 /** All of them, by controller, in the order of their methods. */
-std::vector<NamedProperty> namedProperties();
+const std::vector<NamedProperty>& namedProperties();
 
 enum class Access { kGet, kSet };
 

@@ -28,7 +28,7 @@ void listProperties(Context& context) {
     Json::Value list(Json::arrayValue);
     std::vector<std::string> lines;
     size_t width = 0;
-    const std::vector<NamedProperty> properties = namedProperties();
+    const std::vector<NamedProperty>& properties = namedProperties();
     for (const NamedProperty& property : properties) {
         width = std::max(width, property.name.size());
     }
