@@ -78,7 +78,7 @@ CHILD(frugal) {
     return serveUntilClosed();
 }
 
-// A desk whose process has one descriptor left, until it is told to have more.
+// A desk whose process has no descriptor left, then one, then enough, each when it is told to.
 CHILD(full) {
     allowFewDescriptors();
     android::ProcessState::self()->startThreadPool();
@@ -88,9 +88,11 @@ CHILD(full) {
     std::vector<int> files;
     for (int file = 0; file >= 0; files.push_back(file)) file = ::open("/dev/null", O_CLOEXEC);
     files.pop_back();
+    tell("none");
+    listen();
     close(files.back());
     files.pop_back();
-    tell("full");
+    tell("one");
     listen();
     for (const int file : files) close(file);
     return serveUntilClosed();
@@ -511,13 +513,15 @@ class HostileToFull : public Hostile {
 };
 
 TEST_F(HostileToFull, AShortageIsAnErrorOfItsOwn) {
-    mProcess.writeLine("full");
-    EXPECT_EQ("full", mProcess.readLine());
     const Content large{{}, std::vector<uint8_t>(2000)};
-    EXPECT_EQ(kExhausted, transact(large, nullptr, Desk::NOTES));
     std::vector<uint8_t> back;
-    EXPECT_EQ(FAILED_TRANSACTION, mDesk.echo(large.bytes, &back));
-    EXPECT_EQ(NO_ERROR, mDesk.echo({1}, &back));
+    for (const std::string left : {"none", "one"}) {
+        mProcess.writeLine("next");
+        EXPECT_EQ(left, mProcess.readLine());
+        EXPECT_EQ(kExhausted, transact(large, nullptr, Desk::NOTES));
+        EXPECT_EQ(FAILED_TRANSACTION, mDesk.echo(large.bytes, &back));
+        EXPECT_EQ(NO_ERROR, mDesk.echo({1}, &back));
+    }
     mProcess.writeLine("more");
     EXPECT_EQ("ready", mProcess.readLine());
     EXPECT_EQ("", transact(large, nullptr, Desk::NOTES));

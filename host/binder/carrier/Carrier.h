@@ -58,8 +58,9 @@ class Carrier {
                               Payload* reply) = 0;
 
     /**
-     * Waits for the next work of a domain; none ends the calling pool thread. One-way calls to one
-     * object come out in the order they were sent, the next not before the one ahead is destroyed.
+     * Waits for the next work of a domain; none ends the calling pool thread. One process's one-way
+     * calls to one object come out in the order they were sent, and those of all not before the one
+     * ahead is destroyed.
      */
     virtual std::optional<PoolWork> receive(Domain domain) = 0;
 

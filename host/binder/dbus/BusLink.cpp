@@ -102,7 +102,9 @@ void BusLink::run() {
 // This also writes, as much as the socket takes.
 bool BusLink::process() {
     std::lock_guard<std::mutex> lock(mLock);
+    mReserve.lend();
     const bool more = mConnection->processPendingRequest();
+    mReserve.takeBack();
     if (mWritten < mQueued && !hasUnwritten()) {
         mWritten = mQueued;
         mChanged.notify_all();

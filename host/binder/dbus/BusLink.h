@@ -13,6 +13,8 @@
 #include <thread>
 #include <vector>
 
+#include "DescriptorReserve.h"
+
 namespace android::host::dbus {
 
 /**
@@ -130,8 +132,9 @@ class BusLink {
     std::set<std::shared_ptr<Pending>> mPending;
     std::thread::id mThread;
 
-    // What came in and is not handled yet; used by the link's thread only.
+    // Used by the link's thread only: what came in and is not handled yet, and what reading needs.
     std::vector<std::function<void()>> mInbox;
+    DescriptorReserve mReserve;
 };
 
 }  // namespace android::host::dbus
