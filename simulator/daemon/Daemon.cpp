@@ -10,6 +10,7 @@
 #include <string>
 #include <system_error>
 
+#include "host/HostServiceManager.h"
 #include "simulator/BoardFiles.h"
 #include "simulator/control/LocalBoard.h"
 #include "simulator/daemon/ControlBus.h"
@@ -66,6 +67,7 @@ std::string processText(pid_t pid) {
 
 pid_t processOf(const sp<IHwTarn>& service) {
     pid_t pid = 0;
+    if (service == nullptr) return pid;
     service->getDebugInfo([&pid](const IHwTarn::DebugInfo& info) { pid = info.pid; });
     return pid;
 }
@@ -85,6 +87,12 @@ void claim(ControlBus* bus, bool replace) {
     }
 }
 
+/** Whoever takes over the service leaves this one without callers. */
+void endWhenTaken(const std::shared_ptr<EndWatch>& watch) {
+    ::android::host::onServiceTaken(
+            [watch](const ::android::String16&) { watch->end(EndCause::kServiceTaken); });
+}
+
 void publish(const sp<SimulatedBoard>& board) {
     ::android::hardware::configureRpcThreadpool(kThreads, false);
     const ::android::status_t status = board->registerAsService();
@@ -95,7 +103,8 @@ void publish(const sp<SimulatedBoard>& board) {
 }
 
 int serve(const DaemonOptions& options) {
-    EndWatch watch;
+    // A thread of binder's may still tell of something when this has returned.
+    const auto watch = std::make_shared<EndWatch>();
     const sp<SimulatedBoard> board = makeBoard(options);
     const std::unique_ptr<BoardControl> control = controlOf(board);
     for (const auto& [property, value] : options.settings) {
@@ -104,16 +113,25 @@ int serve(const DaemonOptions& options) {
 
     ControlBus bus;
     claim(&bus, options.replace);
+    endWhenTaken(watch);
     publish(board);
-    bus.serve(*control, [&watch](EndCause cause) { watch.end(cause); });
+    bus.serve(*control, [&watch](EndCause cause) { watch->end(cause); });
     if (!options.quiet) {
         say("serving board \"" + control->name() + "\" as " + IHwTarn::descriptor +
             " \"default\", process " + std::to_string(getpid()));
     }
 
-    switch (watch.wait()) {
+    switch (watch->wait()) {
         case EndCause::kSignal:
             break;
+        case EndCause::kServiceTaken:
+            // Another tarn-board takes both names; the news of either may come first.
+            if (bus.owner() == getpid()) {
+                throw Refusal(kAlreadyServed,
+                              "the hardware service was taken over by " +
+                                      processText(processOf(IHwTarn::getService())));
+            }
+            [[fallthrough]];
         case EndCause::kReplaced:
             if (!options.quiet) say("another tarn-board took over");
             break;

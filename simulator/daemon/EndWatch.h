@@ -5,7 +5,12 @@
 namespace tarn::simulator {
 
 /** Why a daemon stops serving. */
-enum class EndCause { kSignal, kReplaced, kBusGone };
+enum class EndCause {
+    kSignal,
+    kReplaced,      // another tarn-board has the control's name
+    kServiceTaken,  // another process is the hardware service
+    kBusGone,
+};
 
 /** Waits for the end, which a signal or another thread brings. One at a time. */
 class EndWatch {

@@ -22,6 +22,7 @@
 #include "simulator/ServedBoard.h"
 #include "tests/process/BoardProcess.h"
 #include "tests/process/ProcessTest.h"
+#include "tests/support/FakeHwTarn.h"
 #include "tests/support/LogCapture.h"
 
 namespace tarn::test {
@@ -253,6 +254,19 @@ TEST(BoardDaemon, TakesOverWhenToldTo) {
     EXPECT_EQ(2, volumeOf(application()));
     EXPECT_NE(nullptr, findServedBoard(second.pid()));
     EXPECT_EQ(nullptr, findServedBoard(first.pid()));
+}
+
+TEST(BoardDaemon, EndsWhenAnotherProcessBecomesTheService) {
+    BoardProcess board;
+    {
+        const PublishedFake other;
+        EXPECT_EQ(3, board.wait());
+    }
+    EXPECT_NE(std::string::npos,
+              board.restOfErrors().find(
+                      "tarn-board: the hardware service was taken over by process " +
+                      std::to_string(getpid()) + "\n"));
+    EXPECT_EQ(nullptr, findServedBoard());
 }
 
 TEST(BoardDaemon, IsFoundByAnApplicationThatStartedBefore) {

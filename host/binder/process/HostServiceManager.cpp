@@ -61,6 +61,10 @@ bool checkCallingPermission(const String16& permission) {
 
 namespace host {
 
+void onServiceTaken(std::function<void(const String16& name)> taken) {
+    ServiceTable::get()->onTaken(std::move(taken));
+}
+
 status_t addLocalService(const String16& name, const sp<IBinder>& service) {
     return ServiceTable::get()->addLocal(name, service);
 }

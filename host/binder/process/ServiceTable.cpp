@@ -118,11 +118,20 @@ bool ServiceTable::remove(const String16& name) {
 
 void ServiceTable::removeReplaced(const String16& name, const sp<IBinder>& service) {
     std::map<String16, Entry>::node_type removed;
-    std::lock_guard<std::mutex> lock(mLock);
-    const auto found = mServices.find(name);
-    if (found != mServices.end() && found->second.binder == service) {
+    std::function<void(const String16&)> taken;
+    {
+        std::lock_guard<std::mutex> lock(mLock);
+        const auto found = mServices.find(name);
+        if (found == mServices.end() || found->second.binder != service) return;
         removed = mServices.extract(found);
+        taken = mTaken;
     }
+    if (taken) taken(name);
+}
+
+void ServiceTable::onTaken(std::function<void(const String16& name)> taken) {
+    std::lock_guard<std::mutex> lock(mLock);
+    mTaken = std::move(taken);
 }
 
 void ServiceTable::removeAll() {

@@ -4,6 +4,7 @@
 #include <binder/IServiceManager.h>
 
 #include <condition_variable>
+#include <functional>
 #include <map>
 #include <mutex>
 #include <vector>
@@ -31,6 +32,8 @@ class ServiceTable : public IServiceManager {
     bool remove(const String16& name);
     void removeAll();
 
+    void onTaken(std::function<void(const String16& name)> taken);
+
     /** Removes a service whose name another process took over, unless it was replaced here too. */
     void removeReplaced(const String16& name, const sp<IBinder>& service);
 
@@ -49,9 +52,10 @@ class ServiceTable : public IServiceManager {
     // The binder of the manager itself; it answers the standard transactions only.
     const sp<BBinder> mBinder = new BBinder;
 
-    mutable std::mutex mLock;  // guards mServices
+    mutable std::mutex mLock;  // guards mServices and mTaken
     std::condition_variable mAdded;
     std::map<String16, Entry> mServices;
+    std::function<void(const String16& name)> mTaken;
 };
 
 }  // namespace android::host

@@ -4,6 +4,8 @@
 #include <utils/Errors.h>
 #include <utils/String16.h>
 
+#include <functional>
+
 namespace android::host {
 
 /**
@@ -11,6 +13,12 @@ namespace android::host {
  * process it comes before another process's service of the same name.
  */
 status_t addLocalService(const String16& name, const sp<IBinder>& service);
+
+/**
+ * Has taken called each time that another process has taken over the name of a service of this one,
+ * on a thread of its pool and with no lock held. One at a time; it stays for the process's life.
+ */
+void onServiceTaken(std::function<void(const String16& name)> taken);
 
 /** Takes a service out of this process's table again; false if it is not there. For tests. */
 bool removeService(const String16& name);
