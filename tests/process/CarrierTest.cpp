@@ -997,12 +997,19 @@ TEST_F(Carrier, TellsNobodyOfADeathUntilTheProcessHasAPool) {
     EXPECT_EQ("told", unserved.readLine());
 }
 
+// The first thread that is started brings one of the thread sanitizer's, which stays.
+#if defined(__SANITIZE_THREAD__)
+constexpr size_t kLeastThreads = 2;
+#else
+constexpr size_t kLeastThreads = 1;
+#endif
+
 CHILD(alone) {
     const ErrorOutput output;
     const sp<Desk> desk = new Desk;
     if (publish("tarn.test.desk", desk) != NO_ERROR) return 1;
     if (find("tarn.test.desk") != desk || find("tarn.test.other") != nullptr) return 2;
-    if (!eventually([] { return runningThreads() == 1; })) return 3;
+    if (!eventually([] { return runningThreads() <= kLeastThreads; })) return 3;
     tell(std::to_string(output.lines()));
     return 0;
 }
