@@ -22,6 +22,11 @@ void FakeHwTarn::withdraw() {
     withdrawDefault(this);
 }
 
+void FakeHwTarn::failWith(const Status& status) {
+    std::lock_guard<std::mutex> guard(mLock);
+    mTransport = status;
+}
+
 void FakeHwTarn::raiseEvent(uint32_t msgType, const std::vector<uint8_t>& bytes) {
     sp<IHwTarnCallback> callback;
     {
@@ -61,6 +66,11 @@ bool FakeHwTarn::hasCallback() const {
     return mCallback != nullptr;
 }
 
+int FakeHwTarn::registrations() const {
+    std::lock_guard<std::mutex> guard(mLock);
+    return mRegistrations;
+}
+
 Return<void> FakeHwTarn::transport() const {
     return mTransport.isOk() ? Void() : Return<void>(mTransport);
 }
@@ -77,6 +87,7 @@ Return<void> FakeHwTarn::hwRegisterCallback(const sp<IHwTarnCallback>& callback,
     std::lock_guard<std::mutex> guard(mLock);
     mCallback = callback;
     mPid = pid;
+    mRegistrations++;
     return transport();
 }
 
@@ -84,8 +95,8 @@ Return<void> FakeHwTarn::hwInvoke(const hidl_string& request, hwInvoke_cb _hidl_
     {
         std::lock_guard<std::mutex> guard(mLock);
         mRequests.emplace_back(request.c_str(), request.size());
+        if (!mTransport.isOk()) return transport();
     }
-    if (!mTransport.isOk()) return transport();
     std::string reply(4, '\0');
     if (onInvoke) reply = onInvoke(std::string(request.c_str(), request.size()));
     _hidl_cb(hidl_string(reply.data(), reply.size()));
@@ -95,6 +106,11 @@ Return<void> FakeHwTarn::hwInvoke(const hidl_string& request, hwInvoke_cb _hidl_
 Return<void> FakeHwTarn::hwPostEvent(int32_t what, const hidl_string& data) {
     std::lock_guard<std::mutex> guard(mLock);
     mEvents.push_back(Event{what, std::string(data.c_str(), data.size())});
+    return transport();
+}
+
+Return<void> FakeHwTarn::ping() {
+    std::lock_guard<std::mutex> guard(mLock);
     return transport();
 }
 

@@ -27,7 +27,7 @@ class FakeHwTarn : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
     std::function<std::string(const std::string& request)> onInvoke;
 
     /** The transport status of every call; OK unless told otherwise. */
-    void failWith(const Status& status) { mTransport = status; }
+    void failWith(const Status& status);
 
     void raiseEvent(uint32_t msgType, const std::vector<uint8_t>& bytes);
     void raiseText(uint32_t msgType, const std::string& text);
@@ -40,6 +40,8 @@ class FakeHwTarn : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
     std::vector<Event> events() const;
     int callbackPid() const;
     bool hasCallback() const;
+    /** How often a callback was registered. */
+    int registrations() const;
 
     // Pure where the HIDL compiler made the interface.
     ::android::hardware::Return<void> hwReserved1() override;
@@ -52,6 +54,7 @@ class FakeHwTarn : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
                                                hwInvoke_cb _hidl_cb) override;
     ::android::hardware::Return<void> hwPostEvent(
             int32_t what, const ::android::hardware::hidl_string& data) override;
+    ::android::hardware::Return<void> ping() override;
 
   private:
     ::android::hardware::Return<void> transport() const;
@@ -62,6 +65,7 @@ class FakeHwTarn : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
     std::vector<Event> mEvents;
     ::android::sp<::vendor::zunt::hwtarn::V1_0::IHwTarnCallback> mCallback;
     int mPid = -1;
+    int mRegistrations = 0;
 };
 
 /** A fake that is published while the guard lives. */

@@ -23,6 +23,8 @@ class RelayBinder : public android::BBinder {
         return android::OK;
     }
 
+    android::status_t pingBinder() override { return mDead ? android::DEAD_OBJECT : android::OK; }
+
     /** Tells the recipient that was linked last. */
     void die() {
         mDead = true;
