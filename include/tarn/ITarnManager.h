@@ -70,7 +70,8 @@ class IXbugCtrl;
  * not. The connection belongs to the process and is kept: once the service has died every command
  * of every manager fails, even when the service is back and isTarnReady() says so. It is dropped
  * when a manager ends; one that has handed out a controller never does, since the two hold each
- * other. After a restart events come again only after another createTarnMsgManager().
+ * other. After a restart events come again only after another createTarnMsgManager(). TarnRecovery
+ * takes up both again.
  *
  * On a device, while a service that is declared there has not started yet, what looks it up may
  * wait for it: making the first manager, isTarnReady(), and the first command.

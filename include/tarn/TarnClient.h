@@ -45,7 +45,7 @@ TARN_EXPORT const sp<ITarnService>& getTarnService(const ITarnClient* client);
  * Each call finds the service by itself, a restarted one too; nothing happens between calls, so
  * after a restart no notification comes before the next connect() or invoke(). The client whose
  * call found it is registered with it; every other one gets its notifications only after a
- * connect() of its own.
+ * connect() of its own. TarnRecovery registers a client again by itself.
  */
 class TARN_EXPORT TarnClient : public BnTarnClient {
   public:

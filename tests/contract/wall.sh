@@ -19,10 +19,10 @@ refuse() {  # refuse PATTERN WHAT FOLDER...
     failed=1
 }
 
-shipped='include log core service protocol modules'
+shipped='include log core service protocol modules recovery'
 refuse '__ANDROID__' 'ask where they run' $shipped
 refuse '\.string\(\)|sp<[^>]*>::make' 'use what not every Android release has' $shipped
-refuse '#include "(log|core|service|protocol|modules)/' 'show a private header' include
+refuse '#include "(log|core|service|protocol|modules|recovery)/' 'show a private header' include
 refuse 'CMD_[A-Z]' 'name a command code' include
 
 # The command line knows of the simulated board how it is steered, an interface that needs nothing
