@@ -1,7 +1,10 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "tests/process/BoardProcess.h"
 #include "tests/process/ProcessTest.h"
@@ -203,6 +206,81 @@ TEST(TarnctlService, EndsTheMonitorWith4WhenTheServiceIsKilled) {
     board.signal(SIGKILL);
     EXPECT_EQ(4, monitor.wait());
     EXPECT_EQ("tarnctl: the service died\n", monitor.restOfErrors());
+}
+
+TEST(TarnctlService, GoesOnWithTheMonitorAfterEachRestartWhenToldTo) {
+    auto board = std::make_unique<BoardProcess>();
+    Program monitor(tarnctlProgram(), {"monitor", "--reconnect"});
+    EXPECT_EQ("tarnctl: waiting for events", monitor.errorLine());
+    for (const std::string type : {"1", "2", "3"}) {
+        if (type == "2") {
+            board->signal(SIGKILL);
+            board->wait();
+        }
+        board.reset();
+        EXPECT_EQ("tarnctl: the service is gone; waiting for it", monitor.errorLine());
+        board = std::make_unique<BoardProcess>();
+        EXPECT_EQ("tarnctl: the service is back", monitor.errorLine());
+        expectOutcome(runTarnctl({"board", "raise", type}), 0, "");
+        EXPECT_EQ("event 0x000" + type + " size 0", monitor.outputLine());
+    }
+    monitor.signal(SIGINT);
+    EXPECT_EQ(0, monitor.wait());
+    EXPECT_EQ("", monitor.restOfErrors());
+}
+
+TEST(TarnctlService, CountsEventsThroughARestart) {
+    auto board = std::make_unique<BoardProcess>();
+    Program monitor(tarnctlProgram(), {"-j", "monitor", "--reconnect", "--count", "2"});
+    EXPECT_EQ("tarnctl: waiting for events", monitor.errorLine());
+    expectOutcome(runTarnctl({"board", "raise", "1"}), 0, "");
+    EXPECT_EQ("{\"data\":\"\",\"size\":0,\"type\":1}", monitor.outputLine());
+    board.reset();
+    board = std::make_unique<BoardProcess>();
+    monitor.errorLineWith("back");
+    expectOutcome(runTarnctl({"board", "raise", "2"}), 0, "");
+    EXPECT_EQ(0, monitor.wait());
+    EXPECT_EQ("{\"data\":\"\",\"size\":0,\"type\":2}\n", monitor.restOfOutput());
+}
+
+TEST(TarnctlService, EndsAMonitorThatWaitsForTheServiceAsOneThatWaitsForEvents) {
+    const auto start = [](const std::vector<std::string>& options) {
+        auto board = std::make_unique<BoardProcess>();
+        std::vector<std::string> arguments{"monitor", "--reconnect"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        auto monitor = std::make_unique<Program>(tarnctlProgram(), arguments);
+        EXPECT_EQ("tarnctl: waiting for events", monitor->errorLine());
+        board.reset();
+        EXPECT_EQ("tarnctl: the service is gone; waiting for it", monitor->errorLine());
+        return monitor;
+    };
+    const auto plain = start({});
+    plain->signal(SIGTERM);
+    EXPECT_EQ(0, plain->wait());
+    const auto counting = start({"--count", "1"});
+    counting->signal(SIGINT);
+    EXPECT_EQ(130, counting->wait());
+
+    auto board = std::make_unique<BoardProcess>();
+    Program late(tarnctlProgram(), {"monitor", "--reconnect", "--count", "1", "--timeout", "3"});
+    EXPECT_EQ("tarnctl: waiting for events", late.errorLine());
+    board.reset();
+    EXPECT_EQ(4, late.wait());
+    EXPECT_THAT(late.restOfErrors(), testing::EndsWith("only 0 of 1 events came in time\n"));
+}
+
+TEST(TarnctlService, EndsAReconnectingMonitorOfAServiceThatHangs) {
+    const BoardProcess board;
+    Program monitor(tarnctlProgram(), {"monitor", "--reconnect"});
+    EXPECT_EQ("tarnctl: waiting for events", monitor.errorLine());
+    board.signal(SIGSTOP);
+    monitor.signal(SIGINT);
+    EXPECT_EQ(0, monitor.wait());
+}
+
+TEST(TarnctlService, NeedsAServiceToReconnectTo) {
+    expectOutcome(runTarnctl({"--service", "monitor", "--reconnect"}), 4, "",
+                  "tarnctl: there is no hardware service\n");
 }
 
 TEST(TarnctlService, FindsAServiceThatWasStartedAgain) {

@@ -168,6 +168,7 @@ TEST(TarnctlOptions, MayBeLettersInOneWord) {
     EXPECT_EQ(line.options.json, JsonStyle::kShort);
     EXPECT_EQ(line.options.count, 3);
     EXPECT_EQ(parseCommandLine({"monitor", "-n", "4"}).options.count, 4);
+    EXPECT_TRUE(parseCommandLine({"monitor", "--reconnect"}).options.reconnect);
 }
 
 TEST(TarnctlOptions, RefuseWhatTheyDontKnow) {
@@ -184,6 +185,14 @@ TEST(TarnctlOptions, RefuseWhatTheyDontKnow) {
                   parseCommandLine({"call", "-k"});
               }),
               "2 --keep-going is an option of batch");
+    EXPECT_EQ(refusal([] {
+                  parseCommandLine({"call", "--reconnect"});
+              }),
+              "2 --reconnect is an option of monitor");
+    EXPECT_EQ(refusal([] {
+                  parseBatchLine({"monitor", "--reconnect"}, Options());
+              }),
+              "2 --reconnect can't be given on a line of a batch");
     EXPECT_EQ(refusal([] {
                   parseCommandLine({"--service", "--board", "b.json"});
               }),

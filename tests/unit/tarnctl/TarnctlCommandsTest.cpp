@@ -761,7 +761,7 @@ TEST_F(Tarnctl, SaysHowItIsUsed) {
     EXPECT_EQ(help.code, 0);
     EXPECT_EQ(help.err, "");
     for (const char* word :
-         {"list [CONTROLLER]", "batch [--keep-going] [FILE]", "monitor [--count N]",
+         {"list [CONTROLLER]", "batch [--keep-going] [FILE]", "monitor [--count N] [--reconnect]",
           "--timeout SECONDS", "exit codes:", "--json[=short|pretty]"}) {
         EXPECT_THAT(help.out, HasSubstr(word));
     }
@@ -819,6 +819,7 @@ TEST_F(Tarnctl, CompletesWords) {
     EXPECT_EQ(complete({"board", "fau"}), "fault\n");
     EXPECT_EQ(complete({"board", "fault", "*", "st"}), "status\n");
     EXPECT_EQ(complete({"monitor", "--cou"}), "--count\n");
+    EXPECT_EQ(complete({"monitor", "--rec"}), "--reconnect\n");
     EXPECT_EQ(complete({"list", "--cou"}), "");
     EXPECT_EQ(complete({"list", "--json", "=", "p"}), "pretty\n");
     EXPECT_EQ(complete({"list", "--json", "="}), "short\npretty\n");

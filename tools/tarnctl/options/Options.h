@@ -21,6 +21,7 @@ struct Options {
     bool embeddedOnly = false;
     bool trace = false;
     bool keepGoing = false;
+    bool reconnect = false;
     std::optional<std::chrono::milliseconds> timeout;
     std::optional<int32_t> count;
     std::string boardFile;

@@ -7,6 +7,7 @@
 namespace tarnctl {
 
 using android::sp;
+using android::TarnRecovery;
 using vendor::zunt::hwtarn::V1_0::IHwTarn;
 
 namespace {
@@ -34,6 +35,16 @@ sp<EventCollector> EventCollector::start(android::ITarnManager* manager) {
     return collector;
 }
 
+sp<EventCollector> EventCollector::startReconnecting(android::ITarnManager* manager) {
+    const sp<EventCollector> collector = new EventCollector;
+    keepForEver(collector);
+    manager->registerListener(collector.get());
+    collector->mRecovery = std::make_unique<TarnRecovery>(manager, TarnRecovery::WITH_EVENTS);
+    if (collector->mRecovery->recover() == TarnRecovery::STILL_AWAY) return nullptr;
+    if (collector->mRecovery->start(collector.get()) != 0) return nullptr;
+    return collector;
+}
+
 bool EventCollector::watch(const sp<IHwTarn>& service) {
     mService = service;
     return service->linkToDeath(this, 0).withDefault(false);
@@ -50,6 +61,11 @@ std::optional<BoardEvent> EventCollector::next() {
 bool EventCollector::serviceDied() const {
     std::lock_guard<std::mutex> guard(mLock);
     return mServiceDied;
+}
+
+int EventCollector::changes() const {
+    std::lock_guard<std::mutex> guard(mLock);
+    return mChanges;
 }
 
 void EventCollector::notify(unsigned int msgType, int, int, const android::Parcel* data) {
@@ -69,6 +85,22 @@ void EventCollector::serviceDied(uint64_t, const android::wp<android::hidl::base
     {
         std::lock_guard<std::mutex> guard(mLock);
         mServiceDied = true;
+    }
+    mWakeup.signal();
+}
+
+void EventCollector::serviceLost() {
+    addChange();
+}
+
+void EventCollector::serviceBack() {
+    addChange();
+}
+
+void EventCollector::addChange() {
+    {
+        std::lock_guard<std::mutex> guard(mLock);
+        mChanges++;
     }
     mWakeup.signal();
 }

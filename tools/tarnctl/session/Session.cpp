@@ -83,8 +83,10 @@ EventCollector& Session::events() {
     if (mEvents == nullptr) {
         const sp<TracingManager> manager(&this->manager());
         if (mEvents != nullptr) return *mEvents;
-        const auto started = mLimit.run<sp<EventCollector>>(
-                [manager] { return EventCollector::start(manager.get()); });
+        const auto start =
+                mOptions.reconnect ? EventCollector::startReconnecting : EventCollector::start;
+        const auto started =
+                mLimit.run<sp<EventCollector>>([manager, start] { return start(manager.get()); });
         if (!started) refuseWithoutAnswer();
         mEvents = *started;
     }

@@ -35,16 +35,27 @@ std::optional<std::chrono::milliseconds> remaining(
             std::max(*deadline - Clock::now(), Clock::duration::zero()));
 }
 
+/** Says what became of the service since it was last said, of which told keeps count. */
+void tellChanges(Context& context, const EventCollector& events, int* told) {
+    for (const int changes = events.changes(); *told < changes; ++*told) {
+        const bool gone = *told % 2 == 0;
+        context.diagnostics.note(gone ? "the service is gone; waiting for it"
+                                      : "the service is back");
+    }
+}
+
 int watch(Context& context, EventCollector& events, const EndSignals& signals) {
     std::optional<Clock::time_point> deadline;
     if (context.options.timeout) deadline = Clock::now() + *context.options.timeout;
     int32_t seen = 0;
+    int told = 0;
     while (signals.received() == 0) {
         if (const std::optional<BoardEvent> event = events.next()) {
             print(context, *event);
             if (++seen == context.options.count) return kDone;
             continue;
         }
+        tellChanges(context, events, &told);
         if (events.serviceDied()) throw Failure(kUnreachable, "the service died");
         if (deadline && Clock::now() >= *deadline) {
             if (!context.options.count) return kDone;
@@ -70,13 +81,16 @@ int runMonitor(Context& context, const Arguments& arguments) {
 }  // namespace
 
 const Verb kMonitorVerb = {
-        "monitor", "[--count N]", "print events as they come",
+        "monitor", "[--count N] [--reconnect]", "print events as they come",
         R"(Prints an event a line: its type, the number of its bytes as a listener gets them, which
 is filled up to whole words, and the words; with --json an object a line.
 
 Ends on SIGINT and SIGTERM, after --count events, or after --timeout seconds. With --count
 fewer events are an error: the exit code is 4 when the time is over, 130 on SIGINT and 143 on
 SIGTERM. Within a batch a signal ends the batch, with these codes.
+
+When the service dies the monitor ends with 4. With --reconnect it says so and waits; once the
+service is back, restarted, it says that too and goes on. Events of the time between are lost.
 
 Within a batch, events are collected from the first command that talks to the service.)",
         runMonitor};
