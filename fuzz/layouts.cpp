@@ -49,28 +49,35 @@ void throughJson(const Value& value, const Field& field) {
     check(values::toJson(values::valueFromJson(json, field)) == json, "JSON reads as another");
 }
 
+/** What is encoded is decoded as the same. */
+void throughBytes(const Record& record, const Layout& layout) {
+    const Bytes bytes = encoded(record);
+    const std::optional<Record> same = values::decode(*values::parcelOf(bytes), layout);
+    check(same.has_value(), "encoded values can't be decoded");
+    check(encoded(*same) == bytes, "encoded values decode as others");
+}
+
 void fromBytes(const Layout& layout, const std::string& text) {
     const Bytes bytes(text.begin(), text.end());
     const std::optional<Record> record = values::decode(*values::parcelOf(bytes), layout);
     if (!record) return;
     check(record->size() == layout.size(), "a record lacks fields");
-    const Bytes again = encoded(*record);
-    const std::optional<Record> same = values::decode(*values::parcelOf(again), layout);
-    check(same.has_value(), "encoded values can't be decoded");
-    check(encoded(*same) == again, "encoded values decode as others");
+    throughBytes(*record, layout);
     for (size_t i = 0; i < layout.size(); i++) throughJson((*record)[i], layout[i]);
 }
 
 void fromText(const Field& field, const std::string& text) try {
     const Value value = values::valueFromText(text, field);
-    encoded({value});
+    throughBytes({value}, {field});
     throughJson(value, field);
 } catch (const std::invalid_argument&) {
     // A text that is refused.
 }
 
 void fromJson(const Field& field, const std::string& text) try {
-    throughJson(values::valueFromJson(values::parseJson(text), field), field);
+    const Value value = values::valueFromJson(values::parseJson(text), field);
+    throughBytes({value}, {field});
+    throughJson(value, field);
 } catch (const std::invalid_argument&) {
     // A text that is refused.
 }
