@@ -4,7 +4,7 @@
 BUILD ?= build
 CMAKE_FLAGS ?=
 
-.PHONY: run test test-arm32 fuzz bench build format clean
+.PHONY: run test test-arm32 soak fuzz bench build format clean
 
 # $(call build,TARGET,LIST OF PACKAGES...)
 define build
@@ -25,6 +25,12 @@ test: build
 test-arm32:
 	@scripts/install-packages packages.txt packages-test.txt packages-arm32.txt
 	@scripts/test-arm32 build-arm32 $(CMAKE_FLAGS)
+
+# Works for MINUTES while the board restarts, then kills it a hundred times.
+MINUTES ?= 10
+soak:
+	$(call build,soak_tests,packages.txt packages-test.txt)
+	@TARN_SOAK_MINUTES=$(MINUTES) ctest --test-dir $(BUILD) --verbose --no-tests=error --timeout 100000 -R '^(SoakTest|KillTest)$$'
 
 # Every fuzzer, or those that FUZZERS names, for SECONDS each; fuzz/README.md tells more.
 SECONDS ?= 10
