@@ -57,14 +57,14 @@ int32_t recordsToRead(int32_t count, int fields);
 template <typename Record>
 void readRecords(const Parcel& reply, int32_t count, Record (*readRecord)(const Parcel&),
                  std::vector<Record>* list) {
-    Record record;
     bool ended = false;
     for (int32_t i = 0; i < count; i++) {
-        if (!ended) {
+        if (ended) {
+            list->push_back(Record(list->back()));
+        } else {
             ended = reply.dataAvail() < sizeof(int32_t);
-            record = readRecord(reply);
+            list->push_back(readRecord(reply));
         }
-        list->push_back(record);
     }
 }
 
