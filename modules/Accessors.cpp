@@ -1,4 +1,7 @@
+#include <string.h>
 #include <tarn/TarnManager.h>
+
+#include <new>
 
 #include "modules/AiNoiseCtrl.h"
 #include "modules/AnionCtrl.h"
@@ -52,18 +55,29 @@ namespace android {
 
 namespace {
 
-/** The controller in *slot, a strong reference to an Interface; made on the first call. */
+/**
+ * Makes the controller and puts it into *slot, an empty strong reference to an Interface: one that
+ * has nothing to release, which an assignment would look for.
+ */
 template <typename Controller, typename Interface>
-void* fill(const sp<TarnManager>& manager, void* slot) {
-    auto& controller = *static_cast<sp<Interface>*>(slot);
-    if (controller == nullptr) controller = new Controller(manager);
-    return controller.get();
+void make(const sp<TarnManager>& manager, void* slot) {
+    static_assert(sizeof(sp<Interface>) == sizeof(void*));
+    new (slot) sp<Interface>(new Controller(manager));
 }
 
-void* obtain(TarnManager* manager, Mutex* lock, void* (*fillSlot)(const sp<TarnManager>&, void*),
+/** What a strong reference leads to, which is all that it holds. */
+void* heldBy(const void* slot) {
+    void* held = nullptr;
+    memcpy(&held, slot, sizeof(held));
+    return held;
+}
+
+/** The controller in *slot, made on the first call. */
+void* obtain(TarnManager* manager, Mutex* lock, void (*makeInto)(const sp<TarnManager>&, void*),
              void* slot) {
     AutoMutex guard(*lock);
-    return fillSlot(sp<TarnManager>(manager), slot);
+    if (heldBy(slot) == nullptr) makeInto(sp<TarnManager>(manager), slot);
+    return heldBy(slot);
 }
 
 }  // namespace
@@ -73,7 +87,7 @@ void* obtain(TarnManager* manager, Mutex* lock, void* (*fillSlot)(const sp<TarnM
 #define ACCESSOR(name, Controller, lock)                                                     \
     I##Controller* TarnManager::name() {                                                     \
         return static_cast<I##Controller*>(                                                  \
-                obtain(this, &lock, fill<Controller, I##Controller>, &m##Controller));       \
+                obtain(this, &lock, make<Controller, I##Controller>, &m##Controller));       \
     }
 // NOLINTEND(bugprone-macro-parentheses)
 
