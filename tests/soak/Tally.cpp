@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
 #include <string>
 #include <system_error>
 
@@ -14,6 +15,7 @@ namespace tarn::test {
 namespace {
 
 constexpr double kShortRun = 0.1;
+constexpr double kMostMinutes = 10000;
 
 size_t entriesOf(const std::string& directory) {
     std::error_code gone;
@@ -68,8 +70,15 @@ Usage Usages::late() const {
 }
 
 double soakMinutes() {
-    const char* minutes = std::getenv("TARN_SOAK_MINUTES");
-    return minutes == nullptr ? kShortRun : std::atof(minutes);
+    const char* text = std::getenv("TARN_SOAK_MINUTES");
+    if (text == nullptr) return kShortRun;
+    char* end = nullptr;
+    const double minutes = std::strtod(text, &end);
+    if (end == text || *end != '\0' || !(minutes > 0 && minutes <= kMostMinutes)) {
+        throw std::invalid_argument(std::string("MINUTES \"") + text +
+                                    "\": accepted is a number above 0, up to 10000");
+    }
+    return minutes;
 }
 
 }  // namespace tarn::test
