@@ -4,7 +4,7 @@
 BUILD ?= build
 CMAKE_FLAGS ?=
 
-.PHONY: run test test-arm32 soak fuzz bench build format clean
+.PHONY: run test test-arm32 soak fuzz coverage bench build format clean
 
 # $(call build,TARGET,LIST OF PACKAGES...)
 define build
@@ -38,6 +38,11 @@ FUZZERS ?=
 fuzz:
 	@scripts/install-packages packages.txt packages-fuzz.txt
 	@scripts/fuzz build-fuzz $(SECONDS) $(FUZZERS)
+
+# Which lines and branches the tests execute.
+coverage:
+	@scripts/install-packages packages.txt packages-test.txt packages-coverage.txt
+	@scripts/coverage $(CMAKE_FLAGS)
 
 bench:
 	$(call build,tarn_bench,packages.txt packages-test.txt)
