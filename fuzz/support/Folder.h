@@ -4,7 +4,7 @@
 
 namespace tarn::fuzz {
 
-/** A folder of this process for files, which is removed when the process ends in order. */
+/** A folder of this process for files, which is removed when it ends without a finding. */
 const std::string& temporaryFolder();
 
 /** Writes a file there, anew, and returns its path. */

@@ -2,22 +2,22 @@
 
 #include <android/log.h>
 #include <stdlib.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <string>
 
 #include "fuzz/support/Check.h"
+#include "fuzz/support/Folder.h"
 
 namespace {
 
 // Neither the user's bus nor the user's board and properties.
 void leaveSurroundings() {
+    using tarn::fuzz::temporaryFolder;
     setenv("DBUS_SESSION_BUS_ADDRESS", "", 1);
     setenv("XDG_RUNTIME_DIR", "", 1);
     setenv("TARN_BOARD", "", 1);
-    const std::string properties = "/tmp/tarn-fuzz-" + std::to_string(getpid()) + ".properties";
-    setenv("TARN_PROPERTIES_FILE", properties.c_str(), 1);
+    setenv("TARN_PROPERTIES_FILE", (temporaryFolder() + "/of-the-process").c_str(), 1);
 }
 
 }  // namespace
