@@ -205,6 +205,10 @@ TEST(HostParcel, RefusesFlatReadsOfABinder) {
     uint8_t bytes[8];
     parcel.setDataPosition(24);
     EXPECT_EQ(PERMISSION_DENIED, parcel.read(bytes, sizeof(bytes)));
+    EXPECT_EQ(32u, parcel.dataPosition());
+    parcel.setDataPosition(24);
+    EXPECT_EQ(nullptr, parcel.readInplace(4));
+    EXPECT_EQ(28u, parcel.dataPosition());
 }
 
 TEST(HostParcel, CarriesVectorsOfBinders) {

@@ -114,6 +114,39 @@ TEST(HostParcel, TellsAnAbsentVectorFromAnEmptyOne) {
     EXPECT_TRUE(read->empty());
 }
 
+TEST(HostParcel, ReadsNothingOfAVectorThatIsCutOff) {
+    using Strings = std::vector<std::unique_ptr<String16>>;
+    using Texts = std::vector<std::unique_ptr<std::string>>;
+    Parcel parcel;
+    auto words = std::make_unique<std::vector<int32_t>>(3);
+    auto flags = std::make_unique<std::vector<bool>>(3);
+    auto strings = std::make_unique<Strings>(3);
+    auto texts = std::make_unique<Texts>(3);
+    auto binders = std::make_unique<std::vector<sp<IBinder>>>(3);
+    // Without a count.
+    EXPECT_EQ(NOT_ENOUGH_DATA, parcel.readInt32Vector(words.get()));
+    EXPECT_EQ(NOT_ENOUGH_DATA, parcel.readInt32Vector(&words));
+    EXPECT_EQ(NOT_ENOUGH_DATA, parcel.readBoolVector(&flags));
+    EXPECT_EQ(NOT_ENOUGH_DATA, parcel.readString16Vector(&strings));
+    EXPECT_EQ(NOT_ENOUGH_DATA, parcel.readUtf8VectorFromUtf16Vector(&texts));
+    EXPECT_EQ(NOT_ENOUGH_DATA, parcel.readStrongBinderVector(&binders));
+    for (const size_t size :
+         {words->size(), flags->size(), strings->size(), texts->size(), binders->size()}) {
+        EXPECT_EQ(3u, size);
+    }
+    // With fewer elements than the count says, though as many bytes.
+    for (const int32_t word : {8, 0, 0}) parcel.writeInt32(word);
+    const auto cut = [&parcel](auto read) {
+        parcel.setDataPosition(0);
+        return read();
+    };
+    EXPECT_EQ(BAD_VALUE, cut([&] { return parcel.readInt32Vector(words.get()); }));
+    EXPECT_EQ(BAD_VALUE, cut([&] { return parcel.readInt32Vector(&words); }));
+    EXPECT_EQ(BAD_VALUE, cut([&] { return parcel.readBoolVector(&flags); }));
+    EXPECT_EQ(NOT_ENOUGH_DATA, cut([&] { return parcel.readString16Vector(&strings); }));
+    EXPECT_EQ(NOT_ENOUGH_DATA, cut([&] { return parcel.readUtf8VectorFromUtf16Vector(&texts); }));
+}
+
 TEST(HostParcel, CarriesAbsentStringsWithinAVector) {
     auto strings = std::make_unique<std::vector<std::unique_ptr<String16>>>();
     strings->push_back(std::make_unique<String16>("one"));
