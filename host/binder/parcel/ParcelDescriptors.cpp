@@ -1,7 +1,7 @@
 #define LOG_TAG "Parcel"
 
 // File descriptors do not travel on a host: each attempt is refused. Blobs travel in place,
-// whatever their size, and flattenables as long as they carry no descriptor.
+// whatever their size.
 
 #include <binder/Parcel.h>
 #include <log/log.h>
@@ -14,8 +14,6 @@ namespace {
 
 // The blob type word of data that follows in the parcel itself.
 constexpr int32_t kBlobInPlace = 0;
-
-constexpr size_t kMaxDescriptors = 1024;
 
 }  // namespace
 
@@ -37,39 +35,12 @@ bool Parcel::hasFileDescriptors() const {
     return false;
 }
 
-void Parcel::closeFileDescriptors() {}
-
 status_t Parcel::writeFileDescriptor(int, bool) {
     ALOGE("File descriptors cannot be sent on this host");
     return mAllowFds ? INVALID_OPERATION : FDS_NOT_ALLOWED;
 }
 
 status_t Parcel::writeDupFileDescriptor(int fd) {
-    return writeFileDescriptor(fd);
-}
-
-status_t Parcel::writeParcelFileDescriptor(int fd, bool takeOwnership) {
-    return writeFileDescriptor(fd, takeOwnership);
-}
-
-status_t Parcel::writeDupParcelFileDescriptor(int fd) {
-    return writeFileDescriptor(fd);
-}
-
-status_t Parcel::writeUniqueFileDescriptor(const base::unique_fd& fd) {
-    return writeFileDescriptor(fd.get());
-}
-
-status_t Parcel::writeUniqueFileDescriptorVector(const std::vector<base::unique_fd>&) {
-    return writeFileDescriptor(-1);
-}
-
-status_t Parcel::writeUniqueFileDescriptorVector(
-        const std::unique_ptr<std::vector<base::unique_fd>>&) {
-    return writeFileDescriptor(-1);
-}
-
-status_t Parcel::writeDupImmutableBlobFileDescriptor(int fd) {
     return writeFileDescriptor(fd);
 }
 
@@ -83,27 +54,6 @@ native_handle* Parcel::readNativeHandle() const {
 }
 
 int Parcel::readFileDescriptor() const {
-    return BAD_TYPE;
-}
-
-int Parcel::readParcelFileDescriptor() const {
-    return BAD_TYPE;
-}
-
-status_t Parcel::readUniqueFileDescriptor(base::unique_fd*) const {
-    return BAD_TYPE;
-}
-
-status_t Parcel::readUniqueParcelFileDescriptor(base::unique_fd*) const {
-    return BAD_TYPE;
-}
-
-status_t Parcel::readUniqueFileDescriptorVector(std::vector<base::unique_fd>*) const {
-    return BAD_TYPE;
-}
-
-status_t Parcel::readUniqueFileDescriptorVector(
-        std::unique_ptr<std::vector<base::unique_fd>>*) const {
     return BAD_TYPE;
 }
 
@@ -128,14 +78,6 @@ status_t Parcel::readBlob(size_t len, ReadableBlob* outBlob) const {
     return NO_ERROR;
 }
 
-size_t Parcel::getBlobAshmemSize() const {
-    return 0;
-}
-
-size_t Parcel::getOpenAshmemSize() const {
-    return 0;
-}
-
 Parcel::Blob::Blob() {
     clear();
 }
@@ -157,28 +99,6 @@ void Parcel::Blob::release() {
 
 void Parcel::Blob::clear() {
     init(-1, nullptr, 0, false);
-}
-
-status_t Parcel::write(const FlattenableHelperInterface& val) {
-    const size_t length = val.getFlattenedSize();
-    const size_t descriptors = val.getFdCount();
-    if (length > parcel::kMaxSize || descriptors > kMaxDescriptors) return BAD_VALUE;
-    if (descriptors > 0) return writeFileDescriptor(-1);
-    status_t status = writeInt32(static_cast<int32_t>(length));
-    if (status == NO_ERROR) status = writeInt32(0);
-    if (status != NO_ERROR) return status;
-    void* room = writeInplace(length);
-    return room != nullptr ? val.flatten(room, length, nullptr, 0) : BAD_VALUE;
-}
-
-status_t Parcel::read(FlattenableHelperInterface& val) const {
-    const int32_t length = readInt32();
-    const int32_t descriptors = readInt32();
-    if (length < 0 || descriptors < 0) return BAD_VALUE;
-    if (descriptors > 0) return BAD_TYPE;
-    const void* data = readInplace(static_cast<size_t>(length));
-    if (data == nullptr) return BAD_VALUE;
-    return val.unflatten(data, static_cast<size_t>(length), nullptr, 0);
 }
 
 }  // namespace android

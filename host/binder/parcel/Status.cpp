@@ -4,26 +4,33 @@ namespace android::binder {
 
 namespace {
 
-// Skips a block whose first word is its own size, that word included.
-status_t skipSizedBlock(const Parcel& parcel) {
-    const size_t start = parcel.dataPosition();
+// Reads the first word of a block, which is the size of all of it, that word included.
+status_t readBlockSize(const Parcel& parcel, size_t* outSize) {
+    const size_t left = parcel.dataAvail();
     int32_t size;
     const status_t status = parcel.readInt32(&size);
     if (status != OK) return status;
-    if (size < 0 || static_cast<size_t>(size) > parcel.dataAvail()) return UNKNOWN_ERROR;
-    parcel.setDataPosition(start + static_cast<size_t>(size));
+    // As an unsigned number a negative size is beyond them all.
+    if (static_cast<size_t>(size) > left) return UNKNOWN_ERROR;
+    *outSize = static_cast<size_t>(size);
     return OK;
+}
+
+status_t skipSizedBlock(const Parcel& parcel) {
+    const size_t start = parcel.dataPosition();
+    size_t size;
+    const status_t status = readBlockSize(parcel, &size);
+    if (status == OK) parcel.setDataPosition(start + size);
+    return status;
 }
 
 // The sender's stack trace, of which an empty one is its size word alone.
 status_t skipStackTrace(const Parcel& parcel) {
     const size_t start = parcel.dataPosition();
-    int32_t size;
-    const status_t status = parcel.readInt32(&size);
-    if (status != OK) return status;
-    if (size < 0 || static_cast<size_t>(size) > parcel.dataAvail()) return UNKNOWN_ERROR;
-    if (size != 0) parcel.setDataPosition(start + static_cast<size_t>(size));
-    return OK;
+    size_t size;
+    const status_t status = readBlockSize(parcel, &size);
+    if (status == OK && size != 0) parcel.setDataPosition(start + size);
+    return status;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <utils/String8.h>
 
 #include <cstring>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -203,11 +204,157 @@ TEST(HostParcel, SkipsAReplyHeader) {
     EXPECT_EQ(99, parcel.readInt32());
 }
 
+// An exception's message, "why", as a parcel has it.
+constexpr int32_t kWhy[] = {3, 'w' | 'h' << 16, 'y'};
+
+void writeWords(Parcel* parcel, const std::vector<int32_t>& words) {
+    for (const int32_t word : words) parcel->writeInt32(word);
+}
+
+TEST(HostParcel, ReadsWhatAnExceptionHolds) {
+    using binder::Status;
+    const struct {
+        int32_t code;
+        std::vector<int32_t> afterMessage;
+        int32_t error;
+    } exceptions[] = {
+            {Status::EX_SECURITY, {0}, 0},
+            {Status::EX_ILLEGAL_STATE, {4}, 0},
+            {Status::EX_UNSUPPORTED_OPERATION, {12, 5, 6}, 0},
+            {Status::EX_SERVICE_SPECIFIC, {0, -12}, -12},
+            {Status::EX_SERVICE_SPECIFIC, {8, 5, 12}, 12},
+            {Status::EX_PARCELABLE, {0, 12, 5, 6}, 0},
+            {Status::EX_PARCELABLE, {12, 5, 6, 4}, 0},
+    };
+    for (const auto& exception : exceptions) {
+        SCOPED_TRACE(exception.code);
+        // Of what follows, also if that is nothing, not a byte is taken.
+        for (const bool isLast : {false, true}) {
+            Parcel parcel;
+            parcel.writeInt32(exception.code);
+            writeWords(&parcel, {std::begin(kWhy), std::end(kWhy)});
+            writeWords(&parcel, exception.afterMessage);
+            if (!isLast) parcel.writeInt32(99);
+            parcel.setDataPosition(0);
+            Status status;
+            EXPECT_EQ(NO_ERROR, status.readFromParcel(parcel));
+            EXPECT_EQ(exception.code, status.exceptionCode());
+            EXPECT_EQ(exception.error, status.serviceSpecificErrorCode());
+            EXPECT_STREQ("why", status.exceptionMessage().string());
+            EXPECT_EQ(isLast ? 0u : 4u, parcel.dataAvail());
+        }
+    }
+}
+
+TEST(HostParcel, SkipsAReplyHeaderThatNothingFollows) {
+    Parcel parcel;
+    writeWords(&parcel, {binder::Status::EX_HAS_REPLY_HEADER, 12, 5, 6});
+    parcel.setDataPosition(0);
+    binder::Status status;
+    EXPECT_EQ(NO_ERROR, status.readFromParcel(parcel));
+    EXPECT_TRUE(status.isOk());
+    EXPECT_EQ(0u, parcel.dataAvail());
+}
+
+TEST(HostParcel, TakesADamagedExceptionForAFailedTransaction) {
+    using binder::Status;
+    constexpr int32_t header = Status::EX_HAS_REPLY_HEADER;
+    constexpr int32_t plain = Status::EX_ILLEGAL_ARGUMENT;
+    constexpr int32_t specific = Status::EX_SERVICE_SPECIFIC;
+    constexpr int32_t parcelable = Status::EX_PARCELABLE;
+    const struct {
+        std::vector<int32_t> words;
+        status_t error;
+    } damaged[] = {
+            {{}, NOT_ENOUGH_DATA},
+            {{header}, NOT_ENOUGH_DATA},
+            {{header, -1, 0}, UNKNOWN_ERROR},
+            {{header, 9, 0}, UNKNOWN_ERROR},
+            {{header, INT32_MAX, 0}, UNKNOWN_ERROR},
+            {{plain}, UNEXPECTED_NULL},
+            {{plain, -1, 0}, UNEXPECTED_NULL},
+            {{plain, kWhy[0], kWhy[1], kWhy[2]}, NOT_ENOUGH_DATA},
+            {{plain, kWhy[0], kWhy[1], kWhy[2], -1, 0}, UNKNOWN_ERROR},
+            {{plain, kWhy[0], kWhy[1], kWhy[2], 9, 0}, UNKNOWN_ERROR},
+            {{specific, kWhy[0], kWhy[1], kWhy[2], 0}, NOT_ENOUGH_DATA},
+            {{specific, kWhy[0], kWhy[1], kWhy[2], -1, 0}, UNKNOWN_ERROR},
+            {{parcelable, kWhy[0], kWhy[1], kWhy[2], 0}, NOT_ENOUGH_DATA},
+            {{parcelable, kWhy[0], kWhy[1], kWhy[2], -1, 0}, UNKNOWN_ERROR},
+            {{parcelable, kWhy[0], kWhy[1], kWhy[2], 0, -1, 0}, UNKNOWN_ERROR},
+            {{parcelable, kWhy[0], kWhy[1], kWhy[2], 0, 9, 0}, UNKNOWN_ERROR},
+    };
+    for (size_t i = 0; i < std::size(damaged); i++) {
+        SCOPED_TRACE(i);
+        Parcel parcel;
+        writeWords(&parcel, damaged[i].words);
+        parcel.setDataPosition(0);
+        Status status;
+        EXPECT_EQ(damaged[i].error, status.readFromParcel(parcel));
+        EXPECT_EQ(Status::EX_TRANSACTION_FAILED, status.exceptionCode());
+        EXPECT_EQ(damaged[i].error, status.transactionError());
+        EXPECT_STREQ("", status.exceptionMessage().string());
+    }
+}
+
+TEST(HostParcel, WritesExceptions) {
+    using binder::Status;
+    const auto written = [](const Status& status) {
+        Parcel parcel;
+        EXPECT_EQ(NO_ERROR, status.writeToParcel(&parcel));
+        return hexOf(parcel);
+    };
+    EXPECT_EQ("00000000", written(Status::ok()));
+    EXPECT_EQ(
+            "fdffffff"
+            "03000000"
+            "7700680079000000"
+            "00000000",
+            written(Status::fromExceptionCode(Status::EX_ILLEGAL_ARGUMENT, "why")));
+    EXPECT_EQ(
+            "f8ffffff"
+            "00000000"
+            "00000000"
+            "00000000"
+            "0c000000",
+            written(Status::fromServiceSpecificError(12)));
+    EXPECT_EQ(
+            "f7ffffff"
+            "00000000"
+            "00000000"
+            "00000000"
+            "00000000",
+            written(Status::fromExceptionCode(Status::EX_PARCELABLE)));
+    // The transaction itself fails with it.
+    Parcel parcel;
+    EXPECT_EQ(DEAD_OBJECT, Status::fromStatusT(DEAD_OBJECT).writeToParcel(&parcel));
+    EXPECT_EQ(0u, parcel.dataSize());
+}
+
+TEST(HostParcel, PrintsExceptions) {
+    using binder::Status;
+    const auto printed = [](const Status& status) {
+        return std::string(status.toString8().string());
+    };
+    EXPECT_EQ("No error", printed(Status::ok()));
+    EXPECT_EQ("Status(-5, EX_ILLEGAL_STATE): 'why'",
+              printed(Status::fromExceptionCode(Status::EX_ILLEGAL_STATE, "why")));
+    EXPECT_EQ("Status(-8, EX_SERVICE_SPECIFIC): '12: why'",
+              printed(Status::fromServiceSpecificError(12, "why")));
+    EXPECT_EQ("Status(-129, EX_TRANSACTION_FAILED): '-32: '",
+              printed(Status::fromStatusT(DEAD_OBJECT)));
+    EXPECT_EQ("Status(-77, -77): ''", printed(Status::fromExceptionCode(-77)));
+}
+
 TEST(HostParcel, RefusesFileDescriptors) {
     Parcel parcel;
     EXPECT_EQ(INVALID_OPERATION, parcel.writeFileDescriptor(0));
     EXPECT_EQ(INVALID_OPERATION, parcel.writeDupFileDescriptor(0));
     EXPECT_EQ(BAD_TYPE, parcel.writeNativeHandle(nullptr));
+    native_handle handle = {sizeof(native_handle), 0, 0, {}};
+    EXPECT_EQ(INVALID_OPERATION, parcel.writeNativeHandle(&handle));
+    handle.version--;
+    EXPECT_EQ(BAD_TYPE, parcel.writeNativeHandle(&handle));
+    EXPECT_EQ(nullptr, parcel.readNativeHandle());
     EXPECT_EQ(0u, parcel.dataSize());
     EXPECT_EQ(BAD_TYPE, parcel.readFileDescriptor());
     EXPECT_FALSE(parcel.hasFileDescriptors());
@@ -229,8 +376,32 @@ TEST(HostParcel, CarriesABlobInPlace) {
     Parcel::ReadableBlob blob;
     ASSERT_EQ(NO_ERROR, parcel.readBlob(100000, &blob));
     EXPECT_EQ(0x5a, static_cast<const uint8_t*>(blob.data())[99999]);
+    EXPECT_EQ(100000u, blob.size());
     parcel.setDataPosition(0);
     EXPECT_EQ(BAD_VALUE, parcel.readBlob(100001, &blob));
+}
+
+TEST(HostParcel, RefusesABlobThatIsNotInPlace) {
+    Parcel parcel;
+    Parcel::ReadableBlob blob;
+    EXPECT_EQ(NOT_ENOUGH_DATA, parcel.readBlob(0, &blob));
+    for (const int32_t type : {1, 2, -1}) {
+        parcel.setDataPosition(0);
+        writeWords(&parcel, {type, 0});
+        parcel.setDataPosition(0);
+        EXPECT_EQ(BAD_VALUE, parcel.readBlob(4, &blob)) << type;
+        EXPECT_EQ(nullptr, blob.data());
+        EXPECT_EQ(0u, blob.size());
+    }
+}
+
+TEST(HostParcel, WritesNoBlobThatIsTooLarge) {
+    Parcel parcel;
+    Parcel::WritableBlob blob;
+    EXPECT_EQ(BAD_VALUE, parcel.writeBlob(static_cast<size_t>(INT32_MAX) + 1, false, &blob));
+    EXPECT_EQ(0u, parcel.dataSize());
+    EXPECT_EQ(NO_MEMORY, parcel.writeBlob(INT32_MAX - 1, false, &blob));
+    EXPECT_EQ(nullptr, blob.data());
 }
 
 TEST(HostParcel, PrintsItsBytes) {
