@@ -294,5 +294,31 @@ TEST(HwTarnCallbackProxy, CarriesTextAndBytes) {
     EXPECT_EQ(callback->lastBytes, big);
 }
 
+TEST(HwTarnCallbackProxy, PassesOnTheCallbacksOwnFailure) {
+    struct FailingCallback : public RecordingCallback {
+        Return<void> hwNotify(uint32_t, int32_t, const hidl_string&) override {
+            return Status::fromExceptionCode(Status::EX_UNSUPPORTED_OPERATION, "no text");
+        }
+        Return<void> hwNotify_vec(uint32_t, int32_t, const hidl_vec<uint8_t>&) override {
+            return Status::fromExceptionCode(Status::EX_ILLEGAL_STATE, "no bytes");
+        }
+    };
+    const sp<IHwTarnCallback> proxy =
+            new BpHwHwTarnCallback(stubOf(sp<RecordingCallback>(new FailingCallback)));
+    const Return<void> ofText = proxy->hwNotify(1, 2, "text");
+    EXPECT_FALSE(ofText.isOk());
+    EXPECT_NE(ofText.description().find("no text"), std::string::npos) << ofText.description();
+    const Return<void> ofBytes = proxy->hwNotify_vec(1, 2, {3});
+    EXPECT_FALSE(ofBytes.isOk());
+    EXPECT_NE(ofBytes.description().find("no bytes"), std::string::npos) << ofBytes.description();
+}
+
+TEST(HwTarnCallbackProxy, TakesAnAnswerThatIsCutOffForAnError) {
+    const sp<IHwTarnCallback> proxy =
+            new BpHwHwTarnCallback(scripted([](const Parcel&, Parcel*) { return OK; }));
+    EXPECT_FALSE(proxy->hwNotify(1, 2, "text").isOk());
+    EXPECT_FALSE(proxy->hwNotify_vec(1, 2, {3}).isOk());
+}
+
 }  // namespace
 }  // namespace tarn::test

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <iterator>
 #include <string>
+#include <utility>
 
 #include "tests/unit/host/HidlFakes.h"
 
@@ -122,18 +123,27 @@ TEST(HwTarnCallbackStub, AnswersMalformedEventsWithAnError) {
     const sp<RecordingCallback> callback = new RecordingCallback;
     const sp<IBinder> stub = stubOf(callback);
     for (const uint32_t code : {kHwNotify, kHwNotifyVec}) {
-        for (const int32_t length : {-1, 5, 0x7fffffff}) {
+        for (const auto& [length, expected] :
+             {std::pair(-1, BAD_VALUE), std::pair(5, NOT_ENOUGH_DATA),
+              std::pair(0x7fffffff, NOT_ENOUGH_DATA)}) {
             SCOPED_TRACE(testing::Message() << code << " " << length);
-            EXPECT_NE(send(stub, code, kCallbackToken,
-                           [length](Parcel* data) {
+            EXPECT_EQ(send(stub, code, kCallbackToken,
+                           [length = length](Parcel* data) {
                                data->writeInt32(1);
                                data->writeInt32(2);
                                data->writeInt32(length);
                                data->writeInt32(0);
                            }),
-                      OK);
+                      expected);
         }
-        EXPECT_NE(send(stub, code, kCallbackToken, [](Parcel* data) { data->writeInt32(1); }), OK);
+        for (const int words : {0, 1, 2}) {
+            EXPECT_EQ(send(stub, code, kCallbackToken,
+                           [words](Parcel* data) {
+                               for (int i = 0; i < words; i++) data->writeInt32(1);
+                           }),
+                      NOT_ENOUGH_DATA)
+                    << words;
+        }
         EXPECT_EQ(send(stub, code, kHwTarnToken, nothing), BAD_TYPE);
     }
     EXPECT_EQ(send(stub, 3, kCallbackToken, nothing), UNKNOWN_TRANSACTION);

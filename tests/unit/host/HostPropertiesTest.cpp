@@ -18,6 +18,8 @@
 #include <thread>
 #include <vector>
 
+#include "host/properties/PropertyFile.h"
+
 namespace {
 
 const std::string kLongest(91, 'v');
@@ -265,6 +267,22 @@ TEST_F(HostProperties, LieInTheStateFolderUnlessAFileIsNamed) {
     EXPECT_TRUE(std::filesystem::exists(mFolder + "/state/tarn/properties"));
     EXPECT_EQ(setIn("", (mFolder + "/home").c_str()), 0);
     EXPECT_TRUE(std::filesystem::exists(mFolder + "/home/.local/state/tarn/properties"));
+}
+
+TEST_F(HostProperties, LieInTheTemporaryFolderWhereThereIsNoHome) {
+    const auto pathIn = [](const char* stateHome, const char* home) {
+        setenv("TARN_PROPERTIES_FILE", "", 1);
+        setenv("XDG_STATE_HOME", stateHome, 1);
+        setenv("HOME", home, 1);
+        return tarn::host::propertyFilePath();
+    };
+    const std::string former = getenv("HOME") != nullptr ? getenv("HOME") : "";
+    EXPECT_EQ(pathIn("", ""), "/tmp/tarn-properties-" + std::to_string(getuid()));
+    EXPECT_EQ(pathIn("state", ""), "/tmp/tarn-properties-" + std::to_string(getuid()));
+    EXPECT_EQ(pathIn("state", "/h"), "/h/.local/state/tarn/properties");
+    EXPECT_EQ(pathIn("/s", ""), "/s/tarn/properties");
+    unsetenv("XDG_STATE_HOME");
+    setenv("HOME", former.c_str(), 1);
 }
 
 TEST_F(HostProperties, AreListedOnce) {
