@@ -446,6 +446,51 @@ TEST_F(BoardLoader, TellsTheProblemsOfAllFilesAtOnce) {
                         "c.json:1: unknown command 'CMD_NONE'"));
 }
 
+TEST_F(BoardLoader, TellsTheProblemsOfAFileInAFixedOrder) {
+    // The includes, its own sections, its name; only then the override.
+    write("board.json", R"({
+        "commands": {"CMD_AUDIO_GET_VOLUME": {}},
+        "properties": {"a": {"type": "i32", "initial": 1}},
+        "include": ["none.json", "a.json"]})");
+    write("a.json", R"({
+        "commands": {"CMD_AUDIO_GET_VOLUME": {}},
+        "properties": {"a": {"type": "i32", "initial": 1}}})");
+    EXPECT_THAT(problems("over.json"),
+                ElementsAre("board.json:4: included 'none.json' is missing",
+                            "board.json:3: 'a' is described already in a.json:3",
+                            "board.json:2: 'CMD_AUDIO_GET_VOLUME' is described already in a.json:2",
+                            "board.json:1: the board has no name", "over.json: can't be read"));
+}
+
+TEST_F(BoardLoader, TellsTheProblemsOfABoardInAFixedOrder) {
+    write("board.json", R"({
+        "commands": {
+            "CMD_LANDSCAPE_GET_APP_LIST": {"get": "a.list"},
+            "CMD_NONE": {},
+            "CMD_TOUCH_SET_STATE_DISABLED": {},
+            "CMD_TOUCH_SET_ANDROID_FORBIDDEN_STATE": {"set": "a.word"}
+        },
+        "properties": {
+            "a.list": {"type": "list", "initial": [1]},
+            "a.none": {"type": "i32"},
+            "a.word": {"type": "i32", "initial": 1}
+        },
+        "include": ["none.json"],
+        "name": "default"})");
+    write("over.json", R"({"properties": {"b.new": {"type": "i32", "initial": 1}}})");
+    std::vector<std::string> all = problems("over.json");
+    ASSERT_GT(all.size(), 7U);
+    const std::vector<std::string> missing(all.begin() + 6, all.end());
+    all.resize(6);
+    EXPECT_THAT(all, ElementsAre("board.json:13: included 'none.json' is missing",
+                                 "board.json:10: property 'a.none' has no initial",
+                                 "board.json:4: unknown command 'CMD_NONE'",
+                                 StartsWith("board.json:9: "),
+                                 HasSubstr("over.json:1: property 'b.new' is not in the board"),
+                                 HasSubstr("share their code and look alike")));
+    EXPECT_THAT(missing, ::testing::Each(StartsWith("board.json: commands of ")));
+}
+
 TEST_F(BoardLoader, WantsANameAndADescriptionOfEveryCommandFromTheDefaultBoard) {
     write("board.json", "{}");
     EXPECT_THAT(problems(), ElementsAre("board.json:1: the board has no name"));
