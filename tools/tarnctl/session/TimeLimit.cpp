@@ -5,7 +5,6 @@
 namespace tarnctl {
 
 std::string TimeLimit::exceeded(const std::string& what) const {
-    if (!mLimit) return what;
     char seconds[32];
     snprintf(seconds, sizeof(seconds), "%g", static_cast<double>(mLimit->count()) / 1000);
     return what + " within " + seconds + " s";

@@ -39,7 +39,7 @@ class TimeLimit {
         return result.get();
     }
 
-    /** "no answer" as "no answer within 2.5 s". */
+    /** "no answer" as "no answer within 2.5 s"; only where there is a limit. */
     std::string exceeded(const std::string& what) const;
 
   private:
