@@ -6,14 +6,17 @@
 #include <utils/String16.h>
 #include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <future>
 #include <iterator>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <random>
 #include <set>
@@ -23,9 +26,13 @@
 
 #include "host/HostServiceManager.h"
 #include "simulator/EmbeddedBoard.h"
+#include "simulator/board/EventCallbacks.h"
+#include "simulator/board/PostedEvents.h"
 #include "simulator/board/SimulatedBoard.h"
 #include "simulator/control/LocalBoard.h"
 #include "simulator/description/BoardLoader.h"
+#include "simulator/faults/Faults.h"
+#include "tests/support/Eventually.h"
 #include "tests/support/MoreThanMemory.h"
 #include "tests/support/RecordingManager.h"
 #include "values/Codec.h"
@@ -609,6 +616,41 @@ TEST_F(SimulatedBoardEvents, SurviveACallbackThatDropsTheBoard) {
     EXPECT_EQ(1U, receiver->waitFor(1).size());
 }
 
+TEST_F(SimulatedBoardEvents, LetCallbacksComeAndDieWhileTheyAreRaised) {
+    const auto callbacks = std::make_shared<EventCallbacks>();
+    constexpr int32_t kProcesses = 20;
+    std::atomic<int> delivered{0};
+    struct Dying : IHwTarnCallback {
+        explicit Dying(std::atomic<int>* delivered) : mDelivered(delivered) {}
+        Return<void> hwNotify(uint32_t, int32_t, const hidl_string&) override { return Void(); }
+        Return<void> hwNotify_vec(uint32_t, int32_t, const hidl_vec<uint8_t>&) override {
+            ++*mDelivered;
+            return Status::fromStatusT(::android::DEAD_OBJECT);
+        }
+        std::atomic<int>* const mDelivered;
+    };
+    std::thread registering([&callbacks, &delivered] {
+        for (int32_t pid = 1; pid <= kProcesses; pid++) {
+            EXPECT_TRUE(callbacks->add(pid, new Dying(&delivered)));
+        }
+    });
+    std::thread raising([&callbacks, &delivered] {
+        // Relaxed, so that nothing but the callbacks' own lock orders the threads.
+        for (int i = 0; i < 100'000 && delivered.load(std::memory_order_relaxed) < kProcesses;
+             i++) {
+            callbacks->post(Event{1, {}});
+        }
+    });
+    size_t most = 0;
+    for (int i = 0; i < kProcesses; i++) most = std::max(most, callbacks->size());
+    registering.join();
+    raising.join();
+    EXPECT_LE(most, static_cast<size_t>(kProcesses));
+    callbacks->post(Event{1, {}});
+    EXPECT_TRUE(test::eventually([&callbacks] { return callbacks->size() == 0; }));
+    EXPECT_GE(delivered, kProcesses);
+}
+
 TEST_F(SimulatedBoardEvents, PostedByApplicationsAreKeptInABoundedLog) {
     const std::string data("\0\1", 2);
     for (int32_t what = 0; what < 300; what++) {
@@ -622,6 +664,25 @@ TEST_F(SimulatedBoardEvents, PostedByApplicationsAreKeptInABoundedLog) {
     mBoard->hwPostEvent(1001, hidl_string(large));
     ASSERT_EQ(1U, mBoard->postedEvents().size());
     EXPECT_EQ(1001, mBoard->postedEvents()[0].what);
+}
+
+TEST_F(SimulatedBoardEvents, PostedByApplicationsAreListedWhileTheyCome) {
+    PostedEvents events;
+    std::vector<std::thread> threads;
+    for (int32_t what = 0; what < 2; what++) {
+        threads.emplace_back([&events, what] {
+            for (int i = 0; i < 300; i++) events.add(PostedEvent{what, {1, 2}});
+        });
+    }
+    threads.emplace_back([&events] {
+        for (int i = 0; i < 50; i++) EXPECT_LE(events.list().size(), PostedEvents::kMaxEvents);
+    });
+    threads.emplace_back([&events] {
+        for (int i = 0; i < 50; i++) events.clear();
+    });
+    for (std::thread& thread : threads) thread.join();
+    events.clear();
+    EXPECT_THAT(events.list(), IsEmpty());
 }
 
 TEST_F(SimulatedBoardFaults, AnswerAStatusAndDoNothing) {
@@ -721,6 +782,31 @@ TEST_F(SimulatedBoardFaults, AreListedAndCleared) {
     EXPECT_EQ(1U, mControl->listFaults().size());
     EXPECT_THAT([this] { mControl->clearFault("*"); },
                 ThrowsMessage<std::invalid_argument>("no fault is set for '*'"));
+}
+
+TEST_F(SimulatedBoardFaults, AreSwitchedWhileCommandsRun) {
+    const Fault fault{Fault::Kind::kStatus, -9};
+    const std::string command = "CMD_AUDIO_GET_VOLUME";
+    Faults faults;
+    const std::function<void()> uses[] = {
+            [&] { faults.set(command, fault); },
+            [&] { faults.clear(command); },
+            [&] { faults.clearAll(); },
+            [&] { EXPECT_LE(faults.list().size(), 1U); },
+            [&] {
+                const auto answer = faults.next(command).answer;
+                EXPECT_EQ(-9, answer ? answer->value : -9);
+            },
+    };
+    std::vector<std::thread> threads;
+    for (const auto& use : uses) {
+        threads.emplace_back([&use] {
+            for (int i = 0; i < 300; i++) use();
+        });
+    }
+    for (std::thread& thread : threads) thread.join();
+    faults.clearAll();
+    EXPECT_FALSE(faults.next(command).answer);
 }
 
 TEST_F(SimulatedBoardFaults, AreRefusedWhenDescribedWrongly) {
