@@ -225,6 +225,18 @@ TEST_F(Carrier, BringsAnObjectHomeAsItself) {
     desk.client.drop();
 }
 
+TEST_F(Carrier, SendsNoReferenceToAnObjectThatItDoesNotKnow) {
+    RemoteDesk desk("tarn.test.desk");
+    const sp<IBinder> unknown = android::ProcessState::self()->getStrongProxyForHandle(4711);
+    EXPECT_EQ(BAD_VALUE, desk.client.keep(unknown));
+    // Nor in a reply, whose caller is told so.
+    const sp<IBinder> mine = new Desk;
+    ASSERT_EQ(NO_ERROR, DeskClient(mine).keep(unknown));
+    ASSERT_EQ(NO_ERROR, desk.client.keep(mine));
+    EXPECT_EQ(BAD_VALUE, desk.client.call(Desk::SHOW));
+    EXPECT_EQ(NO_ERROR, desk.client.drop());
+}
+
 TEST_F(Carrier, CallsBackWhoeverIsWaitingForAnAnswer) {
     RemoteDesk desk("tarn.test.desk");
     const sp<Desk> mine = new Desk;
