@@ -31,6 +31,9 @@ bool meansBroken(const sdbus::Error& error) {
            name == prefix + "EPIPE" || name == prefix + "ESHUTDOWN";
 }
 
+// The link whose thread this is.
+thread_local const BusLink* gServedLink = nullptr;
+
 }  // namespace
 
 BusLink::Destination::Destination(BusLink& link, const std::string& name, const char* path)
@@ -83,10 +86,7 @@ void BusLink::start(Listener* listener) {
 }
 
 void BusLink::run() {
-    {
-        std::lock_guard<std::mutex> lock(mLock);
-        mThread = std::this_thread::get_id();
-    }
+    gServedLink = this;
     try {
         for (;;) {
             const bool more = process();
@@ -207,7 +207,7 @@ bool BusLink::sendLocked(Send send) {
     if (!hasUnwritten()) return true;
     const uint64_t mine = ++mQueued;
     wake();
-    if (std::this_thread::get_id() != mThread) {
+    if (gServedLink != this) {
         mChanged.wait(lock, [this, mine] { return mBroken || mWritten >= mine; });
     }
     return true;

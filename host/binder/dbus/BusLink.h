@@ -130,7 +130,6 @@ class BusLink {
     uint64_t mWritten = 0;
     bool mBroken = false;
     std::set<std::shared_ptr<Pending>> mPending;
-    std::thread::id mThread;
 
     // Used by the link's thread only: what came in and is not handled yet, and what reading needs.
     std::vector<std::function<void()>> mInbox;
