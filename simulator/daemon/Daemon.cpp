@@ -87,10 +87,10 @@ void claim(ControlBus* bus, bool replace) {
     }
 }
 
-/** Whoever takes over the service leaves this one without callers. */
-void endWhenTaken(const std::shared_ptr<EndWatch>& watch) {
-    ::android::host::onServiceTaken(
-            [watch](const ::android::String16&) { watch->end(EndCause::kServiceTaken); });
+/** A service that nobody reaches any more is no use to go on with. */
+void endWhenLost(const std::shared_ptr<EndWatch>& watch) {
+    ::android::host::onServiceLost(
+            [watch](const ::android::String16&) { watch->end(EndCause::kServiceLost); });
 }
 
 void publish(const sp<SimulatedBoard>& board) {
@@ -113,7 +113,7 @@ int serve(const DaemonOptions& options) {
 
     ControlBus bus;
     claim(&bus, options.replace);
-    endWhenTaken(watch);
+    endWhenLost(watch);
     publish(board);
     bus.serve(*control, [&watch](EndCause cause) { watch->end(cause); });
     if (!options.quiet) {
@@ -124,14 +124,16 @@ int serve(const DaemonOptions& options) {
     switch (watch->wait()) {
         case EndCause::kSignal:
             break;
-        case EndCause::kServiceTaken:
+        case EndCause::kServiceLost: {
+            const pid_t server = processOf(IHwTarn::getService());
+            if (server == getpid()) throw Refusal(kNoBus, "the session bus went away");
             // Another tarn-board takes both names; the news of either may come first.
             if (bus.owner() == getpid()) {
                 throw Refusal(kAlreadyServed,
-                              "the hardware service was taken over by " +
-                                      processText(processOf(IHwTarn::getService())));
+                              "the hardware service was taken over by " + processText(server));
             }
             [[fallthrough]];
+        }
         case EndCause::kReplaced:
             if (!options.quiet) say("another tarn-board took over");
             break;

@@ -256,6 +256,55 @@ TEST(BoardDaemon, TakesOverWhenToldTo) {
     EXPECT_EQ(nullptr, findServedBoard(first.pid()));
 }
 
+/** Where the hardware service's calls go, as the bus knows it. */
+std::string carrierOf(sdbus::IProxy& bus) {
+    std::vector<std::string> names;
+    bus.callMethod("ListNames").onInterface("org.freedesktop.DBus").storeResultsTo(names);
+    for (const std::string& name : names) {
+        if (name.rfind("tarn.binder", 0) == 0) return name;
+    }
+    return "";
+}
+
+/** A message that is too large for its receiver, but only with what the bus adds: the sender. */
+sdbus::MethodCall tooLargeCall(sdbus::IProxy& proxy, size_t headerBytes) {
+    constexpr size_t kLargestMessage = size_t{128} * 1024 * 1024;
+    constexpr size_t kLargestArray = size_t{64} * 1024 * 1024;
+    sdbus::MethodCall call = proxy.createMethodCall("org.freedesktop.DBus.Peer", "Ping");
+    call << std::vector<uint8_t>(kLargestArray);
+    // Two lengths of four bytes stand before the arrays.
+    call << std::vector<uint8_t>(kLargestMessage - kLargestArray - headerBytes - 8);
+    return call;
+}
+
+/** What the fields of a header take, each on a multiple of 8 bytes. */
+size_t headerBytes(const std::string& destination) {
+    const auto field = [](size_t length) { return (4 + 4 + length + 1 + 7) / 8 * 8; };
+    return 16 + field(strlen("/")) + field(destination.size()) +
+           field(strlen("org.freedesktop.DBus.Peer")) + field(strlen("Ping")) +
+           (4 + 1 + strlen("ayay") + 1 + 7) / 8 * 8;
+}
+
+// The bus library gives the connection up then, but leaves it open.
+TEST(BoardDaemon, EndsWhenAMessageCostsItTheBus) {
+    BoardProcess board;
+    const auto connection = sdbus::createSessionBusConnection();
+    const auto bus = sdbus::createProxy(*connection, "org.freedesktop.DBus", "/");
+    const std::string carrier = carrierOf(*bus);
+    ASSERT_NE(carrier, "");
+    const sp<TarnManager> manager = application();
+    EXPECT_EQ(30, volumeOf(manager));
+
+    const auto peer = sdbus::createProxy(*connection, carrier, "/");
+    try {
+        peer->callMethod(tooLargeCall(*peer, headerBytes(carrier)));
+    } catch (const sdbus::Error& lost) {
+    }
+    EXPECT_EQ(4, board.wait());
+    EXPECT_NE(std::string::npos, board.restOfErrors().find("the session bus went away"));
+    EXPECT_EQ(-1, volumeOf(manager));
+}
+
 TEST(BoardDaemon, EndsWhenAnotherProcessBecomesTheService) {
     BoardProcess board;
     {

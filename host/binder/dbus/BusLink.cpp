@@ -6,6 +6,7 @@
 #include <poll.h>
 #include <pthread.h>
 #include <sys/eventfd.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -47,6 +48,7 @@ BusLink::Destination::~Destination() {
 BusLink::BusLink(const std::string& address)
     : mConnection(connectToBus(address, kPromptly)),
       mUniqueName(mConnection->getUniqueName()),
+      mSocket(mConnection->getEventLoopPollData().fd),
       mWakeFd(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
     if (mWakeFd < 0) throw sdbus::createError(errno, "no event descriptor");
     mConnection->addMatch(
@@ -154,6 +156,9 @@ void BusLink::disconnected(const char* why) {
         std::lock_guard<std::mutex> lock(mLock);
         mBroken = true;
         abandoned.swap(mPending);
+        // After some errors the library keeps the connection, and the bus takes this process for
+        // alive: whoever calls it would wait for ever.
+        shutdown(mSocket, SHUT_RDWR);
         mChanged.notify_all();
     }
     handle([this] { mListener->onDisconnected(); });

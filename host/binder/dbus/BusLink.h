@@ -120,6 +120,7 @@ class BusLink {
     std::unique_ptr<sdbus::IConnection> mConnection;
     std::unique_ptr<sdbus::IObject> mObject;
     std::string mUniqueName;
+    int mSocket;  // the connection's
     int mWakeFd;
     Listener* mListener = nullptr;
 

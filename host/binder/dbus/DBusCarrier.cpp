@@ -56,6 +56,7 @@ void DBusCarrier::onNameOwnerChanged(const std::string& name, const std::string&
 
 void DBusCarrier::onDisconnected() {
     mDeaths.allGone();
+    mServices.onDisconnected();
 }
 
 // The process's requests, on any thread.

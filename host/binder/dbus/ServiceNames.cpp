@@ -159,6 +159,14 @@ void ServiceNames::onLookup(sdbus::MethodCall& call, Peer& caller) {
     mReleaser.release(service);
 }
 
+void ServiceNames::onDisconnected() {
+    std::lock_guard<std::mutex> lock(mLock);
+    for (const auto& [name, service] : mPublished) {
+        CallQueue& queue = mQueues.of(SharedObjects::domainOf(service));
+        queue.add([name16 = String16(name.c_str())] { ServiceTable::get()->tellLost(name16); });
+    }
+}
+
 void ServiceNames::onNameLost(const std::string& busName) {
     const auto name = serviceNameOf(busName);
     if (!name.has_value()) return;

@@ -42,6 +42,7 @@ class ServiceNames {
 
     /** Another process took over a bus name of this one. */
     void onNameLost(const std::string& busName);
+    void onDisconnected();
 
   private:
     sp<IBinder> published(const std::string& name);

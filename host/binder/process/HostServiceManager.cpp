@@ -61,8 +61,8 @@ bool checkCallingPermission(const String16& permission) {
 
 namespace host {
 
-void onServiceTaken(std::function<void(const String16& name)> taken) {
-    ServiceTable::get()->onTaken(std::move(taken));
+void onServiceLost(std::function<void(const String16& name)> lost) {
+    ServiceTable::get()->onLost(std::move(lost));
 }
 
 status_t addLocalService(const String16& name, const sp<IBinder>& service) {

@@ -118,20 +118,27 @@ bool ServiceTable::remove(const String16& name) {
 
 void ServiceTable::removeReplaced(const String16& name, const sp<IBinder>& service) {
     std::map<String16, Entry>::node_type removed;
-    std::function<void(const String16&)> taken;
     {
         std::lock_guard<std::mutex> lock(mLock);
         const auto found = mServices.find(name);
         if (found == mServices.end() || found->second.binder != service) return;
         removed = mServices.extract(found);
-        taken = mTaken;
     }
-    if (taken) taken(name);
+    tellLost(name);
 }
 
-void ServiceTable::onTaken(std::function<void(const String16& name)> taken) {
+void ServiceTable::onLost(std::function<void(const String16& name)> lost) {
     std::lock_guard<std::mutex> lock(mLock);
-    mTaken = std::move(taken);
+    mLost = std::move(lost);
+}
+
+void ServiceTable::tellLost(const String16& name) {
+    std::function<void(const String16&)> lost;
+    {
+        std::lock_guard<std::mutex> lock(mLock);
+        lost = mLost;
+    }
+    if (lost) lost(name);
 }
 
 void ServiceTable::removeAll() {

@@ -32,10 +32,13 @@ class ServiceTable : public IServiceManager {
     bool remove(const String16& name);
     void removeAll();
 
-    void onTaken(std::function<void(const String16& name)> taken);
+    void onLost(std::function<void(const String16& name)> lost);
 
     /** Removes a service whose name another process took over, unless it was replaced here too. */
     void removeReplaced(const String16& name, const sp<IBinder>& service);
+
+    /** Tells that a service is lost to other processes. */
+    void tellLost(const String16& name);
 
   protected:
     IBinder* onAsBinder() override { return mBinder.get(); }
@@ -52,10 +55,10 @@ class ServiceTable : public IServiceManager {
     // The binder of the manager itself; it answers the standard transactions only.
     const sp<BBinder> mBinder = new BBinder;
 
-    mutable std::mutex mLock;  // guards mServices and mTaken
+    mutable std::mutex mLock;  // guards mServices and mLost
     std::condition_variable mAdded;
     std::map<String16, Entry> mServices;
-    std::function<void(const String16& name)> mTaken;
+    std::function<void(const String16& name)> mLost;
 };
 
 }  // namespace android::host

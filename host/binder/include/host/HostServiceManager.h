@@ -15,10 +15,11 @@ namespace android::host {
 status_t addLocalService(const String16& name, const sp<IBinder>& service);
 
 /**
- * Has taken called each time that another process has taken over the name of a service of this one,
- * on a thread of its pool and with no lock held. One at a time; it stays for the process's life.
+ * Has lost called each time that other processes no longer reach a service of this one, on a thread
+ * of its pool and with no lock held: another process has taken over the name, under which a look-up
+ * then finds that one, or the bus is lost. One at a time; it stays for the process's life.
  */
-void onServiceTaken(std::function<void(const String16& name)> taken);
+void onServiceLost(std::function<void(const String16& name)> lost);
 
 /** Takes a service out of this process's table again; false if it is not there. For tests. */
 bool removeService(const String16& name);
