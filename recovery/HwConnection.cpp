@@ -1,5 +1,6 @@
 #include "recovery/HwConnection.h"
 
+#include <binder/Parcel.h>
 #include <tarn/TarnManager.h>
 #include <utils/Mutex.h>
 #include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
@@ -45,6 +46,16 @@ bool isAlive(const sp<IHwTarn>& service) {
 /** The end of any manager drops the process's connection; one without controllers does end. */
 void dropConnection() {
     const sp<TarnManager> manager = new TarnManager;
+}
+
+/**
+ * Has the library look the service up at once. It keeps what it finds first: a command that found
+ * the dead service before it died would put that into the empty place later.
+ */
+void fillConnection(ITarnManager* manager) {
+    const Parcel nothing;  // which is not sent
+    Parcel reply;
+    manager->invoke(nothing, &reply);
 }
 
 }  // namespace
@@ -99,6 +110,7 @@ int HwConnection::renewAlone() {
         // The queue of before would deliver beside the new one.
         if (mWantsEvents) mManager->removeTarnMsgManager();
         dropConnection();
+        fillConnection(mManager);
         AutoMutex guard(shared().lock);
         shared().service = service;
         shared().number++;

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "core/HwTarnClient.h"
 #include "tests/support/BackgroundCall.h"
 #include "tests/support/Eventually.h"
 #include "tests/support/FakeHwTarn.h"
@@ -27,6 +28,7 @@ using android::hardware::hidl_string;
 using android::hardware::Return;
 using android::hardware::Status;
 using android::hardware::Void;
+using ::vendor::zunt::hwtarn::V1_0::IHwTarn;
 using namespace tarn::test;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -185,6 +187,19 @@ TEST_F(Recovery, DoesNotTakeAServiceThatIsDeadButStillHasItsName) {
     service->failWith(Status::fromStatusT(android::DEAD_OBJECT));
     TarnRecovery recovery(manager.get(), TarnRecovery::WITHOUT_EVENTS);
     EXPECT_EQ(recovery.recover(), TarnRecovery::STILL_AWAY);
+}
+
+// A command that found the first service and was held up then keeps what it found, but only where
+// the connection is empty.
+TEST_F(Recovery, LeavesNoPlaceForADeadServiceThatACommandFoundBefore) {
+    Service first;
+    const sp<IHwTarn> found = IHwTarn::getService();
+    TarnRecovery recovery(manager.get(), TarnRecovery::WITHOUT_EVENTS);
+    first.kill();
+    Service second;
+    EXPECT_EQ(recovery.recover(), TarnRecovery::RECOVERED);
+    EXPECT_NE(android::mHwTarnService.setIfEmpty(found), found);
+    EXPECT_EQ(command(manager), 0);
 }
 
 TEST_F(Recovery, TakesAnErrorOtherThanADeadObjectForLife) {
