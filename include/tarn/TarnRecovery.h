@@ -61,9 +61,11 @@ class TARN_EXPORT TarnRecovery {
      * any number of these get on with each other, but each manager whose events are on needs one,
      * or its events end with the first recovery.
      *
-     * A recovery drops events that were raised before it and not delivered yet. A listener that is
-     * busy with one of them may be called for a new one at the same time. The event thread of
-     * before stays behind, idle, to the process's end.
+     * A recovery drops the manager's events that were raised before it and not delivered yet;
+     * another manager's may still come, beside new ones. A listener that is busy with one of them
+     * may be called for a new one at the same time. The event thread of before stays behind, idle,
+     * to the process's end, so make one of these for the manager's life rather than one after the
+     * other.
      *
      * @param manager not owned; it must live longer.
      */
@@ -90,7 +92,8 @@ class TARN_EXPORT TarnRecovery {
     Status recover();
 
     /**
-     * Starts a thread that does the same every periodMs milliseconds, at once for the first time.
+     * Starts a thread that does the same every periodMs milliseconds, at once for the first time;
+     * with 0 it never pauses.
      *
      * @param listener told on that thread, with no lock held, of every loss and then of the return;
      *                 not of a service that is there from the start. Not owned; null for none.
@@ -100,7 +103,8 @@ class TARN_EXPORT TarnRecovery {
 
     /**
      * Ends the thread and waits for its end, so also for a call to the service that it is in; no
-     * callback comes afterwards. From a callback it doesn't wait: the thread ends after that one.
+     * callback comes afterwards. From a callback it doesn't wait: the thread ends after that one,
+     * and another stop() has to come before the next start().
      * One thread at a time starts and stops.
      */
     void stop();
