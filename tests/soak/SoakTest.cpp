@@ -15,6 +15,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <cinttypes>
 #include <cstdio>
 #include <cstring>
 #include <functional>
@@ -231,8 +232,8 @@ class Surroundings {
 };
 
 void printCalls(const char* name, const Tally& tally) {
-    printf("%-12s %12zu %10zu %10zu\n", name, size_t{tally.right}, size_t{tally.wrong},
-           size_t{tally.failed});
+    printf("%-12s %12" PRIu64 " %10" PRIu64 " %10" PRIu64 "\n", name, tally.right.load(),
+           tally.wrong.load(), tally.failed.load());
 }
 
 void printUsage(const char* name, const Usage& usage) {
