@@ -101,37 +101,44 @@ bool Program::Stream::fill(int milliseconds) {
     return true;
 }
 
-std::string Program::Stream::line() {
-    const auto deadline = Clock::now() + kPatience;
-    size_t end;
-    while ((end = unread.find('\n')) == std::string::npos) {
-        if (fill(millisecondsUntil(deadline))) continue;
-        ADD_FAILURE() << "no line but \"" << unread << "\"";
-        return "";
-    }
-    const std::string text = unread.substr(0, end);
-    unread.erase(0, end + 1);
-    return text;
-}
-
 std::string Program::Stream::rest() {
     while (fill(0)) {
     }
     return std::exchange(unread, "");
 }
 
+// The other stream is read too: a program that finds its pipe full stands still.
+std::string Program::lineOf(Stream* stream, Stream* other) {
+    const auto deadline = Clock::now() + kPatience;
+    size_t end;
+    while ((end = stream->unread.find('\n')) == std::string::npos) {
+        pollfd waited[] = {{stream->descriptor, POLLIN, 0},
+                           {other->ended ? -1 : other->descriptor, POLLIN, 0}};
+        if (stream->ended || Clock::now() > deadline ||
+            poll(waited, 2, millisecondsUntil(deadline)) <= 0) {
+            ADD_FAILURE() << "no line but \"" << stream->unread << "\"";
+            return "";
+        }
+        if (waited[1].revents != 0) other->fill(0);
+        if (waited[0].revents != 0) stream->fill(0);
+    }
+    const std::string text = stream->unread.substr(0, end);
+    stream->unread.erase(0, end + 1);
+    return text;
+}
+
 std::string Program::outputLine() {
-    return mOutput.line();
+    return lineOf(&mOutput, &mErrors);
 }
 
 std::string Program::errorLine() {
-    return mErrors.line();
+    return lineOf(&mErrors, &mOutput);
 }
 
 std::string Program::errorLineWith(const std::string& text) {
     std::string line;
     do {
-        line = mErrors.line();
+        line = errorLine();
     } while (!line.empty() && line.find(text) == std::string::npos);
     return line;
 }

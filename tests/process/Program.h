@@ -50,10 +50,10 @@ class Program {
         bool ended = false;
 
         bool fill(int milliseconds);
-        std::string line();
         std::string rest();
     };
 
+    static std::string lineOf(Stream* stream, Stream* other);
     void drain();
 
     pid_t mPid = -1;
