@@ -7,6 +7,7 @@
 #include <tarn/TarnRecovery.h>
 
 #include <atomic>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -79,7 +80,10 @@ class FakeAtCalls : public FakeHwTarn {
 /** A listener that is never destroyed: the event thread may still be leaving its notify(). */
 class Listener : public ITarnListener {
   public:
-    static Listener& make() { return *new Listener; }
+    static Listener& make() {
+        static auto* kept = new std::deque<Listener>;
+        return kept->emplace_back();
+    }
 
     void notify(unsigned int msgType, int, int, const Parcel*) override {
         if (onNotify) onNotify();
