@@ -9,7 +9,6 @@
 namespace tarn::simulator::bus {
 
 using values::Bytes;
-using values::isUtf8;
 using values::Value;
 
 namespace {
@@ -42,6 +41,18 @@ Json::Value jsonFromInteger(const sdbus::Variant& variant) {
     return Json::Value(static_cast<Json::UInt64>(number));
 }
 
+/** True for a code point that Unicode keeps for internal use; the bus library refuses it. */
+bool hasNoncharacter(const std::u16string& text) {
+    char16_t before = 0;
+    for (const char16_t unit : text) {
+        const bool alone = (unit >= 0xfdd0 && unit <= 0xfdef) || unit >= 0xfffe;
+        const bool ofAPair = (unit & 0xfffe) == 0xdffe && (before & 0x3f) == 0x3f;
+        if (alone || ofAPair) return true;
+        before = unit;
+    }
+    return false;
+}
+
 }  // namespace
 
 std::string busText(const std::string& text) {
@@ -57,8 +68,12 @@ std::string busText(const std::string& text) {
 }
 
 const std::string& checkedText(const std::string& text) {
-    if (!isUtf8(text)) throw std::invalid_argument("text is not UTF-8");
+    const auto utf16 = values::utf16FromUtf8(text);
+    if (!utf16.has_value()) throw std::invalid_argument("text is not UTF-8");
     if (text.find('\0') != std::string::npos) throw std::invalid_argument("text has a NUL");
+    if (hasNoncharacter(*utf16)) {
+        throw std::invalid_argument("text has a noncharacter, such as U+FFFF");
+    }
     return text;
 }
 

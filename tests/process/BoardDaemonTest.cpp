@@ -688,6 +688,12 @@ TEST(RemoteBoard, RefusesTextsThatAreNotUtf8AsTheBoardItselfDoes) {
                 control->setProperty("device.nfcTagMsg", std::string({'a', '\0'}));
             },
             testing::ThrowsMessage<std::invalid_argument>("text has a NUL"));
+    for (const char* unknown : {"\uffff", "\ufdd0", "\U0001fffe"}) {
+        EXPECT_THAT([&] { control->setProperty("device.nfcTagMsg", unknown); },
+                    testing::ThrowsMessage<std::invalid_argument>(
+                            "text has a noncharacter, such as U+FFFF"));
+    }
+    EXPECT_NO_THROW(control->setProperty("device.nfcTagMsg", "\ufffd\U0001f600"));
 
     const Outcome outcome = runTarnctl({"board", "set", "device.nfcTagMsg", text});
     EXPECT_EQ(2, outcome.code);
