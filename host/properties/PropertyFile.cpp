@@ -171,7 +171,10 @@ bool replaceFile(const std::string& path, const std::string& content) {
     const std::string next = path + ".new";
     bool written = false;
     {
-        const FileDescriptor file(next, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
+        // A writer that was killed leaves it behind. Anything else may lie there as well: a link
+        // would lead to another file, and a FIFO holds up whoever opens it.
+        unlink(next.c_str());
+        const FileDescriptor file(next, O_WRONLY | O_CREAT | O_EXCL);
         if (!file.valid()) return false;
         // On the disk before it takes the old file's place: else a loss of power may leave neither.
         written = writeAll(file.get(), content) && fsync(file.get()) == 0;

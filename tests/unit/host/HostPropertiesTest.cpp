@@ -254,6 +254,45 @@ TEST_F(HostProperties, LeaveOnlyTheFileAndItsLockBehind) {
     EXPECT_NE(fileContent().find("\nvendor.any=1\n"), std::string::npos);
 }
 
+TEST_F(HostProperties, TakeThePlaceOfWhatAnInterruptedWriteLeft) {
+    std::ofstream(mFile + ".new") << "persist.half";
+    EXPECT_EQ(property_set("persist.any", "1"), 0);
+    EXPECT_EQ(listed(), (std::map<std::string, std::string>{{"persist.any", "1"}}));
+    EXPECT_FALSE(std::filesystem::exists(mFile + ".new"));
+}
+
+TEST_F(HostProperties, AreNotHeldUpByAFifoInTheNewFilesPlace) {
+    ASSERT_EQ(mkfifo((mFile + ".new").c_str(), 0600), 0);
+    const int status = inChildProcess([] {
+        alarm(60);  // ends a child that waits for a reader
+        return property_set("persist.any", "1") == 0 ? 0 : 1;
+    });
+    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(std::filesystem::is_regular_file(mFile));
+    EXPECT_EQ(get("persist.any"), "1");
+}
+
+TEST_F(HostProperties, DoNotFollowALinkInTheNewFilesPlace) {
+    const std::string other = mFolder + "/other";
+    std::ofstream(other) << "another's";
+    const auto setWithLink = [&](const char* value, const std::function<void()>& link) {
+        link();
+        EXPECT_EQ(property_set("persist.any", value), 0);
+        EXPECT_EQ(get("persist.any"), value);
+        EXPECT_EQ(contentOf(other), "another's");
+        EXPECT_FALSE(std::filesystem::is_symlink(mFile));
+    };
+    setWithLink("1", [&] { std::filesystem::create_symlink(other, mFile + ".new"); });
+    setWithLink("2", [&] { std::filesystem::create_hard_link(other, mFile + ".new"); });
+}
+
+TEST_F(HostProperties, FailWhereTheNewFilesPlaceIsTaken) {
+    EXPECT_EQ(property_set("persist.any", "1"), 0);
+    std::filesystem::create_directory(mFile + ".new");
+    EXPECT_LT(property_set("persist.any", "2"), 0);
+    EXPECT_EQ(get("persist.any"), "1");
+}
+
 TEST_F(HostProperties, LieInTheStateFolderUnlessAFileIsNamed) {
     const auto setIn = [](const char* stateHome, const char* home) {
         return inChildProcess([=] {
