@@ -23,7 +23,10 @@ class RelayBinder : public android::BBinder {
         return android::OK;
     }
 
-    android::status_t pingBinder() override { return mDead ? android::DEAD_OBJECT : android::OK; }
+    android::status_t pingBinder() override {
+        mPings++;
+        return mDead ? android::DEAD_OBJECT : android::OK;
+    }
 
     /** Tells the recipient that was linked last. */
     void die() {
@@ -33,6 +36,7 @@ class RelayBinder : public android::BBinder {
     }
 
     int links() const { return mLinks; }
+    int pings() const { return mPings; }
     android::sp<DeathRecipient> recipient() const { return mRecipient.promote(); }
 
   protected:
@@ -46,6 +50,7 @@ class RelayBinder : public android::BBinder {
     android::sp<android::IBinder> mTarget;
     android::wp<DeathRecipient> mRecipient;
     std::atomic<int> mLinks{0};
+    std::atomic<int> mPings{0};
     std::atomic<bool> mDead{false};
 };
 

@@ -30,6 +30,7 @@ using android::TarnClient;
 using android::TarnRecovery;
 using namespace tarn::test;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 namespace {
 
@@ -76,6 +77,7 @@ class Service {
     }
 
     FakeService* operator->() const { return mFake.get(); }
+    int pings() const { return mRelay->pings(); }
 
   private:
     sp<FakeService> mFake;
@@ -202,6 +204,27 @@ TEST_F(BridgeRecovery, WatchesAndTells) {
     recovery.stop();
     EXPECT_THAT(second->clients(), ElementsAre(client));
     EXPECT_THAT(told.words(), ElementsAre("lost", "back", "lost", "back"));
+}
+
+// The first service stays the one that is known until the second has the client.
+TEST_F(BridgeRecovery, TellsOfNoLossWhileAnotherThreadRegistersTheClient) {
+    Service first;
+    EXPECT_EQ(recovery.recover(), TarnRecovery::RECOVERED);
+    first.kill();
+    Service second;
+    Gate gate;
+    second->atConnect = [&gate] { gate.pass(); };
+    BackgroundCall held([&] { EXPECT_EQ(recovery.recover(), TarnRecovery::RECOVERED); });
+    ASSERT_TRUE(eventually([&] { return gate.arrived(); }));
+    Told told;
+    const int before = first.pings();
+    EXPECT_EQ(recovery.start(&told, 1), 0);
+    // With the second look, the first one has been told of.
+    EXPECT_TRUE(eventually([&] { return first.pings() >= before + 2; }));
+    recovery.stop();
+    gate.open();
+    EXPECT_TRUE(eventually([&] { return held.returned(); }));
+    EXPECT_THAT(told.words(), IsEmpty());
 }
 
 TEST_F(BridgeRecovery, TakesAServiceOfItsOwnProcess) {
