@@ -11,6 +11,9 @@
 namespace tarn::simulator::bus {
 
 constexpr char kBoardName[] = "org.tarn.Board1";
+/** Had by the one tarn-board that starts now, until it has both its other names. */
+constexpr char kStartName[] = "org.tarn.Board1.Start";
+
 constexpr char kBoardPath[] = "/org/tarn/Board1";
 constexpr char kBoardInterface[] = "org.tarn.Board1";
 

@@ -9,7 +9,11 @@
 
 namespace tarn::simulator {
 
-ControlBus::ControlBus() : mConnection(bus::connectSessionBus()) {}
+ControlBus::ControlBus(std::function<void(EndCause)> ended)
+    : mConnection(bus::connectSessionBus()), mEnded(std::move(ended)) {
+    // Before the name is taken: who asks for the news later does not get what came in between.
+    watchName();
+}
 
 ControlBus::~ControlBus() {
     if (!mLoop.joinable()) return;
@@ -17,10 +21,8 @@ ControlBus::~ControlBus() {
     mLoop.join();
 }
 
-void ControlBus::serve(BoardControl& board, std::function<void(EndCause)> ended) {
-    mEnded = std::move(ended);
+void ControlBus::serve(BoardControl& board) {
     mObject = bus::offerBoard(*mConnection, board);
-    watchName();
     mLoop = std::thread([this] { run(); });
 }
 
@@ -29,7 +31,7 @@ void ControlBus::watchName() {
     mBus->uponSignal("NameLost")
             .onInterface("org.freedesktop.DBus")
             .call([this](const std::string& name) {
-                if (name == bus::kBoardName) mEnded(EndCause::kReplaced);
+                if (name == bus::kBoardName) mEnded(EndCause::kControlLost);
             });
     mBus->finishRegistration();
 }

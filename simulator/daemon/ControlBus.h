@@ -19,8 +19,11 @@ namespace tarn::simulator {
 /** The daemon's place on the session bus: its name, and the board's control under it. */
 class ControlBus {
   public:
-    /** Connects; throws bus::BusUnreachable. */
-    ControlBus();
+    /**
+     * Connects; throws bus::BusUnreachable. ended is called when the name or the bus is lost, from
+     * serve() on and of a loss before that as well.
+     */
+    explicit ControlBus(std::function<void(EndCause)> ended);
     ~ControlBus();
     ControlBus(const ControlBus&) = delete;
     ControlBus& operator=(const ControlBus&) = delete;
@@ -28,23 +31,23 @@ class ControlBus {
     /** The process that has the name now, 0 if none has it. */
     pid_t owner() { return bus::processOf(*mConnection, bus::kBoardName); }
 
+    /** The process whose turn it is to start, 0 if none starts. */
+    pid_t starter() { return bus::processOf(*mConnection, bus::kStartName); }
+
     /** Takes the name; calls to it wait until serve(). */
     bus::NameOutcome takeName(bool replace) {
         return bus::takeName(*mConnection, bus::kBoardName, replace);
     }
 
-    /**
-     * Offers the board's control, on a thread of its own. The board has to live longer; ended is
-     * called when the name or the bus is lost.
-     */
-    void serve(BoardControl& board, std::function<void(EndCause)> ended);
+    /** Offers the board's control, on a thread of its own. The board has to live longer. */
+    void serve(BoardControl& board);
 
   private:
     void watchName();
     void run();
 
     const std::unique_ptr<sdbus::IConnection> mConnection;
-    std::function<void(EndCause)> mEnded;
+    const std::function<void(EndCause)> mEnded;
     std::unique_ptr<sdbus::IProxy> mBus;
     std::unique_ptr<sdbus::IObject> mObject;
     std::thread mLoop;

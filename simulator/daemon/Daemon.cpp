@@ -14,6 +14,7 @@
 #include "simulator/BoardFiles.h"
 #include "simulator/control/LocalBoard.h"
 #include "simulator/daemon/ControlBus.h"
+#include "simulator/daemon/StartTurn.h"
 #include "simulator/daemon/TracedBoard.h"
 #include "simulator/description/BoardLoader.h"
 
@@ -102,6 +103,39 @@ void publish(const sp<SimulatedBoard>& board) {
     }
 }
 
+/** Takes both names, the control's first; a tarn-board that loses it knows of the other one. */
+void start(const sp<SimulatedBoard>& board, BoardControl* control, ControlBus* bus,
+           const std::shared_ptr<EndWatch>& watch, bool replace) {
+    const StartTurn turn;
+    if (!turn.mine()) {
+        throw Refusal(kAlreadyServed, "another tarn-board has been starting for " +
+                                              std::to_string(StartTurn::kLongest.count()) +
+                                              " seconds (" + processText(turn.holder()) + ")");
+    }
+    claim(bus, replace);
+    endWhenLost(watch);
+    publish(board);
+    bus->serve(*control);
+}
+
+/** Another process has one name or both: all is well if it is a tarn-board that takes both. */
+void endTakenOver(ControlBus* bus, bool quiet) {
+    const pid_t starter = bus->starter();
+    const bool starts = starter != 0 && starter != getpid();
+    const pid_t controller = bus->owner();
+    const pid_t server = processOf(IHwTarn::getService());
+    // One that starts takes the control first.
+    if (controller == getpid() || (!starts && server != controller && server != getpid())) {
+        throw Refusal(kAlreadyServed,
+                      "the hardware service was taken over by " + processText(server));
+    }
+    if (!starts && server != controller) {
+        throw Refusal(kAlreadyServed,
+                      "the board's control was taken over by " + processText(controller));
+    }
+    if (!quiet) say("another tarn-board took over (" + processText(controller) + ")");
+}
+
 int serve(const DaemonOptions& options) {
     // A thread of binder's may still tell of something when this has returned.
     const auto watch = std::make_shared<EndWatch>();
@@ -111,31 +145,23 @@ int serve(const DaemonOptions& options) {
         applySetting(control.get(), property, value);
     }
 
-    ControlBus bus;
-    claim(&bus, options.replace);
-    endWhenLost(watch);
-    publish(board);
-    bus.serve(*control, [&watch](EndCause cause) { watch->end(cause); });
+    ControlBus bus([watch](EndCause cause) { watch->end(cause); });
+    start(board, control.get(), &bus, watch, options.replace);
     if (!options.quiet) {
         say("serving board \"" + control->name() + "\" as " + IHwTarn::descriptor +
             " \"default\", process " + std::to_string(getpid()));
     }
-
     switch (watch->wait()) {
         case EndCause::kSignal:
             break;
-        case EndCause::kServiceLost: {
-            const pid_t server = processOf(IHwTarn::getService());
-            if (server == getpid()) throw Refusal(kNoBus, "the session bus went away");
-            // Another tarn-board takes both names; the news of either may come first.
-            if (bus.owner() == getpid()) {
-                throw Refusal(kAlreadyServed,
-                              "the hardware service was taken over by " + processText(server));
+        case EndCause::kServiceLost:
+            // Then it has the service, but for itself alone.
+            if (processOf(IHwTarn::getService()) == getpid()) {
+                throw Refusal(kNoBus, "the session bus went away");
             }
             [[fallthrough]];
-        }
-        case EndCause::kReplaced:
-            if (!options.quiet) say("another tarn-board took over");
+        case EndCause::kControlLost:
+            endTakenOver(&bus, options.quiet);
             break;
         case EndCause::kBusGone:
             throw Refusal(kNoBus, "the session bus went away");

@@ -8,7 +8,7 @@ enum DaemonExit : int {
     kEnded = 0,          // by a signal, or by another that took over
     kNotPublished = 1,   // the platform refuses it
     kUnusable = 2,       // the command line or the board's description
-    kAlreadyServed = 3,  // somebody serves already, or took over the service alone
+    kAlreadyServed = 3,  // somebody serves or starts already, or took over one half alone
     kNoBus = 4,          // there is no session bus, it went away, or the system lacks resources
 };
 

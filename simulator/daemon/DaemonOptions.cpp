@@ -97,7 +97,7 @@ Exit codes:
   0  ended by a signal, or replaced by another
   1  it can't be published
   2  the command line or the board's description can't be used
-  3  somebody serves already
+  3  somebody serves already, or took over the service or the control alone
   4  there is no session bus, it went away, or the system lacks resources
 )";
 

@@ -7,7 +7,7 @@ namespace tarn::simulator {
 /** Why a daemon stops serving. */
 enum class EndCause {
     kSignal,
-    kReplaced,     // another tarn-board has the control's name
+    kControlLost,  // another process has the control's name
     kServiceLost,  // another process is the hardware service, or the bus is lost to it
     kBusGone,
 };

@@ -43,6 +43,9 @@ using simulator::findServedBoard;
 using vendor::zunt::hwtarn::V1_0::IHwTarn;
 using vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
 
+constexpr char kBoardName[] = "org.tarn.Board1";
+constexpr char kStartName[] = "org.tarn.Board1.Start";
+
 constexpr char kDeadLine[] = "Error, hwInvoke failed, service is a DEAD_OBJECT.";
 constexpr char kNoServiceLine[] = "Error, hw_invoke failed, mHwTarnService null .";
 
@@ -250,10 +253,42 @@ TEST(BoardDaemon, TakesOverWhenToldTo) {
     BoardProcess first({"--set", "audio.volume=1"});
     const BoardProcess second({"--set", "audio.volume=2", "--replace"});
     EXPECT_EQ(0, first.wait());
-    EXPECT_NE(std::string::npos, first.restOfErrors().find("another tarn-board took over"));
+    EXPECT_THAT(first.restOfErrors(),
+                testing::EndsWith("tarn-board: another tarn-board took over (process " +
+                                  std::to_string(second.pid()) + ")\n"));
     EXPECT_EQ(2, volumeOf(application()));
     EXPECT_NE(nullptr, findServedBoard(second.pid()));
     EXPECT_EQ(nullptr, findServedBoard(first.pid()));
+}
+
+/** The process that is the hardware service; 0 if none is. */
+pid_t servingProcess() {
+    pid_t pid = 0;
+    if (const sp<IHwTarn> service = IHwTarn::getService()) {
+        service->getDebugInfo([&pid](const IHwTarn::DebugInfo& info) { pid = info.pid; });
+    }
+    return pid;
+}
+
+bool servesWhole(const Program& board) {
+    return findServedBoard(board.pid()) != nullptr && servingProcess() == board.pid();
+}
+
+TEST(BoardDaemon, StartedTwiceAtOnceLeavesOneWholeBoard) {
+    for (int round = 0; round < 20; round++) {
+        Program one(boardProgram(), {"--replace"});
+        Program other(boardProgram(), {"--replace"});
+        EXPECT_TRUE(eventually([&] { return one.ended() || other.ended(); }));
+        Program& loser = one.ended() ? one : other;
+        const Program& winner = one.ended() ? other : one;
+        EXPECT_EQ(0, loser.wait());
+        EXPECT_THAT(loser.restOfErrors(),
+                    testing::EndsWith("tarn-board: another tarn-board took over (process " +
+                                      std::to_string(winner.pid()) + ")\n"));
+        EXPECT_TRUE(eventually([&] { return servesWhole(winner); }));
+        EXPECT_FALSE(winner.ended());
+        if (testing::Test::HasFailure()) return;
+    }
 }
 
 /** Where the hardware service's calls go, as the bus knows it. */
@@ -316,6 +351,77 @@ TEST(BoardDaemon, EndsWhenAnotherProcessBecomesTheService) {
                       "tarn-board: the hardware service was taken over by process " +
                       std::to_string(getpid()) + "\n"));
     EXPECT_EQ(nullptr, findServedBoard());
+}
+
+/** What takes the name of a board's control from whoever has it. */
+class ControlThief {
+  public:
+    bool find() {
+        bool owned = false;
+        mBus->callMethod("NameHasOwner")
+                .onInterface(kBus)
+                .withArguments(kBoardName)
+                .storeResultsTo(owned);
+        return owned;
+    }
+
+    void take() {
+        constexpr uint32_t kReplaceExisting = 2;
+        constexpr uint32_t kPrimaryOwner = 1;
+        uint32_t outcome = 0;
+        mBus->callMethod("RequestName")
+                .onInterface(kBus)
+                .withArguments(kBoardName, kReplaceExisting)
+                .storeResultsTo(outcome);
+        EXPECT_EQ(kPrimaryOwner, outcome);
+    }
+
+    void drop() { mConnection->releaseName(kBoardName); }
+
+  private:
+    static constexpr char kBus[] = "org.freedesktop.DBus";
+
+    const std::unique_ptr<sdbus::IConnection> mConnection = sdbus::createSessionBusConnection();
+    const std::unique_ptr<sdbus::IProxy> mBus = sdbus::createProxy(*mConnection, kBus, "/");
+};
+
+TEST(BoardDaemon, EndsWhenAnotherProcessTakesItsControl) {
+    BoardProcess board;
+    ControlThief thief;
+    thief.take();
+    EXPECT_EQ(3, board.wait());
+    EXPECT_EQ("tarn-board: the board's control was taken over by process " +
+                      std::to_string(getpid()) + "\n",
+              board.restOfErrors());
+    EXPECT_EQ(-1, application()->isTarnReady());
+}
+
+TEST(BoardDaemon, EndsWhenItsControlIsTakenWhileItStarts) {
+    ControlThief thief;
+    for (int round = 0; round < 10; round++) {
+        Program board(boardProgram(), {});
+        EXPECT_TRUE(eventually([&] { return thief.find(); }));
+        thief.take();
+        EXPECT_EQ(3, board.wait());
+        EXPECT_THAT(board.restOfErrors(),
+                    testing::EndsWith("tarn-board: the board's control was taken over by process " +
+                                      std::to_string(getpid()) + "\n"));
+        thief.drop();
+        if (testing::Test::HasFailure()) return;
+    }
+}
+
+TEST(BoardDaemon, GivesUpWhereAnotherOneDoesNotGetDoneWithItsStart) {
+    const auto connection = sdbus::createSessionBusConnection();
+    connection->requestName(kStartName);
+    const Outcome outcome = runBoard({"--replace"});
+    EXPECT_EQ(3, outcome.code);
+    EXPECT_EQ("tarn-board: another tarn-board has been starting for 10 seconds (process " +
+                      std::to_string(getpid()) + ")\n",
+              outcome.errors);
+    connection->releaseName(kStartName);
+    const BoardProcess board({"--replace"});
+    EXPECT_TRUE(servesWhole(board));
 }
 
 TEST(BoardDaemon, IsFoundByAnApplicationThatStartedBefore) {
@@ -475,7 +581,6 @@ TEST(BoardDaemon, ServesFourClientsAtOnce) {
     for (const auto& client : clients) EXPECT_EQ("0", client->readLine());
 }
 
-constexpr char kBoardName[] = "org.tarn.Board1";
 constexpr char kBoardPath[] = "/org/tarn/Board1";
 constexpr char kBoardInterface[] = "org.tarn.Board1";
 constexpr char kRefusedError[] = "org.tarn.Board1.Error.Refused";

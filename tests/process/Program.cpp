@@ -153,6 +153,13 @@ void Program::drain() {
     mErrors.fill(0);
 }
 
+bool Program::ended() const {
+    if (mReaped) return true;
+    siginfo_t info{};
+    return waitid(P_PID, static_cast<id_t>(mPid), &info, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+           info.si_pid == mPid;
+}
+
 int Program::wait() {
     if (mReaped) return mExitCode;
     int status = 0;

@@ -33,6 +33,9 @@ class Program {
     /** Sends it a signal, unless wait() has seen its end. */
     void signal(int number) const;
 
+    /** Whether it has ended; wait() tells how. */
+    bool ended() const;
+
     /**
      * Waits until it ends by itself and returns its exit code, minus the signal's number if one
      * ended it. The test fails if it does not end.
