@@ -29,6 +29,7 @@ test-arm32:
 # Works for MINUTES while the board restarts, then kills it a hundred times.
 MINUTES ?= 10
 soak:
+	@scripts/check-arguments soak '$(MINUTES)'
 	$(call build,soak_tests,packages.txt packages-test.txt)
 	@TARN_SOAK_MINUTES=$(MINUTES) ctest --test-dir $(BUILD) --verbose --no-tests=error --timeout 100000 -R '^(SoakTest|KillTest)$$'
 
@@ -36,6 +37,7 @@ soak:
 SECONDS ?= 10
 FUZZERS ?=
 fuzz:
+	@scripts/check-arguments fuzz '$(SECONDS)' $(FUZZERS)
 	@scripts/install-packages packages.txt packages-fuzz.txt
 	@scripts/fuzz build-fuzz $(SECONDS) $(FUZZERS)
 

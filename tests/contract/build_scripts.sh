@@ -7,7 +7,7 @@ rm -rf "$folder"
 mkdir -p "$folder/bin"
 cd "$folder" || exit 1
 export FOLDER=$folder PATH=$folder/bin:$PATH
-unset CXX CXXFLAGS LDFLAGS CMAKE_BUILD_TYPE
+unset MAKEFLAGS MAKELEVEL CXX CXXFLAGS LDFLAGS CMAKE_BUILD_TYPE
 build=$folder/build
 failed=0
 
@@ -132,4 +132,40 @@ ninja: build stopped: subcommand failed.
 $build: these could not be made:
     two.o
 END
+
+# says COMPLAINT TARGET ARGUMENT...: they are refused with this line; without one they are accepted
+says() {
+    local complaint=$1
+    shift
+    if "$scripts/check-arguments" "$@" >output 2>&1; then
+        [ -z "$complaint" ] || fail "check-arguments $* is accepted"
+    fi
+    [ "$(cat output)" = "$complaint" ] || fail "check-arguments $* says '$(cat output)'"
+}
+for minutes in 10 0.5 00.25 10000 1; do says '' soak "$minutes"; done
+for minutes in abc 0 0.0 10000.1 -1 1e3 '' '1 2' .5 inf 99999 $'1\n2'; do
+    says "make soak: MINUTES=$minutes can't be used; accepted: a number above 0, up to 10000, \
+such as 10 or 0.5" soak "$minutes"
+done
+for seconds in 1 10 999999; do says '' fuzz "$seconds"; done
+for seconds in abc 0 01 1.5 -1 '' 1000000 $'1\n2'; do
+    says "make fuzz: SECONDS=$seconds can't be used; accepted: a whole number from 1 to 999999" \
+        fuzz "$seconds"
+done
+fuzzers='board bus_values carrier_messages carrier_queue carrier_tables description layouts methods'
+fuzzers+=' parcel properties stubs tarnctl'
+says '' fuzz 10 parcel stubs
+for fuzzer in parcels PARCEL par '.*' -v; do
+    says "make fuzz: FUZZERS: there is no fuzzer $fuzzer; accepted: $fuzzers" fuzz 10 parcel "$fuzzer"
+done
+
+# runs_first COMMAND TARGET ARGUMENT...: what make runs first
+runs_first() {
+    local command=$1
+    shift
+    [ "$(make -n --no-print-directory -C "$scripts/.." "$@" 2>/dev/null | head -1)" = "$command" ] ||
+        fail "make $* does not begin with $command"
+}
+runs_first "scripts/check-arguments soak '0'" soak MINUTES=0
+runs_first "scripts/check-arguments fuzz 'abc' parcel stubs" fuzz SECONDS=abc FUZZERS='parcel stubs'
 exit $failed
