@@ -55,6 +55,7 @@ std::optional<BoardEvent> EventCollector::next() {
     if (mEvents.empty()) return std::nullopt;
     BoardEvent event = std::move(mEvents.front());
     mEvents.pop_front();
+    event.leftOut = std::exchange(mLeftOut, 0);
     return event;
 }
 
@@ -69,13 +70,17 @@ int EventCollector::changes() const {
 }
 
 void EventCollector::notify(unsigned int msgType, int, int, const android::Parcel* data) {
-    BoardEvent event{msgType, {}};
+    BoardEvent event;
+    event.type = msgType;
     if (data->dataSize() > 0) {
         event.data.assign(data->data(), data->data() + data->dataSize());
     }
     {
         std::lock_guard<std::mutex> guard(mLock);
-        if (mEvents.size() == kMostEvents) mEvents.pop_front();
+        if (mEvents.size() == kMostEvents) {
+            mEvents.pop_front();
+            mLeftOut++;
+        }
         mEvents.push_back(std::move(event));
     }
     mWakeup.signal();

@@ -20,11 +20,13 @@ namespace tarnctl {
 
 /** One event of the board. */
 struct BoardEvent {
-    uint32_t type;
+    uint32_t type = 0;
     std::vector<uint8_t> data;
+    uint64_t leftOut = 0;  // how many before it nobody took in time
 };
 
-/** Collects the board's events, the latest ones if nobody takes them. Any thread may call. */
+/** Collects the board's events, the latest kMostEvents if nobody takes them. Any thread may call.
+ */
 class EventCollector : public ITarnListener,
                        public android::ITarnRecoveryListener,
                        public android::hardware::hidl_death_recipient {
@@ -64,6 +66,7 @@ class EventCollector : public ITarnListener,
     android::sp<vendor::zunt::hwtarn::V1_0::IHwTarn> mService;
     mutable std::mutex mLock;
     std::deque<BoardEvent> mEvents;
+    uint64_t mLeftOut = 0;  // before the first of these
     bool mServiceDied = false;
     int mChanges = 0;
     std::unique_ptr<android::TarnRecovery> mRecovery;  // null unless it reconnects

@@ -18,6 +18,7 @@ void print(Context& context, const BoardEvent& event) {
         json["type"] = event.type;
         json["size"] = static_cast<Json::UInt>(event.data.size());
         json["data"] = ::tarn::values::hexWords(event.data);
+        if (event.leftOut > 0) json["leftOut"] = Json::UInt64{event.leftOut};
         context.output.result(json);
     } else {
         const std::string data =
@@ -44,13 +45,35 @@ void tellChanges(Context& context, const EventCollector& events, int* told) {
     }
 }
 
+/** Says at a monitor's end, whatever ends it, how many events are missing among the printed. */
+class LeftOut {
+  public:
+    explicit LeftOut(const Diagnostics& diagnostics) : mDiagnostics(diagnostics) {}
+    LeftOut(const LeftOut&) = delete;
+    LeftOut& operator=(const LeftOut&) = delete;
+    ~LeftOut() {
+        if (mCount == 0) return;
+        mDiagnostics.note(std::to_string(mCount) +
+                          (mCount == 1 ? " event was left out: " : " events were left out: ") +
+                          "more than " + std::to_string(EventCollector::kMostEvents) + " waited");
+    }
+
+    void add(uint64_t count) { mCount += count; }
+
+  private:
+    const Diagnostics& mDiagnostics;
+    uint64_t mCount = 0;
+};
+
 int watch(Context& context, EventCollector& events, const EndSignals& signals) {
+    LeftOut leftOut(context.diagnostics);
     std::optional<Clock::time_point> deadline;
     if (context.options.timeout) deadline = Clock::now() + *context.options.timeout;
     int32_t seen = 0;
     int told = 0;
     while (signals.received() == 0) {
         if (const std::optional<BoardEvent> event = events.next()) {
+            leftOut.add(event->leftOut);
             print(context, *event);
             if (++seen == context.options.count) return kDone;
             continue;
@@ -83,7 +106,9 @@ int runMonitor(Context& context, const Arguments& arguments) {
 const Verb kMonitorVerb = {
         "monitor", "[--count N] [--reconnect]", "print events as they come",
         R"(Prints an event a line: its type, the number of its bytes as a listener gets them, which
-is filled up to whole words, and the words; with --json an object a line.
+is filled up to whole words, and the words; with --json an object a line. Of events that
+nobody takes the latest 10000 are kept: how many were left out is said at the end, and with
+--json it stands as leftOut in the event that follows them.
 
 Ends on SIGINT and SIGTERM, after --count events, or after --timeout seconds. With --count
 fewer events are an error: the exit code is 4 when the time is over, 130 on SIGINT and 143 on
