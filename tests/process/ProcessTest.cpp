@@ -1,11 +1,8 @@
 #include "tests/process/ProcessTest.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <signal.h>
-#include <spawn.h>
-#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -18,7 +15,7 @@
 #include <stdexcept>
 #include <system_error>
 
-extern char** environ;
+#include "tests/process/Spawn.h"
 
 namespace tarn::test {
 
@@ -29,33 +26,6 @@ constexpr char kChildMark[] = "--child";
 std::map<std::string, ChildBody>& bodies() {
     static std::map<std::string, ChildBody> all;
     return all;
-}
-
-struct Pipe {
-    Pipe() {
-        int ends[2];
-        if (pipe2(ends, O_CLOEXEC) != 0) throw std::system_error(errno, std::generic_category());
-        read = ends[0];
-        write = ends[1];
-    }
-    int read;
-    int write;
-};
-
-// Starts a program whose input and output are these; all else stays open only in this process.
-pid_t spawn(const std::vector<std::string>& command, int input, int output) {
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    if (input >= 0) posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
-    if (output >= 0) posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
-    std::vector<char*> argv;
-    for (const std::string& word : command) argv.push_back(const_cast<char*>(word.c_str()));
-    argv.push_back(nullptr);
-    pid_t pid = -1;
-    const int error = posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ);
-    posix_spawn_file_actions_destroy(&actions);
-    if (error != 0) throw std::system_error(error, std::generic_category(), command[0]);
-    return pid;
 }
 
 std::string readLineFrom(int descriptor, std::string* unread) {
@@ -123,7 +93,7 @@ PrivateBus::PrivateBus() {
     const Pipe pipe;
     mPid = spawn({"dbus-daemon", "--config-file=" + mDirectory + "/bus.conf", "--nofork",
                   "--nopidfile", "--print-address"},
-                 -1, pipe.write);
+                 environmentHere(), {-1, pipe.write, -1});
     close(pipe.write);
     std::string unread;
     mAddress = readLineFrom(pipe.read, &unread);
@@ -165,7 +135,7 @@ Child::Child(const std::string& role, const std::vector<std::string>& arguments)
     std::vector<std::string> command = {self == nullptr ? "/proc/self/exe" : self, kChildMark,
                                         role};
     command.insert(command.end(), arguments.begin(), arguments.end());
-    mPid = spawn(command, input.read, output.write);
+    mPid = spawn(command, environmentHere(), {input.read, output.write, -1});
     close(input.read);
     close(output.write);
     mInput = input.write;
@@ -258,8 +228,6 @@ int main(int argc, char** argv) {
     signal(SIGPIPE, SIG_IGN);
     const std::vector<std::string> words(argv + 1, argv + argc);
     if (words.size() >= 2 && words[0] == tarn::test::kChildMark) {
-        // A child does not outlive a test that crashed.
-        prctl(PR_SET_PDEATHSIG, SIGKILL);
         return bodies().at(words[1])({words.begin() + 2, words.end()});
     }
     testing::InitGoogleTest(&argc, argv);

@@ -23,6 +23,7 @@ class PrivateBus {
     PrivateBus& operator=(const PrivateBus&) = delete;
 
     const std::string& address() const { return mAddress; }
+    pid_t pid() const { return mPid; }
 
     /** Kills the bus, as a crash would. */
     void kill();

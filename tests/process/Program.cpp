@@ -4,17 +4,14 @@
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <signal.h>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <chrono>
-#include <system_error>
 
 #include "tests/process/ProcessTest.h"
-
-extern char** environ;
+#include "tests/process/Spawn.h"
 
 namespace tarn::test {
 
@@ -30,8 +27,7 @@ int millisecondsUntil(Clock::time_point deadline) {
 
 std::vector<std::string> variables(const Program::Environment& changes) {
     std::vector<std::string> all;
-    for (char** variable = environ; *variable != nullptr; variable++) {
-        const std::string text = *variable;
+    for (const std::string& text : environmentHere()) {
         if (changes.count(text.substr(0, text.find('='))) == 0) all.push_back(text);
     }
     for (const auto& [name, value] : changes) {
@@ -40,43 +36,21 @@ std::vector<std::string> variables(const Program::Environment& changes) {
     return all;
 }
 
-std::vector<char*> pointers(const std::vector<std::string>& texts) {
-    std::vector<char*> all;
-    for (const std::string& text : texts) all.push_back(const_cast<char*>(text.c_str()));
-    all.push_back(nullptr);
-    return all;
-}
-
-void openPipe(int* readEnd, int* writeEnd) {
-    int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0) throw std::system_error(errno, std::generic_category());
-    *readEnd = ends[0];
-    *writeEnd = ends[1];
-}
-
 }  // namespace
 
 Program::Program(const std::string& path, const std::vector<std::string>& arguments,
                  const Environment& environment) {
-    int output = -1;
-    int errors = -1;
-    openPipe(&mOutput.descriptor, &output);
-    openPipe(&mErrors.descriptor, &errors);
+    const Pipe output;
+    const Pipe errors;
+    mOutput.descriptor = output.read;
+    mErrors.descriptor = errors.read;
     std::vector<std::string> words = {path};
     words.insert(words.end(), arguments.begin(), arguments.end());
-    const std::vector<std::string> environmentTexts = variables(environment);
-
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, errors, STDERR_FILENO);
-    const int error = posix_spawn(&mPid, path.c_str(), &actions, nullptr, pointers(words).data(),
-                                  pointers(environmentTexts).data());
-    posix_spawn_file_actions_destroy(&actions);
-    close(output);
-    close(errors);
-    if (error != 0) throw std::system_error(error, std::generic_category(), path);
+    const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    mPid = spawn(words, variables(environment), {nothing, output.write, errors.write});
+    close(nothing);
+    close(output.write);
+    close(errors.write);
 }
 
 Program::~Program() {

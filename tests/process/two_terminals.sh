@@ -2,13 +2,17 @@
 # The session of docs/two-terminals.md goes as printed. Usage: two_terminals.sh PROGRAMS DOCUMENT
 set -u
 document=$(readlink -f "$2")
-if [ "${3-}" != on-a-bus ]; then
-    exec dbus-run-session -- "$0" "$1" "$document" on-a-bus
-fi
 PATH=$1:$PATH
 directory=$(mktemp -d)
 trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$directory"' EXIT
 cd "$directory" || exit 1
+
+# What it starts ends with it, also when it is killed.
+bound() { exec setpriv --pdeathsig KILL "$@"; }
+mkfifo address
+bound dbus-daemon --session --nofork --nopidfile --print-address >address &
+read -r DBUS_SESSION_BUS_ADDRESS <address || { echo 'FAILED: no bus'; exit 1; }
+export DBUS_SESSION_BUS_ADDRESS
 
 # block HEADING: the first transcript under it
 block() { sed -n "/^## $1/,/^## /p" "$document" | sed -n '/^```$/,/^```$/p' | sed '/^```$/d'; }
@@ -28,10 +32,10 @@ block 'The first terminal' >first
 block 'The second terminal' >second
 [ "$(grep -c '^\$ ' second)" -gt 10 ] || { echo 'FAILED: hardly a command found'; exit 1; }
 
-tarn-board 2>board.log &
+bound tarn-board 2>board.log &
 board=$!
 waitfor "$(sed -n "2s/4711/$board/p" first)" board.log
-tarnctl monitor >monitor.log 2>&1 &
+bound tarnctl monitor >monitor.log 2>&1 &
 monitor=$!
 waitfor 'tarnctl: waiting for events' monitor.log
 
