@@ -6,6 +6,7 @@
 #include <unistd.h>
 #include <utils/Errors.h>
 
+#include <chrono>
 #include <cstdio>
 #include <string>
 #include <system_error>
@@ -27,6 +28,11 @@ namespace {
 
 /** A command that a fault delays keeps its thread, so there are more than a client or two need. */
 constexpr size_t kThreads = 16;
+
+/** How long a tarn-board may take to start before the next one gives up, and how often that looks.
+ */
+constexpr std::chrono::seconds kLongestStart{10};
+constexpr std::chrono::milliseconds kTurnPeriod{10};
 
 /** Ends the daemon with an exit code and a line on standard error. */
 class Refusal : public std::runtime_error {
@@ -103,19 +109,33 @@ void publish(const sp<SimulatedBoard>& board) {
     }
 }
 
-/** Takes both names, the control's first; a tarn-board that loses it knows of the other one. */
-void start(const sp<SimulatedBoard>& board, BoardControl* control, ControlBus* bus,
-           const std::shared_ptr<EndWatch>& watch, bool replace) {
-    const StartTurn turn;
-    if (!turn.mine()) {
-        throw Refusal(kAlreadyServed, "another tarn-board has been starting for " +
-                                              std::to_string(StartTurn::kLongest.count()) +
-                                              " seconds (" + processText(turn.holder()) + ")");
+/** Waits for the turn to start; false if the daemon is told to end before. */
+bool waitForTurn(StartTurn* turn, const EndWatch& watch) {
+    const auto deadline = std::chrono::steady_clock::now() + kLongestStart;
+    while (!turn->take()) {
+        if (std::chrono::steady_clock::now() >= deadline) {
+            throw Refusal(kAlreadyServed, "another tarn-board has been starting for " +
+                                                  std::to_string(kLongestStart.count()) +
+                                                  " seconds (" + processText(turn->holder()) + ")");
+        }
+        if (watch.comesWithin(kTurnPeriod)) return false;
     }
+    return true;
+}
+
+/**
+ * Takes both names, the control's first: a tarn-board that loses it knows that the other one
+ * follows. False if the daemon is told to end before.
+ */
+bool start(const sp<SimulatedBoard>& board, BoardControl* control, ControlBus* bus,
+           const std::shared_ptr<EndWatch>& watch, bool replace) {
+    StartTurn turn;
+    if (!waitForTurn(&turn, *watch)) return false;
     claim(bus, replace);
     endWhenLost(watch);
     publish(board);
     bus->serve(*control);
+    return true;
 }
 
 /** Another process has one name or both: all is well if it is a tarn-board that takes both. */
@@ -146,7 +166,7 @@ int serve(const DaemonOptions& options) {
     }
 
     ControlBus bus([watch](EndCause cause) { watch->end(cause); });
-    start(board, control.get(), &bus, watch, options.replace);
+    if (!start(board, control.get(), &bus, watch, options.replace)) return kEnded;
     if (!options.quiet) {
         say("serving board \"" + control->name() + "\" as " + IHwTarn::descriptor +
             " \"default\", process " + std::to_string(getpid()));

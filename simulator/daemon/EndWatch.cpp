@@ -38,4 +38,12 @@ EndCause EndWatch::wait() const {
     return mCause;
 }
 
+bool EndWatch::comesWithin(std::chrono::milliseconds time) const {
+    const sigset_t signals = endSignals();
+    const std::chrono::nanoseconds nanoseconds = time % std::chrono::seconds(1);
+    const timespec longest{static_cast<time_t>(time / std::chrono::seconds(1)),
+                           static_cast<long>(nanoseconds.count())};
+    return sigtimedwait(&signals, nullptr, &longest) != -1;
+}
+
 }  // namespace tarn::simulator

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 
 namespace tarn::simulator {
 
@@ -25,6 +26,9 @@ class EndWatch {
     void end(EndCause cause);
 
     EndCause wait() const;
+
+    /** Waits so long at most; whether the end came. */
+    bool comesWithin(std::chrono::milliseconds time) const;
 
   private:
     std::atomic<EndCause> mCause{EndCause::kSignal};

@@ -3,35 +3,33 @@
 #include <sdbus-c++/IConnection.h>
 #include <sys/types.h>
 
-#include <chrono>
 #include <memory>
+
+#include "simulator/control/BoardInterface.h"
+#include "simulator/control/BusConnection.h"
 
 namespace tarn::simulator {
 
 /**
- * The turn to start, for as long as this lives. Of several tarn-boards that start at the same time
- * one after the other takes the control's name and then the service's; else each could end with one
- * of the two.
+ * The turn to start, from take() on for as long as this lives. Of several tarn-boards that start at
+ * the same time one after the other takes the control's name and then the service's; else each
+ * could end with one of the two.
  */
 class StartTurn {
   public:
-    /** How long a start may take before the next one gives up. */
-    static constexpr std::chrono::seconds kLongest{10};
+    /** Connects; throws bus::BusUnreachable, as the others do. */
+    StartTurn() : mConnection(bus::connectSessionBus()) {}
 
-    /** Waits for it. Throws bus::BusUnreachable. */
-    StartTurn();
-    StartTurn(const StartTurn&) = delete;
-    StartTurn& operator=(const StartTurn&) = delete;
+    /** False, for now, if another process has it. */
+    bool take() {
+        return bus::takeName(*mConnection, bus::kStartName, false) != bus::NameOutcome::kRefused;
+    }
 
-    /** False if another process kept it too long. */
-    bool mine() const { return mMine; }
-
-    /** The process that has the turn now, 0 if none has it. */
-    pid_t holder() const;
+    /** The process that has the turn, 0 if none has it. */
+    pid_t holder() { return bus::processOf(*mConnection, bus::kStartName); }
 
   private:
     const std::unique_ptr<sdbus::IConnection> mConnection;
-    bool mMine = false;
 };
 
 }  // namespace tarn::simulator

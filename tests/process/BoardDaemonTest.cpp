@@ -8,6 +8,7 @@
 #include <utils/StrongPointer.h>
 #include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <filesystem>
@@ -422,6 +423,36 @@ TEST(BoardDaemon, GivesUpWhereAnotherOneDoesNotGetDoneWithItsStart) {
     connection->releaseName(kStartName);
     const BoardProcess board({"--replace"});
     EXPECT_TRUE(servesWhole(board));
+}
+
+/** Whether a process has a connection to the bus. */
+bool isOnTheBus(sdbus::IProxy& bus, pid_t process) {
+    constexpr char kBus[] = "org.freedesktop.DBus";
+    std::vector<std::string> names;
+    bus.callMethod("ListNames").onInterface(kBus).storeResultsTo(names);
+    return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+        uint32_t owner = 0;
+        try {
+            bus.callMethod("GetConnectionUnixProcessID")
+                    .onInterface(kBus)
+                    .withArguments(name)
+                    .storeResultsTo(owner);
+        } catch (const sdbus::Error& gone) {
+        }
+        return static_cast<pid_t>(owner) == process;
+    });
+}
+
+TEST(BoardDaemon, EndsOnASignalWhileItWaitsForAnotherOnesStart) {
+    const auto connection = sdbus::createSessionBusConnection();
+    connection->requestName(kStartName);
+    Program board(boardProgram(), {});
+    const auto bus = sdbus::createProxy(*connection, "org.freedesktop.DBus", "/");
+    // From before it connects, it keeps the signal for when it looks.
+    ASSERT_TRUE(eventually([&] { return isOnTheBus(*bus, board.pid()); }));
+    board.signal(SIGTERM);
+    EXPECT_EQ(0, board.wait());
+    EXPECT_EQ("", board.restOfErrors());
 }
 
 TEST(BoardDaemon, IsFoundByAnApplicationThatStartedBefore) {
