@@ -5,22 +5,23 @@
 #include <optional>
 #include <utility>
 
+#include "BusName.h"
 #include "MessageFormat.h"
 
 namespace android::host::dbus {
 
 namespace {
 
-constexpr char kBusName[] = "org.freedesktop.DBus";
 constexpr char kBusPath[] = "/org/freedesktop/DBus";
 
 }  // namespace
 
 BusDaemon::BusDaemon(BusLink& link)
-    : mLink(link), mDestination(std::make_shared<BusLink::Destination>(link, kBusName, kBusPath)) {}
+    : mLink(link),
+      mDestination(std::make_shared<BusLink::Destination>(link, kBusDaemon, kBusPath)) {}
 
 sdbus::MethodCall BusDaemon::newCall(const char* method) {
-    return mLink.newCall(*mDestination, kBusName, method);
+    return mLink.newCall(*mDestination, kBusDaemon, method);
 }
 
 bool BusDaemon::call(const sdbus::MethodCall& call, std::chrono::microseconds timeout,

@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "BusConnection.h"
+#include "BusName.h"
 #include "MessageFormat.h"
 
 namespace android::host::dbus {
@@ -38,11 +39,19 @@ thread_local const BusLink* gServedLink = nullptr;
 }  // namespace
 
 BusLink::Destination::Destination(BusLink& link, const std::string& name, const char* path)
-    : mLink(link), mProxy(sdbus::createProxy(*link.mConnection, name, path)) {}
+    : mLink(link), mName(name), mProxy(sdbus::createProxy(*link.mConnection, name, path)) {}
 
 BusLink::Destination::~Destination() {
     std::lock_guard<std::mutex> lock(mLink.mLock);
     mProxy.reset();
+}
+
+// The bus passes on replies that nobody asked for, and the numbers of calls can be guessed. The bus
+// itself answers for those that are gone. Behind a service's name there may be any process.
+bool BusLink::Destination::isAnswer(const sdbus::Message& reply, bool isError) const {
+    const std::string sender = reply.getSender();
+    if (sender == mName || (isError && sender == kBusDaemon)) return true;
+    return mName != kBusDaemon && !isUniqueName(mName);
 }
 
 BusLink::BusLink(const std::string& address)
@@ -248,6 +257,10 @@ bool BusLink::call(const std::shared_ptr<Destination>& destination, const sdbus:
                 [this, pending](sdbus::MethodReply& reply, const sdbus::Error* error) {
                     auto failure =
                             error != nullptr ? std::make_shared<sdbus::Error>(*error) : nullptr;
+                    if (!pending->destination->isAnswer(reply, error != nullptr)) {
+                        failure = std::make_shared<sdbus::Error>(
+                                kForged, "The answer is of another process");
+                    }
                     mInbox.emplace_back([this, pending, reply, failure]() mutable {
                         finish(pending, reply, failure.get());
                     });

@@ -50,11 +50,17 @@ class BusLink {
 
       private:
         friend class BusLink;
+        bool isAnswer(const sdbus::Message& reply, bool isError) const;
+
         BusLink& mLink;
+        const std::string mName;
         std::unique_ptr<sdbus::IProxy> mProxy;
     };
 
-    /** Called when a call has ended, with its reply or with an error (then not null). */
+    /**
+     * Called when a call has ended, with its reply or with an error (then not null). A reply of
+     * another process than the one that was called is an error.
+     */
     using AnswerHandler = std::function<void(sdbus::MethodReply&, const sdbus::Error*)>;
 
     static constexpr std::chrono::microseconds kForever = std::chrono::microseconds::max();

@@ -5,6 +5,9 @@
 
 namespace android::host::dbus {
 
+/** The bus itself. */
+inline constexpr char kBusDaemon[] = "org.freedesktop.DBus";
+
 /** The prefix of every service's bus name. */
 inline constexpr char kServicePrefix[] = "tarn.binder.name_";
 

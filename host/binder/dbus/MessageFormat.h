@@ -31,6 +31,9 @@ inline constexpr char kExhausted[] = "tarn.binder.Error.Exhausted";
 inline constexpr char kOverloaded[] = "tarn.binder.Error.Overloaded";
 inline constexpr char kUnanswered[] = "tarn.binder.Error.Unanswered";
 
+/** Never sent: what a call ends with that another process answers than the one that was called. */
+inline constexpr char kForged[] = "tarn.binder.Error.Forged";
+
 /** The most bytes and objects of one request or reply. */
 inline constexpr size_t kMaxTransactionSize = 16 * 1024 * 1024;
 inline constexpr size_t kMaxReferences = 4096;
