@@ -111,7 +111,7 @@ class Session {
         call->object = mInput.choice(kObjects);
         call->code = mNext;
         call->request.bytes.resize(mInput.byte() * size_t{64});
-        check(CallQueue::admit(*call), "a call is not admitted");
+        check(CallQueue::admit(*call, call->request.bytes.size(), 0), "a call is not admitted");
         mWaiting.push_back({mNext++, peer.get(), gOneWay, call->object});
         mQueue.add(std::move(call));
     }

@@ -13,9 +13,11 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdlib>
 #include <functional>
 #include <future>
+#include <map>
 #include <numeric>
 #include <thread>
 
@@ -98,17 +100,24 @@ CHILD(full) {
     return serveUntilClosed();
 }
 
-// A desk that answers nobody until it is told to, and then one call at a time. Until then it says,
-// when asked, how many calls wait, and how many of its questions.
+// A desk that answers nobody until it is told to, and then one call at a time. It says, when asked,
+// how many calls wait, how many of its questions, and how many proxies and processes it knows.
 CHILD(late) {
     android::defaultServiceManager()->addService(String16(arguments[0].c_str()), new Desk);
     tell("ready");
-    for (std::string word = listen(); word != "serve"; word = listen()) {
+    for (std::string word = listen(); !word.empty(); word = listen()) {
         const Counts counts = countsHere();
-        tell(std::to_string(word == "waiting" ? counts.waiting : counts.questions));
+        if (word == "serve") {
+            std::thread([] { android::IPCThreadState::self()->joinThreadPool(); }).detach();
+            tell("ready");
+        } else {
+            tell(std::to_string(word == "waiting"     ? counts.waiting
+                                : word == "questions" ? counts.questions
+                                : word == "proxies"   ? counts.proxies
+                                                      : counts.peers));
+        }
     }
-    std::thread([] { android::IPCThreadState::self()->joinThreadPool(); }).detach();
-    return serveUntilClosed();
+    return 0;
 }
 
 using Fill = std::function<void(sdbus::Message&)>;
@@ -546,6 +555,19 @@ class HostileToLate : public testing::Test {
         return eventually([&] { return count("waiting") == mTasks + calls; });
     }
 
+    // Has the desk read what is sent only when the bus stands still.
+    void holdBack(const std::function<void()>& send) {
+        kill(mProcess.pid(), SIGSTOP);
+        send();
+        // Once it has answered some questions, the bus has passed it on.
+        for (int i = 0; i < 10; i++) {
+            mRogue.connection().requestName(kRogueBusName);
+            mRogue.connection().releaseName(kRogueBusName);
+        }
+        theBus().pause();
+        kill(mProcess.pid(), SIGCONT);
+    }
+
     void serve() {
         mProcess.writeLine("serve");
         EXPECT_EQ("ready", mProcess.readLine());
@@ -586,23 +608,54 @@ TEST_F(HostileToLate, CallersAreServedInTurn) {
 }
 
 TEST_F(HostileToLate, OwnersThatThereNeverWereAreAskedForTogether) {
-    // The bus stands still before the desk reads.
-    kill(mProcess.pid(), SIGSTOP);
-    mRogue.sendMany(1, kTransact, [this](sdbus::Message& m, int) {
-        m << mNumber << uint32_t{Desk::KEEP} << uint32_t{0};
-        write(m, inventedReferences(0));
+    holdBack([this] {
+        mRogue.sendMany(1, kTransact, [this](sdbus::Message& m, int) {
+            m << mNumber << uint32_t{Desk::KEEP} << uint32_t{0};
+            write(m, inventedReferences(0));
+        });
     });
-    // Once it has answered some questions, the bus has passed it on.
-    for (int i = 0; i < 10; i++) {
-        mRogue.connection().requestName(kRogueBusName);
-        mRogue.connection().releaseName(kRogueBusName);
-    }
-    theBus().pause();
-    kill(mProcess.pid(), SIGCONT);
     EXPECT_TRUE(waiting(1));
     EXPECT_LE(count("questions"), 2);
     theBus().resume();
     serve();
+    EXPECT_TRUE(
+            eventually([this] { return mDesk.drop() == NO_ERROR && mDesk.counts().proxies == 0; }));
+    EXPECT_EQ(2, mDesk.counts().peers);
+}
+
+TEST_F(HostileToLate, NobodyIsAskedForWhatIsRefused) {
+    const auto invented = [](uint64_t object) {
+        return [object](sdbus::Message& m, int) {
+            m << object << uint32_t{Desk::KEEP} << uint32_t{0};
+            write(m, inventedReferences(0));
+        };
+    };
+    holdBack([&] {
+        mRogue.sendMany(1, kTransact, invented(mNumber + 2));
+        mRogue.sendMany(1, kTransact, [this](sdbus::Message& m, int i) { note(i)(m); });
+    });
+    EXPECT_TRUE(waiting(1));
+    EXPECT_EQ(0, count("questions"));
+    EXPECT_EQ(0, count("proxies"));
+    EXPECT_EQ(2, count("peers"));
+    theBus().resume();
+}
+
+TEST_F(HostileToLate, NothingIsSentToThoseWhoMayNotLive) {
+    holdBack([&] {
+        mRogue.sendMany(1, kTransact, [this](sdbus::Message& m, int) {
+            m << mNumber << uint32_t{Desk::KEEP} << uint32_t{0};
+            write(m, inventedReferences(0));
+        });
+        mRogue.sendMany(1, kTransact, [this](sdbus::Message& m, int i) { note(i)(m); });
+    });
+    EXPECT_TRUE(waiting(2));
+    serve();
+    // Once the second is served, nothing is left of the first but the object that the desk keeps
+    // and what is to be given back, if there is somebody to give it back to.
+    EXPECT_TRUE(eventually([this] { return count("waiting") == 0; }));
+    EXPECT_EQ(static_cast<int32_t>(kMaxReferences), count("proxies"));
+    theBus().resume();
     EXPECT_TRUE(
             eventually([this] { return mDesk.drop() == NO_ERROR && mDesk.counts().proxies == 0; }));
     EXPECT_EQ(2, mDesk.counts().peers);
@@ -657,6 +710,42 @@ TEST_F(Hostile, AFloodOfRefusedCallsIsGoneAtOnce) {
     const Counts counts = mDesk.counts();
     EXPECT_EQ(0, counts.proxies);
     EXPECT_LE(counts.descriptors, mDescriptors);
+}
+
+TEST_F(Hostile, WhatIsRefusedIsGivenBackTogether) {
+    std::promise<std::map<uint64_t, uint32_t>> released;
+    std::atomic<int> single{0};
+    Rogue other;
+    const auto object = sdbus::createObject(other.connection(), kObjectPath);
+    object->registerMethod(kInterface, kReleaseMany, "a(tu)", "", [&](sdbus::MethodCall call) {
+        std::vector<sdbus::Struct<uint64_t, uint32_t>> all;
+        call >> all;
+        std::map<uint64_t, uint32_t> counts;
+        for (const auto& each : all) counts[std::get<0>(each)] = std::get<1>(each);
+        released.set_value(counts);
+    });
+    object->registerMethod(kInterface, kRelease, "tu", "", [&](sdbus::MethodCall) { single++; });
+    object->finishRegistration();
+    other.send(kTransact, [this](sdbus::Message& m) {
+        m << mNumber + 2 << uint32_t{Desk::KEEP} << uint32_t{0};
+        write(m,
+              {{{0, "", 8}, {28, ":9.1", 5}, {56, "", 9}, {84, "", 8}}, std::vector<uint8_t>(112)});
+    });
+    other.connection().enterEventLoopAsync();
+    auto arrived = released.get_future();
+    ASSERT_EQ(std::future_status::ready, arrived.wait_for(kPatience));
+    EXPECT_EQ((std::map<uint64_t, uint32_t>{{8, 2}, {9, 1}}), arrived.get());
+    EXPECT_EQ(0, single);
+    other.connection().leaveEventLoop();
+}
+
+TEST_F(Hostile, ManyObjectsAreReleasedAtOnce) {
+    for (int i = 0; i < 4; i++) mRogue.deskNumber();
+    EXPECT_EQ(6, mDesk.counts().holds);
+    mRogue.send(kReleaseMany, [this](sdbus::Message& m) {
+        m << std::vector<sdbus::Struct<uint64_t, uint32_t>>{{mNumber, 3U}, {mNumber + 2, 7U}};
+    });
+    EXPECT_TRUE(eventually([this] { return mDesk.counts().holds == 3; }));
 }
 
 TEST_F(Hostile, AFloodOfCallsWhoseAnswersNobodyReadsIsBounded) {

@@ -48,6 +48,7 @@ class BusCall : public IncomingCall {
     const bool mOneWay;
     const Responder mResponder;
     bool mAnswered = false;
+    size_t mCost = 0;             // what it counts against its caller's share
     CallQueue* mQueue = nullptr;  // whose lane it is in while it is served
 };
 

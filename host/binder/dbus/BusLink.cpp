@@ -79,6 +79,7 @@ BusLink::BusLink(const std::string& address)
     const std::string content = kContentSignature;
     mObject->registerMethod(kInterface, kTransact, "tuu" + content, "i" + content, accept);
     mObject->registerMethod(kInterface, kRelease, "tu", "", accept);
+    mObject->registerMethod(kInterface, kReleaseMany, "a(tu)", "", accept);
     mObject->registerMethod(kInterface, kGrant, "ts", "", accept);
     mObject->registerMethod(kInterface, kLookup, "s", "st", accept);
     mObject->finishRegistration();

@@ -6,25 +6,15 @@
 
 namespace android::host::dbus {
 
-namespace {
-
-// About the memory of a proxy.
-constexpr size_t kObjectCost = 256;
-
-size_t sizeOf(const BusCall& call) {
-    return call.request.bytes.size() + call.request.objects.size() * kObjectCost;
-}
-
-}  // namespace
-
-bool CallQueue::admit(const BusCall& call) {
+bool CallQueue::admit(BusCall& call, size_t bytes, size_t objects) {
     Peer& caller = *call.caller;
-    const size_t size = sizeOf(call);
+    const size_t size = bytes + objects * Peer::kObjectCost;
     if (caller.waitingCalls >= kMaxWaitingCalls || caller.waitingBytes + size > kMaxWaitingBytes) {
         return false;
     }
     caller.waitingCalls++;
     caller.waitingBytes += size;
+    call.mCost = size;
     return true;
 }
 
@@ -87,7 +77,7 @@ std::unique_ptr<BusCall> CallQueue::redeem(const Ticket& ticket) {
     }
     if (ticket.sender == kOwn) {
         mLastCalls--;
-        mLastBytes -= sizeOf(*call);
+        mLastBytes -= call->mCost;
     }
     lane.busy = true;
     call->mQueue = this;
@@ -120,15 +110,15 @@ std::optional<PoolWork> CallQueue::take() {
             mReady.repeat(ticket->sender);
             continue;
         }
-        countOut(*call);
+        mWaiting--;
+        dismiss(*call);
         return std::unique_ptr<IncomingCall>(std::move(call));
     }
 }
 
-void CallQueue::countOut(const BusCall& call) {
-    mWaiting--;
+void CallQueue::dismiss(const BusCall& call) {
     call.caller->waitingCalls--;
-    call.caller->waitingBytes -= sizeOf(call);
+    call.caller->waitingBytes -= call.mCost;
 }
 
 CallQueue::Calls CallQueue::senderLeft(const Peer& sender) {
@@ -147,7 +137,8 @@ CallQueue::Calls CallQueue::senderLeft(const Peer& sender) {
         const bool idle = !lane->second.busy && lane->second.lines.empty();
         lane = idle ? mLanes.erase(lane) : std::next(lane);
     }
-    for (const std::unique_ptr<BusCall>& call : dropped) countOut(*call);
+    mWaiting -= dropped.size();
+    for (const std::unique_ptr<BusCall>& call : dropped) dismiss(*call);
     return dropped;
 }
 
@@ -158,7 +149,7 @@ void CallQueue::keepLast(Lanes::value_type& lane, const Peer& sender, Calls* dro
     lane.second.lines.erase(found);
     bool full = false;
     for (std::unique_ptr<BusCall>& call : calls) {
-        const size_t size = sizeOf(*call);
+        const size_t size = call->mCost;
         full = full || mLastCalls == kMaxLastCalls || mLastBytes + size > kMaxLastBytes;
         if (full) {
             dropped->push_back(std::move(call));

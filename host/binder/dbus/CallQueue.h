@@ -36,8 +36,14 @@ class CallQueue {
 
     using Calls = std::vector<std::unique_ptr<BusCall>>;
 
-    /** Counts a call against its caller's share; false if that is used up. */
-    static bool admit(const BusCall& call);
+    /**
+     * Counts a call that is to have so many bytes and objects against its caller's share; false if
+     * that is used up.
+     */
+    static bool admit(BusCall& call, size_t bytes, size_t objects);
+
+    /** Ends that for a call that was admitted but is not added. */
+    static void dismiss(const BusCall& call);
 
     /** Puts a call that was admitted in line. */
     void add(std::unique_ptr<BusCall> call);
@@ -89,7 +95,6 @@ class CallQueue {
     void giveTicket(const Lanes::value_type& lane, Line& line);
     std::unique_ptr<BusCall> redeem(const Ticket& ticket);
     void keepLast(Lanes::value_type& lane, const Peer& sender, Calls* dropped);
-    void countOut(const BusCall& call);
 
     std::mutex mLock;  // guards what follows
     std::condition_variable mArrived;

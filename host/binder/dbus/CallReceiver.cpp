@@ -32,7 +32,8 @@ void CallReceiver::onTransact(sdbus::MethodCall& message, const std::shared_ptr<
     }
 }
 
-// Takes over what the message holds, and counts the call against its caller's share.
+// Counts the call against its caller's share and takes over what the message holds; what a call
+// that is refused refers to is not even resolved.
 std::optional<CallReceiver::Refusal> CallReceiver::fill(BusCall& call, sdbus::MethodCall& message) {
     constexpr Refusal kNoRoom{kExhausted, "There is no memory or descriptor for the transaction"};
     constexpr Refusal kWrong{kMalformed, "The transaction is malformed"};
@@ -40,17 +41,27 @@ std::optional<CallReceiver::Refusal> CallReceiver::fill(BusCall& call, sdbus::Me
     call.flags &= ~static_cast<uint32_t>(IBinder::FLAG_ONEWAY);
     if (call.isOneWay()) call.flags |= IBinder::FLAG_ONEWAY;
     call.target = mObjects.find(call.object);
+    Content content;
+    const auto refuse = [&](const Refusal& refusal) {
+        mExchange.decline(content.references, call.caller);
+        return refusal;
+    };
+    Reading reading = readReferences(message, &content.references);
+    if (call.target == nullptr) return refuse({kNoSuchObject, "There is no such object"});
+    if (reading == Reading::COMPLETE) reading = readBytes(message, &content.bytes);
+    if (reading == Reading::EXHAUSTED) return refuse(kNoRoom);
+    if (reading == Reading::MALFORMED || !mExchange.areWellFormed(content.references)) {
+        return refuse(kWrong);
+    }
+    if (!CallQueue::admit(call, content.bytes.size(), content.references.size())) {
+        return refuse({kOverloaded, "Too many calls are waiting"});
+    }
     try {
-        Content content;
-        const Reading reading = read(message, &content);
-        if (reading == Reading::EXHAUSTED) return kNoRoom;
-        if (reading == Reading::MALFORMED) return kWrong;
-        if (!mExchange.unpack(std::move(content), call.caller, &call.request)) return kWrong;
+        mExchange.unpack(std::move(content), call.caller, &call.request);
     } catch (const std::bad_alloc&) {
+        CallQueue::dismiss(call);
         return kNoRoom;
     }
-    if (call.target == nullptr) return Refusal{kNoSuchObject, "There is no such object"};
-    if (!CallQueue::admit(call)) return Refusal{kOverloaded, "Too many calls are waiting"};
     return std::nullopt;
 }
 

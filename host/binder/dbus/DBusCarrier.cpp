@@ -35,6 +35,8 @@ void DBusCarrier::onCall(sdbus::MethodCall call) {
             mReceiver.onTransact(call, caller);
         } else if (method == kRelease) {
             mExchange.onRelease(call, *caller);
+        } else if (method == kReleaseMany) {
+            mExchange.onReleaseMany(call, *caller);
         } else if (method == kGrant) {
             mExchange.onGrant(call);
         } else {

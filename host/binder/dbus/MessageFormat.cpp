@@ -63,7 +63,7 @@ bool readInline(sdbus::Message& message, std::vector<uint8_t>* bytes) {
     return true;
 }
 
-Reading readBytes(sdbus::Message& message, std::vector<uint8_t>* bytes) {
+Reading takeBytes(sdbus::Message& message, std::vector<uint8_t>* bytes) {
     std::string type;
     std::string contents;
     message.peekType(type, contents);
@@ -82,7 +82,7 @@ Reading readBytes(sdbus::Message& message, std::vector<uint8_t>* bytes) {
     return Reading::COMPLETE;
 }
 
-bool readReferences(sdbus::Message& message, std::vector<Reference>* references) {
+bool takeReferences(sdbus::Message& message, std::vector<Reference>* references) {
     if (!message.enterContainer("(ust)")) return false;
     while (message.enterStruct("ust")) {
         if (references->size() == kMaxReferences) return false;
@@ -116,15 +116,29 @@ void write(sdbus::Message& message, const Content& content) {
     message.closeVariant();
 }
 
-Reading read(sdbus::Message& message, Content* content) {
+Reading readReferences(sdbus::Message& message, std::vector<Reference>* references) {
     try {
-        if (!readReferences(message, &content->references)) return Reading::MALFORMED;
-        return readBytes(message, &content->bytes);
+        return takeReferences(message, references) ? Reading::COMPLETE : Reading::MALFORMED;
     } catch (const sdbus::Error&) {
         return Reading::MALFORMED;
     } catch (const std::bad_alloc&) {
         return Reading::EXHAUSTED;
     }
+}
+
+Reading readBytes(sdbus::Message& message, std::vector<uint8_t>* bytes) {
+    try {
+        return takeBytes(message, bytes);
+    } catch (const sdbus::Error&) {
+        return Reading::MALFORMED;
+    } catch (const std::bad_alloc&) {
+        return Reading::EXHAUSTED;
+    }
+}
+
+Reading read(sdbus::Message& message, Content* content) {
+    const Reading reading = readReferences(message, &content->references);
+    return reading != Reading::COMPLETE ? reading : readBytes(message, &content->bytes);
 }
 
 Reading read(sdbus::Message& message, int32_t* status, Content* content) {

@@ -13,15 +13,17 @@ namespace android::host::dbus {
  *
  *   Transact(object, code, flags, references, bytes) -> (status, references, bytes)
  *   Release(object, count)      the caller gives back so many of its holds on an object
+ *   ReleaseMany(objects)        the same for several objects, each with its count
  *   Grant(object, holder)       the caller lends an object on to a third process
  *   Lookup(service) -> (owner, object)
  *
- * Release, Grant and a one-way Transact have no reply.
+ * Release, ReleaseMany, Grant and a one-way Transact have no reply.
  */
 inline constexpr char kObjectPath[] = "/tarn/binder";
 inline constexpr char kInterface[] = "tarn.binder.Carrier1";
 inline constexpr char kTransact[] = "Transact";
 inline constexpr char kRelease[] = "Release";
+inline constexpr char kReleaseMany[] = "ReleaseMany";
 inline constexpr char kGrant[] = "Grant";
 inline constexpr char kLookup[] = "Lookup";
 
@@ -68,6 +70,10 @@ enum class Reading { COMPLETE, MALFORMED, EXHAUSTED };
  * it is too large.
  */
 Reading read(sdbus::Message& message, Content* content);
+
+/** The two parts of that, to be read in this order. */
+Reading readReferences(sdbus::Message& message, std::vector<Reference>* references);
+Reading readBytes(sdbus::Message& message, std::vector<uint8_t>* bytes);
 
 /** Reads a reply to Transact. */
 Reading read(sdbus::Message& message, int32_t* status, Content* content);

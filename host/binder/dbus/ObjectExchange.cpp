@@ -6,6 +6,9 @@
 #include <binder/ProcessState.h>
 #include <log/log.h>
 
+#include <algorithm>
+#include <map>
+#include <tuple>
 #include <utility>
 
 #include "BusName.h"
@@ -77,38 +80,101 @@ void ObjectExchange::release(int32_t handle) {
 }
 
 void ObjectExchange::giveBack(const std::optional<SharedObjects::Holds>& holds) {
-    if (!holds.has_value() || holds->remote.owner->dead) return;
+    if (!holds.has_value()) return;
+    release(*holds->remote.owner, {{holds->remote.object, holds->count}});
+}
+
+void ObjectExchange::release(Peer& owner, const Counts& counts) {
+    if (owner.dead) return;
     try {
+        const bool single = counts.size() == 1;
         sdbus::MethodCall call =
-                mLink.newCall(*holds->remote.owner->destination(), kInterface, kRelease);
-        call << holds->remote.object << holds->count;
+                mLink.newCall(*owner.destination(), kInterface, single ? kRelease : kReleaseMany);
+        if (single) {
+            call << counts.begin()->first << counts.begin()->second;
+        } else {
+            std::vector<sdbus::Struct<uint64_t, uint32_t>> all;
+            for (const auto& [object, count] : counts) all.emplace_back(object, count);
+            call << all;
+        }
         mLink.send(call);
     } catch (const sdbus::Error& error) {
         ALOGE("An object cannot be released: %s", error.what());
     }
 }
 
+bool ObjectExchange::isWellFormed(const std::string& owner, uint64_t object) {
+    return owner == mLink.uniqueName() ? mObjects.find(object) != nullptr : isUniqueName(owner);
+}
+
+bool ObjectExchange::areWellFormed(const std::vector<Reference>& references) {
+    return std::all_of(references.begin(), references.end(), [this](const Reference& each) {
+        return each.owner.empty() || isWellFormed(each.owner, each.object);
+    });
+}
+
 bool ObjectExchange::unpack(Content content, const std::shared_ptr<Peer>& sender, Payload* out) {
-    bool complete = true;
+    if (!areWellFormed(content.references)) return false;
+    Handles unknown;
     for (const Reference& reference : content.references) {
         const std::string& owner = reference.owner.empty() ? sender->name : reference.owner;
-        const sp<IBinder> binder = resolve(owner, reference.object, sender);
-        complete = complete && binder != nullptr;
-        if (binder != nullptr) out->objects.push_back({reference.offset, binder});
+        out->objects.push_back(
+                {reference.offset, resolve(owner, reference.object, sender, &unknown)});
     }
+    unpinOnceKnown(std::move(unknown), sender);
     out->bytes = std::move(content.bytes);
-    return complete;
+    return true;
+}
+
+void ObjectExchange::decline(const std::vector<Reference>& references,
+                             const std::shared_ptr<Peer>& sender) {
+    std::map<std::shared_ptr<Peer>, Counts> owners;
+    for (const Reference& each : references) {
+        const bool own = each.owner.empty() || each.owner == sender->name;
+        const std::shared_ptr<Peer> owner = own ? sender : mPeers.living(each.owner);
+        if (owner != nullptr) owners[owner][each.object]++;
+    }
+    for (const auto& [owner, counts] : owners) release(*owner, counts);
 }
 
 sp<IBinder> ObjectExchange::resolve(const std::string& owner, uint64_t object,
                                     const std::shared_ptr<Peer>& sender) {
+    if (!isWellFormed(owner, object)) return nullptr;
+    Handles unknown;
+    const sp<IBinder> binder = resolve(owner, object, sender, &unknown);
+    unpinOnceKnown(std::move(unknown), sender);
+    return binder;
+}
+
+// While nobody knows whether its owner lives, a handle stays pinned, so that nothing is sent there.
+sp<IBinder> ObjectExchange::resolve(const std::string& owner, uint64_t object,
+                                    const std::shared_ptr<Peer>& sender, Handles* unknown) {
     if (owner == mLink.uniqueName()) return mObjects.find(object);
-    if (!isUniqueName(owner)) return nullptr;
-    const int32_t handle =
-            mObjects.receive(owner == sender->name ? sender : mPeers.mentioned(owner), object);
+    const std::shared_ptr<Peer> peer = owner == sender->name ? sender : mPeers.mentioned(owner);
+    const int32_t handle = mObjects.receive(peer, object);
     const sp<IBinder> proxy = ProcessState::self()->getStrongProxyForHandle(handle);
-    giveBack(mObjects.unpin(handle));
+    if (peer->known) {
+        giveBack(mObjects.unpin(handle));
+    } else {
+        unknown->push_back(handle);
+    }
     return proxy;
+}
+
+// Until then they count against the sender's share.
+void ObjectExchange::unpinOnceKnown(Handles handles, const std::shared_ptr<Peer>& sender) {
+    if (handles.empty()) return;
+    const size_t cost = handles.size() * Peer::kObjectCost;
+    sender->waitingBytes += cost;
+    mPeers.onceKnown([this, sender, cost, handles = std::move(handles)] {
+        sender->waitingBytes -= cost;
+        std::map<std::shared_ptr<Peer>, Counts> owners;
+        for (const int32_t handle : handles) {
+            const auto holds = mObjects.unpin(handle);
+            if (holds.has_value()) owners[holds->remote.owner][holds->remote.object] = holds->count;
+        }
+        for (const auto& [owner, counts] : owners) release(*owner, counts);
+    });
 }
 
 void ObjectExchange::onRelease(sdbus::MethodCall& call, Peer& caller) {
@@ -120,13 +186,24 @@ void ObjectExchange::onRelease(sdbus::MethodCall& call, Peer& caller) {
     mReleaser.release(std::move(released));
 }
 
+void ObjectExchange::onReleaseMany(sdbus::MethodCall& call, Peer& caller) {
+    std::vector<sdbus::Struct<uint64_t, uint32_t>> all;
+    call >> all;
+    SharedObjects::Objects released;
+    for (const auto& each : all) {
+        mObjects.giveBack(std::get<0>(each), std::get<1>(each), caller, &released);
+    }
+    mReleaser.release(std::move(released));
+}
+
 void ObjectExchange::onGrant(sdbus::MethodCall& call) {
     uint64_t object = 0;
     std::string holder;
     call >> object >> holder;
-    if (isUniqueName(holder) && mObjects.find(object) != nullptr) {
-        mObjects.lendOn(object, *mPeers.mentioned(holder));
-    }
+    if (!isUniqueName(holder) || mObjects.find(object) == nullptr) return;
+    const std::shared_ptr<Peer> peer = mPeers.mentioned(holder);
+    mObjects.lendOn(object, *peer);
+    if (!peer->known) mPeers.onceKnown([] {});
 }
 
 }  // namespace android::host::dbus

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -63,19 +64,39 @@ class ObjectExchange {
     // Receiving, on the link's thread: references are resolved in the order in which they came,
     // before a later message can take back what they name.
 
-    /** Resolves a message's references; false if one of them leads to nothing. */
+    /** True if each reference of a message leads to something. */
+    bool areWellFormed(const std::vector<Reference>& references);
+
+    /** Resolves a message's references; false, and nothing is resolved, if one is not well-formed.
+     */
     bool unpack(Content content, const std::shared_ptr<Peer>& sender, Payload* out);
+
+    /**
+     * Gives back what a message refers to that is not taken, without resolving it: at most one
+     * message to each owner, to none that is not known to live.
+     */
+    void decline(const std::vector<Reference>& references, const std::shared_ptr<Peer>& sender);
 
     /** The object behind a reference that came in; null if there is none. */
     sp<IBinder> resolve(const std::string& owner, uint64_t object,
                         const std::shared_ptr<Peer>& sender);
 
-    /** The methods Release and Grant; they throw sdbus::Error at a malformed message. */
+    /** The methods Release, ReleaseMany and Grant; they throw sdbus::Error at a malformed message.
+     */
     void onRelease(sdbus::MethodCall& call, Peer& caller);
+    void onReleaseMany(sdbus::MethodCall& call, Peer& caller);
     void onGrant(sdbus::MethodCall& call);
 
   private:
+    using Handles = std::vector<int32_t>;
+    using Counts = std::map<uint64_t, uint32_t>;  // of holds, by object
+
+    bool isWellFormed(const std::string& owner, uint64_t object);
+    sp<IBinder> resolve(const std::string& owner, uint64_t object,
+                        const std::shared_ptr<Peer>& sender, Handles* unknown);
+    void unpinOnceKnown(Handles handles, const std::shared_ptr<Peer>& sender);
     void giveBack(const std::optional<SharedObjects::Holds>& holds);
+    void release(Peer& owner, const Counts& counts);
 
     BusLink& mLink;
     SharedObjects& mObjects;

@@ -32,7 +32,10 @@ struct Peer {
 
     std::atomic<bool> dead{false};
 
-    // What it has sent that no thread of the pool has taken yet.
+    // About the memory of an object of another process: a proxy, and what is kept of its owner.
+    static constexpr size_t kObjectCost = 256;
+
+    // What it has sent that no thread of the pool has taken yet, or whose owners are not known yet.
     std::atomic<size_t> waitingCalls{0};
     std::atomic<size_t> waitingBytes{0};
 
@@ -40,6 +43,7 @@ struct Peer {
     std::map<uint64_t, uint64_t> holds;
 
     // The rest is used by the link's thread only. Calls wait until pid and uid are known.
+    bool known = false;  // it has sent something, or the bus was asked whether it lives
     bool asked = false;
     bool identified = false;
     pid_t pid = 0;

@@ -13,6 +13,7 @@ namespace android::host::dbus {
 
 std::shared_ptr<Peer> PeerDirectory::sender(const std::string& uniqueName) {
     const std::shared_ptr<Peer> peer = mPeers.findOrAdd(uniqueName).first;
+    peer->known = true;
     identify(peer);
     return peer;
 }
@@ -41,31 +42,45 @@ void PeerDirectory::identify(const std::shared_ptr<Peer>& peer) {
 // announced again.
 std::shared_ptr<Peer> PeerDirectory::mentioned(const std::string& uniqueName) {
     const auto [peer, isNew] = mPeers.findOrAdd(uniqueName);
-    if (isNew) {
-        mUnconfirmed.push_back(peer);
-        askWhoLives();
-    }
+    if (isNew) mNext.peers.push_back(peer);
     return peer;
+}
+
+void PeerDirectory::onceKnown(std::function<void()> action) {
+    mNext.actions.push_back(std::move(action));
+    askWhoLives();
+}
+
+std::shared_ptr<Peer> PeerDirectory::living(const std::string& uniqueName) {
+    std::shared_ptr<Peer> peer = mPeers.find(uniqueName);
+    return peer != nullptr && peer->known && !peer->dead ? peer : nullptr;
 }
 
 // One question for all, and one at a time: a message may name thousands that never were. Whoever is
 // asked for once is not asked for again, whatever the answer: a call to a dead one shows it too.
 void PeerDirectory::askWhoLives() {
-    if (mAsking || mUnconfirmed.empty()) return;
-    const Peers peers = std::exchange(mUnconfirmed, {});
+    if (mAsking || mNext.actions.empty()) return;
+    const auto question = std::make_shared<const Question>(std::exchange(mNext, {}));
     try {
         mAsking = mBus.call(
                 mBus.newCall("ListNames"), BusLink::kForever,
-                [this, peers](sdbus::MethodReply& names) { onNames(peers, names); },
-                [this](const sdbus::Error* error) {
+                [this, question](sdbus::MethodReply& names) { onNames(question->peers, names); },
+                [this, question](const sdbus::Error* error) {
                     if (error != nullptr)
                         ALOGW("The bus does not say who lives: %s", error->what());
                     mAsking = false;
+                    settle(*question);
                     askWhoLives();
                 });
     } catch (const sdbus::Error& error) {
         ALOGW("The bus cannot be asked who lives: %s", error.what());
     }
+    if (!mAsking) settle(*question);
+}
+
+void PeerDirectory::settle(const Question& question) {
+    for (const std::shared_ptr<Peer>& peer : question.peers) peer->known = true;
+    for (const auto& action : question.actions) action();
 }
 
 void PeerDirectory::onNames(const Peers& peers, sdbus::MethodReply& names) {

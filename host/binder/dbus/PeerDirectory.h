@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -23,15 +24,30 @@ class PeerDirectory {
     /** The process that a message came from. */
     std::shared_ptr<Peer> sender(const std::string& uniqueName);
 
-    /** A process that another one named, which may have died long ago or never have been. */
+    /**
+     * A process that another one named, which may have died long ago or never have been. Unless it
+     * is known, what was made of its name has to wait for onceKnown().
+     */
     std::shared_ptr<Peer> mentioned(const std::string& uniqueName);
+
+    /** Does something once the bus was asked for all who were mentioned until now. */
+    void onceKnown(std::function<void()> action);
+
+    /** A process that is known and lives; null if there is none of this name. */
+    std::shared_ptr<Peer> living(const std::string& uniqueName);
 
   private:
     using Peers = std::vector<std::shared_ptr<Peer>>;
 
     void identify(const std::shared_ptr<Peer>& peer);
+    // Whether they live, and what is to be done when that is known.
+    struct Question {
+        Peers peers;
+        std::vector<std::function<void()>> actions;
+    };
     void askWhoLives();
     void onNames(const Peers& peers, sdbus::MethodReply& names);
+    static void settle(const Question& question);
     bool ask(const char* question, const Peer& peer, BusDaemon::ReplyHandler onReply,
              BusDaemon::EndHandler onEnd);
     void identified(Peer& peer);
@@ -40,7 +56,7 @@ class PeerDirectory {
     PeerTable& mPeers;
     DeathWatch& mDeaths;
     CallQueues& mQueues;
-    Peers mUnconfirmed;  // nobody has asked yet whether they live
+    Question mNext;  // not asked yet
     bool mAsking = false;
 };
 
