@@ -661,6 +661,28 @@ TEST_F(HostileToLate, NothingIsSentToThoseWhoMayNotLive) {
     EXPECT_EQ(2, mDesk.counts().peers);
 }
 
+TEST_F(HostileToLate, ObjectsCountForWhatTheyTake) {
+    Content content;
+    content.bytes.resize(kMaxReferences * 28);
+    for (uint32_t i = 0; i < kMaxReferences; i++) content.references.push_back({i * 28, "", i + 1});
+    mRogue.sendMany(40, kTransact, [&](sdbus::Message& m, int) {
+        m << mNumber << uint32_t{Desk::KEEP} << uint32_t{0};
+        write(m, content);
+    });
+    mRogue.deskNumber();
+    EXPECT_TRUE(waiting(30));
+}
+
+TEST_F(HostileToLate, CallsCountForMoreThanTheirBytes) {
+    const Content mebibyte{{}, std::vector<uint8_t>(1024 * 1024)};
+    mRogue.sendMany(64, kTransact, [&](sdbus::Message& m, int) {
+        m << mNumber << uint32_t{Desk::NOTE} << uint32_t{0};
+        write(m, mebibyte);
+    });
+    mRogue.deskNumber();
+    EXPECT_TRUE(waiting(63));
+}
+
 TEST_F(HostileToLate, CallsGoWithTheirSender) {
     {
         Rogue other;

@@ -6,9 +6,19 @@
 
 namespace android::host::dbus {
 
+namespace {
+
+// About the memory of a call without its bytes and objects; most of it is the reply and the error
+// in its place.
+constexpr size_t kOneWayCost = 320;
+constexpr size_t kCallCost = 2304;
+
+}  // namespace
+
 bool CallQueue::admit(BusCall& call, size_t bytes, size_t objects) {
     Peer& caller = *call.caller;
-    const size_t size = bytes + objects * Peer::kObjectCost;
+    const size_t size =
+            (call.isOneWay() ? kOneWayCost : kCallCost) + bytes + objects * Peer::kObjectCost;
     if (caller.waitingCalls >= kMaxWaitingCalls || caller.waitingBytes + size > kMaxWaitingBytes) {
         return false;
     }

@@ -53,7 +53,7 @@ std::optional<CallReceiver::Refusal> CallReceiver::fill(BusCall& call, sdbus::Me
     if (reading == Reading::MALFORMED || !mExchange.areWellFormed(content.references)) {
         return refuse(kWrong);
     }
-    if (!CallQueue::admit(call, content.bytes.size(), content.references.size())) {
+    if (!CallQueue::admit(call, content.bytes.capacity(), content.references.size())) {
         return refuse({kOverloaded, "Too many calls are waiting"});
     }
     try {

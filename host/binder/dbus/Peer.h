@@ -32,8 +32,9 @@ struct Peer {
 
     std::atomic<bool> dead{false};
 
-    // About the memory of an object of another process: a proxy, and what is kept of its owner.
-    static constexpr size_t kObjectCost = 256;
+    // About the memory of an object of another process, with its proxy. Those of owners that are
+    // not known count twice, once with the call and once until they are, and take no more.
+    static constexpr size_t kObjectCost = 512;
 
     // What it has sent that no thread of the pool has taken yet, or whose owners are not known yet.
     std::atomic<size_t> waitingCalls{0};
