@@ -12,6 +12,7 @@
 #include <map>
 #include <mutex>
 #include <thread>
+#include <vector>
 
 #include "host/HostServiceManager.h"
 #include "host/binder/carrier/Carrier.h"
@@ -189,6 +190,20 @@ TEST_F(HostCarrier, AsksForADescriptorOnce) {
     EXPECT_EQ(String16("tarn.test.IEcho"), proxy->getInterfaceDescriptor());
     sCarrier->kill(handle);
     EXPECT_EQ(String16("tarn.test.IEcho"), proxy->getInterfaceDescriptor());
+}
+
+// The thread sanitizer sees what they do to each other.
+TEST_F(HostCarrier, AnyThreadMayAskForADescriptor) {
+    for (int round = 0; round < 50; round++) {
+        const sp<IBinder> proxy = proxyOf(new Echo);
+        std::vector<std::future<bool>> known;
+        for (int i = 0; i < 4; i++) {
+            known.push_back(std::async(std::launch::async, [proxy] {
+                return proxy->getInterfaceDescriptor() == String16("tarn.test.IEcho");
+            }));
+        }
+        for (auto& each : known) EXPECT_TRUE(each.get());
+    }
 }
 
 TEST_F(HostCarrier, CarriesBindersBothWays) {
