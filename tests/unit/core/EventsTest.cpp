@@ -1,6 +1,7 @@
 #include <binder/Parcel.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <pthread.h>
 #include <tarn/ITarnListener.h>
 #include <tarn/TarnManager.h>
 
@@ -8,6 +9,7 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <mutex>
@@ -401,6 +403,24 @@ TEST(TarnClientLooper, RefusesANullTarget) {
     EXPECT_EQ(looper->createTarnMsgLooper(nullptr), -1);
     EXPECT_EQ(looper->removeTarnMsgLooper(nullptr), 0);
 }
+
+#ifdef __GLIBC__  // the device's C library has no default that a test could change
+TEST(TarnClientLooper, FailsWithoutAThread) {
+    pthread_attr_t before;
+    pthread_attr_t unaffordable;
+    ASSERT_EQ(pthread_getattr_default_np(&before), 0);
+    ASSERT_EQ(pthread_getattr_default_np(&unaffordable), 0);
+    ASSERT_EQ(pthread_attr_setstacksize(&unaffordable, SIZE_MAX / 2 & ~size_t{0xffff}), 0);
+    ASSERT_EQ(pthread_setattr_default_np(&unaffordable), 0);
+    const sp<TarnClientLooper> looper = new TarnClientLooper;
+    auto& [deliveries, targets] = KeptTargets<1>::make();
+    EXPECT_EQ(looper->createTarnMsgLooper(&targets[0]), -1);
+    EXPECT_EQ(looper->getStrongCount(), 1);
+    ASSERT_EQ(pthread_setattr_default_np(&before), 0);
+    pthread_attr_destroy(&before);
+    pthread_attr_destroy(&unaffordable);
+}
+#endif
 
 TEST(TarnClientLooper, SendsNowhereWithoutATarget) {
     sp<TarnClientLooper> looper = new TarnClientLooper;
