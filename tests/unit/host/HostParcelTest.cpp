@@ -107,6 +107,16 @@ TEST(HostParcel, WritesSafelyBeyondItsAllocation) {
     EXPECT_EQ(end, parcel.dataSize());
 }
 
+TEST(HostParcel, MakesRoomForWhatItAppendsBeforeItsEnd) {
+    Parcel source;
+    source.writeInt64(7);
+    Parcel parcel;
+    ASSERT_EQ(NO_ERROR, parcel.setDataSize(128));
+    ASSERT_EQ(NO_ERROR, parcel.appendFrom(&source, 0, 8));
+    EXPECT_EQ(136u, parcel.dataSize());
+    EXPECT_GE(parcel.dataCapacity(), parcel.dataSize());
+}
+
 TEST(HostParcel, ShowsNoForeignMemoryWhereNothingWasWritten) {
     {
         Parcel dirty;
