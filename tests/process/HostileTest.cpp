@@ -768,6 +768,12 @@ TEST_F(Hostile, ManyObjectsAreReleasedAtOnce) {
         m << std::vector<sdbus::Struct<uint64_t, uint32_t>>{{mNumber, 3U}, {mNumber + 2, 7U}};
     });
     EXPECT_TRUE(eventually([this] { return mDesk.counts().holds == 3; }));
+    // Not more of them than a message may refer to.
+    std::vector<sdbus::Struct<uint64_t, uint32_t>> many(kMaxReferences, {mNumber + 2, 1U});
+    many.emplace_back(mNumber, 1U);
+    mRogue.send(kReleaseMany, [&](sdbus::Message& m) { m << many; });
+    mRogue.deskNumber();
+    EXPECT_EQ(4, mDesk.counts().holds);
 }
 
 TEST_F(Hostile, AFloodOfCallsWhoseAnswersNobodyReadsIsBounded) {

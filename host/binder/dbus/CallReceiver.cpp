@@ -56,13 +56,15 @@ std::optional<CallReceiver::Refusal> CallReceiver::fill(BusCall& call, sdbus::Me
     if (!CallQueue::admit(call, content.bytes.capacity(), content.references.size())) {
         return refuse({kOverloaded, "Too many calls are waiting"});
     }
+    std::optional<Refusal> refusal;
     try {
-        mExchange.unpack(std::move(content), call.caller, &call.request);
+        const bool complete = mExchange.unpack(std::move(content), call.caller, &call.request);
+        if (!complete) refusal = kWrong;
     } catch (const std::bad_alloc&) {
-        CallQueue::dismiss(call);
-        return kNoRoom;
+        refusal = kNoRoom;
     }
-    return std::nullopt;
+    if (refusal.has_value()) CallQueue::dismiss(call);
+    return refusal;
 }
 
 // On the thread that served the call.

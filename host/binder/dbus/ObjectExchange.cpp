@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <map>
-#include <tuple>
 #include <utility>
 
 #include "BusName.h"
@@ -115,15 +114,18 @@ bool ObjectExchange::areWellFormed(const std::vector<Reference>& references) {
 
 bool ObjectExchange::unpack(Content content, const std::shared_ptr<Peer>& sender, Payload* out) {
     if (!areWellFormed(content.references)) return false;
+    bool complete = true;
     Handles unknown;
     for (const Reference& reference : content.references) {
         const std::string& owner = reference.owner.empty() ? sender->name : reference.owner;
-        out->objects.push_back(
-                {reference.offset, resolve(owner, reference.object, sender, &unknown)});
+        const sp<IBinder> binder = resolve(owner, reference.object, sender, &unknown);
+        // An object of this process may have lost its last holder just now.
+        complete = complete && binder != nullptr;
+        if (binder != nullptr) out->objects.push_back({reference.offset, binder});
     }
     unpinOnceKnown(std::move(unknown), sender);
     out->bytes = std::move(content.bytes);
-    return true;
+    return complete;
 }
 
 void ObjectExchange::decline(const std::vector<Reference>& references,
@@ -187,11 +189,15 @@ void ObjectExchange::onRelease(sdbus::MethodCall& call, Peer& caller) {
 }
 
 void ObjectExchange::onReleaseMany(sdbus::MethodCall& call, Peer& caller) {
-    std::vector<sdbus::Struct<uint64_t, uint32_t>> all;
-    call >> all;
     SharedObjects::Objects released;
-    for (const auto& each : all) {
-        mObjects.giveBack(std::get<0>(each), std::get<1>(each), caller, &released);
+    call.enterContainer("(tu)");
+    // Not more than a message may have lent.
+    for (size_t left = kMaxReferences; left > 0 && call.enterStruct("tu"); left--) {
+        uint64_t object = 0;
+        uint32_t count = 0;
+        call >> object >> count;
+        call.exitStruct();
+        mObjects.giveBack(object, count, caller, &released);
     }
     mReleaser.release(std::move(released));
 }

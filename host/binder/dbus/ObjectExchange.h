@@ -67,8 +67,7 @@ class ObjectExchange {
     /** True if each reference of a message leads to something. */
     bool areWellFormed(const std::vector<Reference>& references);
 
-    /** Resolves a message's references; false, and nothing is resolved, if one is not well-formed.
-     */
+    /** Resolves a message's references; false if one of them leads to nothing. */
     bool unpack(Content content, const std::shared_ptr<Peer>& sender, Payload* out);
 
     /**
