@@ -3,8 +3,11 @@
 #include <binder/Parcel.h>
 #include <tarn/ITarnListener.h>
 #include <unistd.h>
-#include <utils/String8.h>
 
+#include <cstring>
+#include <memory>
+
+#include "core/ServiceInUse.h"
 #include "core/TarnCallback.h"
 #include "core/TarnClientLooper.h"
 #include "protocol/Limits.h"
@@ -23,12 +26,6 @@ SharedReference<ITarnClientLooper> mITarnClientLooper;
 
 namespace {
 
-/** The cached proxy, looked up first where there is none; null without a service. */
-sp<IHwTarn> obtainHwTarnService() {
-    const sp<IHwTarn> service = mHwTarnService;
-    return service != nullptr ? service : mHwTarnService.setIfEmpty(getHwTarnService());
-}
-
 sp<ITarnClientLooper> obtainLooper() {
     const sp<ITarnClientLooper> looper = mITarnClientLooper;
     return looper != nullptr ? looper : mITarnClientLooper.setIfEmpty(new TarnClientLooper);
@@ -43,10 +40,36 @@ hidl_string bytesOf(const Parcel& parcel) {
     return hidl_string(reinterpret_cast<const char*>(parcel.data()), parcel.dataSize());
 }
 
+// A reply's bytes until the call's outcome is known; short ones cost no allocation.
+class Answer {
+  public:
+    void take(const hidl_string& bytes) {
+        if (bytes.size() > sizeof(mShort)) {
+            mLong.reset(new char[bytes.size()]);
+        } else {
+            mLong.reset();
+        }
+        mSize = bytes.size();
+        if (mSize != 0) memcpy(mLong != nullptr ? mLong.get() : mShort, bytes.c_str(), mSize);
+    }
+    const char* data() const { return mLong != nullptr ? mLong.get() : mShort; }
+    size_t size() const { return mSize; }
+
+  private:
+    char mShort[128];
+    std::unique_ptr<char[]> mLong;
+    size_t mSize = 0;
+};
+
 }  // namespace
 
 sp<IHwTarn> getHwTarnService() {
     return IHwTarn::getService("default", false);
+}
+
+sp<IHwTarn> obtainHwTarnService(uint32_t* edition) {
+    const sp<IHwTarn> service = mHwTarnService.read(edition);
+    return service != nullptr ? service : mHwTarnService.setIfEmpty(getHwTarnService(), edition);
 }
 
 HwTarnClient::HwTarnClient() {
@@ -57,21 +80,21 @@ HwTarnClient::HwTarnClient() {
 HwTarnClient::~HwTarnClient() {
     for (const sp<ITarnClientLooper>& looper : mLoopers) looper->removeTarnMsgLooper(this);
     mHwTarnService.clear();
+    ServiceInUse::forget();
     mITarnClientLooper.clear();
 }
 
 int HwTarnClient::hw_invoke(const Parcel& data, Parcel* reply) {
-    const sp<IHwTarn> service = obtainHwTarnService();
-    if (service == nullptr) {
+    const ServiceInUse service;
+    if (service.get() == nullptr) {
         TLOGE("Error, hw_invoke failed, mHwTarnService null .");
         return -1;
     }
     if (data.dataSize() == 0) return 0;
 
-    String8 answer;
-    const Return<void> status = service->hwInvoke(
-            bytesOf(data),
-            [&answer](const hidl_string& bytes) { answer.setTo(bytes.c_str(), bytes.size()); });
+    Answer answer;
+    const Return<void> status = service.get()->hwInvoke(
+            bytesOf(data), [&answer](const hidl_string& bytes) { answer.take(bytes); });
     if (isDead(status)) {
         TLOGE("Error, hwInvoke failed, service is a DEAD_OBJECT.");
         return -1;
@@ -79,13 +102,13 @@ int HwTarnClient::hw_invoke(const Parcel& data, Parcel* reply) {
     // Any other transport error leaves an empty reply and counts as a success.
     reply->setDataSize(answer.size());
     reply->setDataPosition(0);
-    reply->write(answer.c_str(), answer.size());
+    reply->write(answer.data(), answer.size());
     return 0;
 }
 
 int HwTarnClient::postEvent(int what, const Parcel& data) {
-    const sp<IHwTarn> service = obtainHwTarnService();
-    if (service == nullptr) {
+    const ServiceInUse service;
+    if (service.get() == nullptr) {
         TLOGE("Error, postEvent failed, mHwTarnService null .");
         return -1;
     }
@@ -93,7 +116,7 @@ int HwTarnClient::postEvent(int what, const Parcel& data) {
         TLOGE("Error, postEvent failed, Parcel data szie to long , biger then BINDER_VM_SIZE .");
         return -1;
     }
-    if (isDead(service->hwPostEvent(what, bytesOf(data)))) {
+    if (isDead(service.get()->hwPostEvent(what, bytesOf(data)))) {
         TLOGE("Error, postEvent failed, service is a DEAD_OBJECT.");
         return -1;
     }

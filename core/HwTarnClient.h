@@ -3,6 +3,7 @@
 #include <utils/Mutex.h>
 #include <vendor/zunt/hwtarn/1.0/IHwTarn.h>
 
+#include <cstdint>
 #include <set>
 
 #include "core/IHwTarnClient.h"
@@ -20,6 +21,12 @@ extern SharedReference<ITarnClientLooper> mITarnClientLooper;
 
 /** Looks the service up afresh; null when there is none. */
 sp<::vendor::zunt::hwtarn::V1_0::IHwTarn> getHwTarnService();
+
+/**
+ * The cached proxy, looked up first where there is none, and the number of its edition; null
+ * without a service.
+ */
+sp<::vendor::zunt::hwtarn::V1_0::IHwTarn> obtainHwTarnService(uint32_t* edition = nullptr);
 
 /**
  * The connection to the hardware service: carries requests, replies and events as HIDL strings

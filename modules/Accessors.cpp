@@ -55,29 +55,31 @@ namespace android {
 
 namespace {
 
-/**
- * Makes the controller and puts it into *slot, an empty strong reference to an Interface: one that
- * has nothing to release, which an assignment would look for.
- */
-template <typename Controller, typename Interface>
-void make(const sp<TarnManager>& manager, void* slot) {
-    static_assert(sizeof(sp<Interface>) == sizeof(void*));
-    new (slot) sp<Interface>(new Controller(manager));
-}
+/** A strong reference in the manager as the word that it is. */
+using Slot __attribute__((__may_alias__)) = void*;
 
-/** What a strong reference leads to, which is all that it holds. */
-void* heldBy(const void* slot) {
+/** Makes the controller; the strong reference that its caller puts into a slot. */
+template <typename Controller, typename Interface>
+void* make(const sp<TarnManager>& manager) {
+    static_assert(sizeof(sp<Interface>) == sizeof(Slot));
+    alignas(sp<Interface>) unsigned char reference[sizeof(Slot)];
+    new (reference) sp<Interface>(new Controller(manager));  // never destroyed: the slot has it
     void* held = nullptr;
-    memcpy(&held, slot, sizeof(held));
+    memcpy(&held, reference, sizeof(held));
     return held;
 }
 
-/** The controller in *slot, made on the first call. */
-void* obtain(TarnManager* manager, Mutex* lock, void (*makeInto)(const sp<TarnManager>&, void*),
-             void* slot) {
+/** The controller in *slot, made on the first call. From then on nothing shared is written. */
+void* obtain(TarnManager* manager, Mutex* lock, void* (*make)(const sp<TarnManager>&), Slot* slot) {
+    void* held = __atomic_load_n(slot, __ATOMIC_ACQUIRE);
+    if (held != nullptr) return held;
     AutoMutex guard(*lock);
-    if (heldBy(slot) == nullptr) makeInto(sp<TarnManager>(manager), slot);
-    return heldBy(slot);
+    held = *slot;
+    if (held == nullptr) {
+        held = make(sp<TarnManager>(manager));
+        __atomic_store_n(slot, held, __ATOMIC_RELEASE);
+    }
+    return held;
 }
 
 }  // namespace
@@ -87,7 +89,8 @@ void* obtain(TarnManager* manager, Mutex* lock, void (*makeInto)(const sp<TarnMa
 #define ACCESSOR(name, Controller, lock)                                                     \
     I##Controller* TarnManager::name() {                                                     \
         return static_cast<I##Controller*>(                                                  \
-                obtain(this, &lock, make<Controller, I##Controller>, &m##Controller));       \
+                obtain(this, &lock, make<Controller, I##Controller>,                         \
+                       reinterpret_cast<Slot*>(&m##Controller)));                            \
     }
 // NOLINTEND(bugprone-macro-parentheses)
 
