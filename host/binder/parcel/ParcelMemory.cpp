@@ -6,48 +6,19 @@
 #include <log/log.h>
 
 #include <algorithm>
-#include <atomic>
-#include <cstdlib>
 #include <cstring>
 
+#include "Blocks.h"
 #include "ParcelLayout.h"
 #include "ParcelObjectTable.h"
 
 namespace android {
 
+using parcel::giveBlock;
 using parcel::kMaxSize;
+using parcel::kSmallestBlock;
 using parcel::ObjectTable;
-
-namespace {
-
-constexpr size_t kSmallestAllocation = 128;
-
-// From here on calloc is cheaper than clearing: it hands out pages that the kernel has cleared.
-constexpr size_t kLargeAllocation = 16 * 1024;
-
-std::atomic<size_t> gAllocatedBytes{0};
-std::atomic<size_t> gAllocations{0};
-
-// A block whose first `filled` bytes the caller overwrites at once. The others are cleared: what
-// the heap held before never shows in a parcel.
-uint8_t* allocate(size_t capacity, size_t filled) {
-    if (capacity - filled >= kLargeAllocation) return static_cast<uint8_t*>(calloc(capacity, 1));
-    uint8_t* block = static_cast<uint8_t*>(malloc(capacity));
-    if (block != nullptr) memset(block + filled, 0, capacity - filled);
-    return block;
-}
-
-void countAllocation(size_t capacity) {
-    gAllocatedBytes.fetch_add(capacity, std::memory_order_relaxed);
-    gAllocations.fetch_add(1, std::memory_order_relaxed);
-}
-
-void countRelease(size_t capacity) {
-    gAllocatedBytes.fetch_sub(capacity, std::memory_order_relaxed);
-    gAllocations.fetch_sub(1, std::memory_order_relaxed);
-}
-
-}  // namespace
+using parcel::takeBlock;
 
 Parcel::Parcel() {
     initState();
@@ -85,10 +56,7 @@ void Parcel::freeData() {
 
 void Parcel::freeDataNoInit() {
     if (mObjects != nullptr) releaseObjects();
-    if (mData != nullptr) {
-        countRelease(mDataCapacity);
-        free(mData);
-    }
+    giveBlock(mData, mDataCapacity);
 }
 
 void Parcel::releaseObjects() {
@@ -145,15 +113,11 @@ status_t Parcel::setData(const uint8_t* buffer, size_t len) {
     if (len > kMaxSize) return BAD_VALUE;
     uint8_t* block = mData;
     if (mData == nullptr || len == 0 || len != mDataCapacity) {
-        block = len > 0 || mData == nullptr ? allocate(len, len) : nullptr;
+        block = len > 0 || mData == nullptr ? takeBlock(len, len) : nullptr;
         if (block == nullptr && len > 0) return mError = NO_MEMORY;
-        if (block != nullptr) countAllocation(len);
     }
     if (len > 0) memmove(block, buffer, len);
-    if (mData != nullptr && mData != block) {
-        countRelease(mDataCapacity);
-        free(mData);
-    }
+    if (mData != block) giveBlock(mData, mDataCapacity);
     mData = block;
     mDataCapacity = mDataSize = len;
     mDataPos = 0;
@@ -207,7 +171,7 @@ status_t Parcel::growData(size_t len) {
     const uint64_t wanted = (uint64_t{mDataSize} + len) * 3 / 2;
     if (wanted > kMaxSize) return BAD_VALUE;
     if (wanted <= mDataSize) return NO_MEMORY;
-    size_t capacity = std::max<size_t>(wanted, kSmallestAllocation);
+    size_t capacity = std::max<size_t>(wanted, kSmallestBlock);
     // A position that continueWrite() keeps may lie beyond what the size asks for.
     if (mData != nullptr && capacity > mDataCapacity) capacity = std::max(capacity, mDataPos + len);
     const status_t status = continueWrite(capacity);
@@ -227,27 +191,25 @@ status_t Parcel::continueWrite(size_t desired) {
         mDataPos = std::min(mDataPos, desired);
         return NO_ERROR;
     }
-    uint8_t* block = allocate(desired, mDataCapacity);
+    uint8_t* block = takeBlock(desired, mDataCapacity);
     if (block == nullptr) return mError = NO_MEMORY;
     if (mData == nullptr) {
         mDataSize = mDataPos = 0;
     } else {
         memcpy(block, mData, mDataCapacity);
-        countRelease(mDataCapacity);
-        free(mData);
+        giveBlock(mData, mDataCapacity);
     }
-    countAllocation(desired);
     mData = block;
     mDataCapacity = desired;
     return NO_ERROR;
 }
 
 size_t Parcel::getGlobalAllocSize() {
-    return gAllocatedBytes.load(std::memory_order_relaxed);
+    return parcel::bytesInUse();
 }
 
 size_t Parcel::getGlobalAllocCount() {
-    return gAllocations.load(std::memory_order_relaxed);
+    return parcel::blocksInUse();
 }
 
 }  // namespace android

@@ -8,7 +8,9 @@
 
 #include <cstring>
 #include <iterator>
+#include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "tests/unit/host/ParcelHex.h"
@@ -141,6 +143,54 @@ TEST(HostParcel, CountsItsAllocations) {
     }
     EXPECT_EQ(count, Parcel::getGlobalAllocCount());
     EXPECT_EQ(size, Parcel::getGlobalAllocSize());
+}
+
+TEST(HostParcel, ShowsNoBytesOfASmallParcelBefore) {
+    for (int i = 0; i < 20; i++) {
+        Parcel parcel;
+        ASSERT_EQ(NO_ERROR, parcel.setDataSize(128));
+        EXPECT_EQ(std::string(256, '0'), hexOf(parcel));
+        const std::vector<uint8_t> bytes(128, 0xaa);
+        parcel.write(bytes.data(), bytes.size());
+    }
+}
+
+TEST(HostParcel, CountsWhatOneThreadTakesAndAnotherGivesBack) {
+    const size_t count = Parcel::getGlobalAllocCount();
+    const size_t size = Parcel::getGlobalAllocSize();
+    auto parcel = std::make_unique<Parcel>();
+    std::thread([&] { parcel->setDataCapacity(100); }).join();
+    EXPECT_EQ(count + 1, Parcel::getGlobalAllocCount());
+    EXPECT_EQ(size + 100, Parcel::getGlobalAllocSize());
+    std::thread([&] { parcel.reset(); }).join();
+    EXPECT_EQ(count, Parcel::getGlobalAllocCount());
+    EXPECT_EQ(size, Parcel::getGlobalAllocSize());
+}
+
+// Made before the thread's first parcel, so destroyed after what the thread keeps.
+struct LastParcel {
+    ~LastParcel() {
+        Parcel parcel;
+        parcel.writeInt32(value);
+        parcel.setDataPosition(0);
+        value = parcel.readInt32() + 1;
+        if (result != nullptr) *result = value;
+    }
+    int value = 6;
+    int* result = nullptr;
+};
+
+TEST(HostParcel, WorksWhileItsThreadEnds) {
+    const size_t count = Parcel::getGlobalAllocCount();
+    int result = 0;
+    std::thread([&] {
+        static thread_local LastParcel last;
+        last.result = &result;
+        Parcel first;
+        first.writeInt32(1);
+    }).join();
+    EXPECT_EQ(7, result);
+    EXPECT_EQ(count, Parcel::getGlobalAllocCount());
 }
 
 TEST(HostParcel, ComparesBytesThenSizes) {
