@@ -4,7 +4,7 @@
 BUILD ?= build
 CMAKE_FLAGS ?=
 
-.PHONY: run test test-arm32 soak fuzz coverage bench build format clean
+.PHONY: run test test-arm32 soak fuzz coverage bench bench-compare build format clean
 
 # $(call build,TARGET,LIST OF PACKAGES...)
 define build
@@ -46,9 +46,16 @@ coverage:
 	@scripts/install-packages packages.txt packages-test.txt packages-coverage.txt
 	@scripts/coverage $(CMAKE_FLAGS)
 
+# What a command costs; BENCH holds measures and options of scripts/bench.
+BENCH ?=
 bench:
-	$(call build,tarn_bench,packages.txt packages-test.txt)
-	@$(BUILD)/bin/tarn_bench
+	$(call build,bench_programs,packages.txt packages-bench.txt)
+	@scripts/bench $(BUILD) $(BENCH)
+
+# The same of revision REV, beside this tree's.
+bench-compare:
+	$(call build,bench_programs,packages.txt packages-bench.txt)
+	@scripts/bench-compare $(REV) $(BUILD) $(BENCH)
 
 build:
 	$(call build,all,packages.txt packages-test.txt)

@@ -13,7 +13,9 @@ void AnsweringService::setReply(int command, const android::Parcel& reply) {
     mReplies[command] = hidl_string(reinterpret_cast<const char*>(reply.data()), reply.dataSize());
 }
 
-Return<void> AnsweringService::hwRegisterCallback(const android::sp<IHwTarnCallback>&, int32_t) {
+Return<void> AnsweringService::hwRegisterCallback(const android::sp<IHwTarnCallback>& callback,
+                                                  int32_t) {
+    mCallback = callback;
     return Void();
 }
 
@@ -26,6 +28,10 @@ Return<void> AnsweringService::hwInvoke(const hidl_string& request, hwInvoke_cb 
 
 Return<void> AnsweringService::hwPostEvent(int32_t, const hidl_string&) {
     return Void();
+}
+
+void AnsweringService::raiseEvent(size_t bytes) {
+    mCallback->hwNotify_vec(1, 0, android::hardware::hidl_vec<uint8_t>(bytes));
 }
 
 }  // namespace tarn::bench

@@ -21,7 +21,11 @@ class AnsweringService : public ::vendor::zunt::hwtarn::V1_0::IHwTarn {
     android::hardware::Return<void> hwPostEvent(
             int32_t what, const android::hardware::hidl_string& data) override;
 
+    /** Raises an event of so many bytes. */
+    void raiseEvent(size_t bytes);
+
   private:
+    android::sp<::vendor::zunt::hwtarn::V1_0::IHwTarnCallback> mCallback;
     std::map<int, android::hardware::hidl_string> mReplies;
 };
 

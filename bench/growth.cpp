@@ -62,7 +62,9 @@ void requestBytes(benchmark::State& state) {
 BENCHMARK(requestBytes)->RangeMultiplier(16)->Range(16, 1 << 20)->Complexity();
 
 struct Listener : public ITarnListener {
-    void notify(unsigned int, int, int, const Parcel* data) override { benchmark::DoNotOptimize(data); }
+    void notify(unsigned int, int, int, const Parcel* data) override {
+        benchmark::DoNotOptimize(data);
+    }
 };
 
 void listeners(benchmark::State& state) {

@@ -46,6 +46,7 @@ constexpr char kCounterName[] = "tarn.bench.counter";
 
 constexpr char kInner[] = "--on-this-bus";
 constexpr char kServe[] = "--serve";
+constexpr char kJson[] = "--json";
 
 // Answers a command with its own bytes: the code comes back as the status.
 class EchoBoard : public IHwTarn {
@@ -132,6 +133,34 @@ class Service {
     int mInput = -1;
 };
 
+// What was measured; an aim of 0 is none.
+struct Figure {
+    std::string what;
+    double value;
+    const char* unit;
+    double aim;
+};
+std::vector<Figure> gFigures;
+
+void report(const std::string& what, double value, const char* unit, double aim = 0) {
+    gFigures.push_back({what, value, unit, aim});
+}
+
+void printFigures(bool asJson) {
+    if (asJson) puts("[");
+    for (const Figure& figure : gFigures) {
+        if (asJson) {
+            printf("{\"what\": \"%s\", \"figure\": %.9g, \"unit\": \"%s\"", figure.what.c_str(),
+                   figure.value, figure.unit);
+            if (figure.aim > 0) printf(", \"aim\": %g", figure.aim);
+            puts(&figure == &gFigures.back() ? "}" : "},");
+        } else {
+            printf("%-44s %12.2f %s\n", figure.what.c_str(), figure.value, figure.unit);
+        }
+    }
+    if (asJson) puts("]");
+}
+
 double secondsSince(steady_clock::time_point start) {
     return std::chrono::duration<double>(steady_clock::now() - start).count();
 }
@@ -170,7 +199,6 @@ void measureRoundTrips(double seconds) {
     const auto proxy = sdbus::createProxy(*connection, kBareName, kBarePath);
     const sp<TarnManager> manager = new TarnManager;
 
-    printf("round trip, median\n%12s %14s %14s %8s\n", "bytes", "command", "bare call", "ratio");
     for (const size_t size : {16, 256, 1024, 4096, 65536, 1024 * 1024}) {
         Parcel request;
         fill(request, size);
@@ -191,14 +219,14 @@ void measureRoundTrips(double seconds) {
         }
         const double command = median(std::move(commands));
         const double call = median(std::move(calls));
-        printf("%12zu %11.1f us %11.1f us %8.2f\n", size, command * 1e6, call * 1e6,
-               command / call);
+        const std::string what = "command of " + std::to_string(size) + " bytes";
+        report(what, command * 1e6, "us");
+        report(what + ", over a bare call", command / call, "times", 1.00);
     }
 }
 
 void measureConcurrency(double seconds) {
     const sp<TarnManager> manager = new TarnManager;
-    printf("\ncommands of 64 bytes, several threads\n%12s %14s\n", "threads", "a second");
     for (const int count : {1, 2, 4, 8}) {
         std::atomic<bool> stop{false};
         std::atomic<int64_t> done{0};
@@ -217,7 +245,8 @@ void measureConcurrency(double seconds) {
         std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
         stop = true;
         for (std::thread& thread : threads) thread.join();
-        printf("%12d %14.0f\n", count, static_cast<double>(done) / secondsSince(start));
+        report("commands of 64 bytes, " + std::to_string(count) + " callers",
+               static_cast<double>(done) / secondsSince(start), "a second");
     }
 }
 
@@ -246,12 +275,11 @@ void measureOneWay(double seconds) {
         while (total(counter) < sent - kAhead) std::this_thread::yield();
     }
     while (total(counter) < sent) std::this_thread::yield();
-    printf("\none-way calls of 8 bytes: %.0f a second\n",
-           static_cast<double>(sent) / secondsSince(start));
+    report("one-way calls of 8 bytes", static_cast<double>(sent) / secondsSince(start), "a second");
 }
 
 constexpr char kUsage[] =
-        "usage: tarn_bench [SECONDS]\n"
+        "usage: tarn_bench [--json] [SECONDS]\n"
         "Measures commands across processes; SECONDS a measurement, above 0 and up to 3600 (1).\n";
 
 // Seconds a measurement; 0 if the text is none.
@@ -263,22 +291,23 @@ double secondsFrom(const char* text) {
 }
 
 // Starts itself anew on a bus of its own.
-int runOnPrivateBus(const char* seconds) {
+int runOnPrivateBus(const char* format, const char* seconds) {
     char self[4096] = {};
     if (readlink("/proc/self/exe", self, sizeof(self) - 1) < 0) {
         perror("/proc/self/exe");
         return 1;
     }
-    execlp("dbus-run-session", "dbus-run-session", "--", self, kInner, seconds, nullptr);
+    execlp("dbus-run-session", "dbus-run-session", "--", self, kInner, format, seconds, nullptr);
     perror("dbus-run-session");
     return 1;
 }
 
-int measure(double seconds) {
+int measure(bool asJson, double seconds) {
     const Service service;
     measureRoundTrips(seconds);
     measureConcurrency(seconds);
     measureOneWay(seconds);
+    printFigures(asJson);
     if (fflush(stdout) == 0 && !ferror(stdout)) return 0;
     fputs("tarn_bench: standard output can't be written\n", stderr);
     return 1;
@@ -287,15 +316,21 @@ int measure(double seconds) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 2 && strcmp(argv[1], kServe) == 0) return serve();
-    if (argc == 3 && strcmp(argv[1], kInner) == 0) return measure(secondsFrom(argv[2]));
-    if (argc == 2 && (strcmp(argv[1], "-h") == 0 || strcmp(argv[1], "--help") == 0)) {
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    if (arguments.size() == 1 && arguments[0] == kServe) return serve();
+    if (arguments.size() == 3 && arguments[0] == kInner) {
+        return measure(arguments[1] == kJson, secondsFrom(argv[3]));
+    }
+    if (arguments.size() == 1 && (arguments[0] == "-h" || arguments[0] == "--help")) {
         fputs(kUsage, stdout);
         return 0;
     }
-    if (argc > 2 || (argc == 2 && secondsFrom(argv[1]) == 0)) {
+    const bool asJson = !arguments.empty() && arguments[0] == kJson;
+    if (asJson) arguments.erase(arguments.begin());
+    if (arguments.empty()) arguments.emplace_back("1");
+    if (arguments.size() > 1 || secondsFrom(arguments[0].c_str()) == 0) {
         fputs(kUsage, stderr);
         return 2;
     }
-    return runOnPrivateBus(argc == 2 ? argv[1] : "1");
+    return runOnPrivateBus(asJson ? kJson : "--text", arguments[0].c_str());
 }
