@@ -100,9 +100,9 @@ def served_board(programs):
     """A bus of its own with a board on it; gives the environment."""
     bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE, text=True)
     environment = dict(without_bus(), DBUS_SESSION_BUS_ADDRESS=bus.stdout.readline().strip())
-    board = subprocess.Popen([programs.path("tarn-board")], stdout=subprocess.PIPE, text=True, env=environment)
+    board = subprocess.Popen([programs.path("tarn-board")], stderr=subprocess.PIPE, text=True, env=environment)
     try:
-        board.stdout.readline()
+        board.stderr.readline()
         yield environment
     finally:
         for process in (board, bus):
@@ -141,9 +141,9 @@ def start(programs, table):
     table.add("tarnctl call, a served board", ours, "ms", theirs)
     table.add("... processor time", ours_cpu, "ms", theirs_cpu)
     table.add("a new process to its first reply and end", reply, "ms", theirs)
-    with_board = [[tarnctl, "--board", "call", "audio.getVolume"]]
-    for word in ("audio.get", "describe a", "call tv"):
-        with_board.append([tarnctl, "complete"] + word.split())
+    with_board = [[tarnctl, "--embedded", "call", "audio.getVolume"]]
+    for words in ("call audio.get", "get audio.", "board fault CMD_AUDIO", "describe a"):
+        with_board.append([tarnctl, "--", "__complete"] + words.split())
     results = _starts(with_board, without_bus())
     table.add("tarnctl call, a board of its own: processor time", results[0][1], "ms", 8)
     table.add("completion: processor time", max(cpu for _, cpu in results[1:]), "ms", 10)
@@ -159,14 +159,13 @@ def growth(programs, table):
     output = run([programs.path("tarn_bench_growth"), "--benchmark_format=json",
                   "--benchmark_min_time=%g" % (programs.seconds / 10)], without_bus())
     series = {}
+    growths = {}
     for entry in json.loads(output.stdout)["benchmarks"]:
+        parts = entry["name"].replace("_BigO", "").split("/")
         if entry.get("aggregate_name") == "BigO":
-            series[entry["run_name"]]["growth"] = entry["big_o"]
+            growths[parts[0]] = entry["big_o"]
         elif "aggregate_name" not in entry:
-            name, size = entry["name"].split("/")[:2]
-            series.setdefault(entry["name"].split("/")[0], {})[size] = (entry["cpu_time"], entry["time_unit"])
-            series.setdefault(name, {})
-    for name, sizes in series.items():
-        kind = sizes.pop("growth", "?")
-        for size, (cost, unit) in sizes.items():
-            table.add("%s, %s (grows with %s)" % (name, size, kind), cost, unit)
+            series.setdefault(parts[0], []).append((parts[1], entry["cpu_time"], entry["time_unit"]))
+    for name, points in series.items():
+        for size, cost, unit in points:
+            table.add("%s, %s (grows with %s)" % (name, size, growths.get(name, "?")), cost, unit)
