@@ -1,5 +1,8 @@
 #include "protocol/Catalog.h"
 
+#include <algorithm>
+#include <cstring>
+
 namespace tarn::protocol {
 
 namespace {
@@ -29,6 +32,15 @@ std::vector<std::string> readControllers() {
     };
 }
 
+std::vector<const Command*> sortByName() {
+    std::vector<const Command*> rows;
+    for (const Command& row : kRows) rows.push_back(&row);
+    std::sort(rows.begin(), rows.end(), [](const Command* left, const Command* right) {
+        return strcmp(left->name, right->name) < 0;
+    });
+    return rows;
+}
+
 }  // namespace
 
 const std::array<Command, kRowCount>& commands() {
@@ -40,10 +52,11 @@ const Command& commandOf(Row row) {
 }
 
 const Command* findCommand(const std::string& name) {
-    for (const Command& row : commands()) {
-        if (name == row.name) return &row;
-    }
-    return nullptr;
+    static const std::vector<const Command*> sorted = sortByName();
+    const auto found = std::lower_bound(
+            sorted.begin(), sorted.end(), name,
+            [](const Command* row, const std::string& wanted) { return wanted > row->name; });
+    return found != sorted.end() && name == (*found)->name ? *found : nullptr;
 }
 
 std::vector<const Command*> findCommands(int32_t code) {
