@@ -152,7 +152,7 @@ for seconds in abc 0 01 1.5 -1 '' 1000000 $'1\n2'; do
     says "make fuzz: SECONDS=$seconds can't be used; accepted: a whole number from 1 to 999999" \
         fuzz "$seconds"
 done
-fuzzers='board bus_values carrier_messages carrier_queue carrier_tables description layouts methods'
+fuzzers='board bus_values carrier_channel carrier_messages carrier_queue carrier_tables description layouts methods'
 fuzzers+=' parcel properties stubs tarnctl'
 says '' fuzz 10 parcel stubs
 for fuzzer in parcels PARCEL par '.*' -v; do

@@ -55,6 +55,22 @@ bool takeReferences(sdbus::Message& message, std::vector<Reference>* references)
 
 }  // namespace
 
+const char* errorOf(Failure failure) {
+    switch (failure) {
+        case Failure::NO_SUCH_OBJECT:
+            return kNoSuchObject;
+        case Failure::MALFORMED:
+            return kMalformed;
+        case Failure::EXHAUSTED:
+            return kExhausted;
+        case Failure::OVERLOADED:
+            return kOverloaded;
+        case Failure::UNANSWERED:
+            break;
+    }
+    return kUnanswered;
+}
+
 void write(sdbus::Message& message, const Content& content) {
     message.openContainer("(ust)");
     for (const Reference& reference : content.references) {

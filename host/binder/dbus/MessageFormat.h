@@ -16,8 +16,10 @@ namespace android::host::dbus {
  *   ReleaseMany(objects)        the same for several objects, each with its count
  *   Grant(object, holder)       the caller lends an object on to a third process
  *   Lookup(service) -> (owner, object)
+ *   OpenChannel(socket)         offers the caller's channel to it (ChannelFormat.h)
+ *   UseChannel()                from now on the caller writes to the channel
  *
- * Release, ReleaseMany, Grant and a one-way Transact have no reply.
+ * Release, ReleaseMany, UseChannel and a one-way Transact have no reply.
  */
 inline constexpr char kObjectPath[] = "/tarn/binder";
 inline constexpr char kInterface[] = "tarn.binder.Carrier1";
@@ -26,12 +28,28 @@ inline constexpr char kRelease[] = "Release";
 inline constexpr char kReleaseMany[] = "ReleaseMany";
 inline constexpr char kGrant[] = "Grant";
 inline constexpr char kLookup[] = "Lookup";
+inline constexpr char kOpenChannel[] = "OpenChannel";
+inline constexpr char kUseChannel[] = "UseChannel";
 
 inline constexpr char kNoSuchObject[] = "tarn.binder.Error.NoSuchObject";
 inline constexpr char kMalformed[] = "tarn.binder.Error.Malformed";
 inline constexpr char kExhausted[] = "tarn.binder.Error.Exhausted";
 inline constexpr char kOverloaded[] = "tarn.binder.Error.Overloaded";
 inline constexpr char kUnanswered[] = "tarn.binder.Error.Unanswered";
+inline constexpr char kNoChannel[] = "tarn.binder.Error.NoChannel";
+
+/** Why a transaction has no reply. */
+enum class Failure : uint32_t {
+    NO_SUCH_OBJECT = 1,
+    MALFORMED,
+    EXHAUSTED,
+    OVERLOADED,
+    UNANSWERED,
+    LAST = UNANSWERED,
+};
+
+/** The error that says so on the bus. */
+const char* errorOf(Failure failure);
 
 /** Never sent: what a call ends with that another process answers than the one that was called. */
 inline constexpr char kForged[] = "tarn.binder.Error.Forged";
