@@ -394,6 +394,103 @@ TEST_F(Carrier, KeepsTheOrderOfOneWayCalls) {
     EXPECT_EQ(sent, desk.client.notes());
 }
 
+// From the first call on, which goes over the bus, to those on the channel.
+TEST_F(Carrier, KeepsTheOrderWhileAChannelIsOpened) {
+    for (int desks = 0; desks < 10; desks++) {
+        RemoteDesk desk("tarn.test.desk");
+        for (int32_t i = 0; i < 500; i++) ASSERT_EQ(NO_ERROR, desk.client.note(i));
+        EXPECT_TRUE(eventually([&] { return desk.client.notes().size() == 500; }));
+        const std::vector<int32_t> notes = desk.client.notes();
+        EXPECT_TRUE(std::is_sorted(notes.begin(), notes.end()));
+        EXPECT_TRUE(desk.client.settle());
+    }
+}
+
+// Each has a reference home, which must be there before the last hold of it ends.
+TEST_F(Carrier, BringsObjectsHomeWhileAChannelIsOpened) {
+    for (int desks = 0; desks < 10; desks++) {
+        RemoteDesk desk("tarn.test.desk");
+        for (int i = 0; i < 20; i++) {
+            sp<IBinder> theirs = desk.client.make();
+            ASSERT_NE(nullptr, theirs);
+            Parcel data;
+            data.writeStrongBinder(theirs);
+            ASSERT_EQ(NO_ERROR, desk.client.binder()->transact(Desk::KEEP, data, nullptr,
+                                                               IBinder::FLAG_ONEWAY));
+        }
+        EXPECT_TRUE(eventually(
+                [&] { return desk.client.drop() == NO_ERROR && desk.client.counts().lent == 1; }));
+    }
+}
+
+TEST_F(Carrier, HasOneChannelForTwoThatOfferOne) {
+    const sp<Desk> mine = new Desk;
+    for (int desks = 0; desks < 10; desks++) {
+        RemoteDesk desk("tarn.test.desk");
+        EXPECT_EQ(NO_ERROR, desk.client.keep(mine));
+        // It calls this process while this one calls it.
+        auto calls = std::async(std::launch::async, [&] {
+            for (int i = 0; i < 100; i++) EXPECT_EQ(0, desk.client.call(Desk::INSIDE));
+        });
+        for (int i = 0; i < 100; i++) EXPECT_EQ(0, desk.client.inside());
+        calls.get();
+        EXPECT_TRUE(desk.client.settle());
+        EXPECT_EQ(NO_ERROR, desk.client.drop());
+    }
+}
+
+// A process that says so much that it does not fit into a socket, and is gone.
+CHILD(talker) {
+    const DeskClient desk(find(arguments[0]));
+    tell("ready");
+    listen();
+    for (int32_t i = 0; i < 2000; i++) desk.note(i);
+    _exit(0);
+}
+
+TEST_F(Carrier, HearsWhatAProcessSaysLast) {
+    RemoteDesk desk("tarn.test.desk");
+    {
+        Child talker("talker", {"tarn.test.desk"});
+        talker.readLine();
+        talker.writeLine("go");
+    }
+    EXPECT_TRUE(eventually([&] { return !desk.client.notes().empty(); }));
+    EXPECT_TRUE(eventually([&] { return desk.client.counts().waiting == 0; }));
+    const std::vector<int32_t> notes = desk.client.notes();
+    EXPECT_TRUE(std::is_sorted(notes.begin(), notes.end()));
+    EXPECT_LE(256u, notes.size());
+}
+
+TEST_F(Carrier, IsNotHeldUpByAProcessThatStandsStill) {
+    RemoteDesk desk("tarn.test.desk");
+    RemoteDesk other("tarn.test.other");
+    EXPECT_TRUE(desk.client.settle());
+    ::kill(desk.process.pid(), SIGSTOP);
+    int32_t sent = 0;
+    while (sent < 20000 && desk.client.note(sent) == NO_ERROR) sent++;
+    if (onBusOnly()) {
+        EXPECT_EQ(20000, sent);
+    } else {
+        EXPECT_LT(sent, 20000);
+        EXPECT_EQ(FAILED_TRANSACTION, desk.client.note(0));
+        EXPECT_EQ(FAILED_TRANSACTION, desk.client.open());
+    }
+    std::vector<uint8_t> back;
+    EXPECT_EQ(NO_ERROR, other.client.echo({1}, &back));
+    ::kill(desk.process.pid(), SIGCONT);
+    // It may drop some before it has caught up.
+    std::vector<int32_t> notes;
+    EXPECT_TRUE(eventually([&] {
+        desk.client.note(-1);
+        notes = desk.client.notes();
+        return !notes.empty() && notes.back() == -1;
+    }));
+    notes.erase(std::find(notes.begin(), notes.end(), -1), notes.end());
+    EXPECT_TRUE(std::is_sorted(notes.begin(), notes.end()));
+    EXPECT_LE(4096u, notes.size());
+}
+
 TEST_F(Carrier, DoesNotWaitForAOneWayCall) {
     RemoteDesk desk("tarn.test.desk");
     Parcel data;

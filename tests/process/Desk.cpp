@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <cstdlib>
 #include <utility>
 
 #include "host/binder/dbus/DBusCarrier.h"
@@ -120,7 +121,8 @@ status_t Desk::onTransact(uint32_t code, const Parcel& data, Parcel* reply, uint
             reply->writeInt32(counts.waiting);
             reply->writeInt32(counts.peers);
             reply->writeInt32(counts.questions);
-            return reply->writeInt32(counts.descriptors);
+            reply->writeInt32(counts.descriptors);
+            return reply->writeInt32(counts.channels);
         }
         case VANISH:
             _exit(0);
@@ -136,7 +138,16 @@ Counts countsHere() {
     return {static_cast<int32_t>(counts.objects.remotes), static_cast<int32_t>(counts.objects.lent),
             static_cast<int32_t>(counts.objects.holds),   static_cast<int32_t>(counts.waitingCalls),
             static_cast<int32_t>(counts.peers),           static_cast<int32_t>(counts.questions),
-            static_cast<int32_t>(openDescriptors())};
+            static_cast<int32_t>(openDescriptors()),      static_cast<int32_t>(counts.channels)};
+}
+
+bool onBusOnly() {
+    const char* const value = getenv("TARN_BINDER_BUS_ONLY");
+    return value != nullptr && *value != '\0';
+}
+
+bool DeskClient::settle() const {
+    return eventually([this] { return counts().channels == (onBusOnly() ? 0 : 1); });
 }
 
 status_t DeskClient::send(uint32_t code) const {
@@ -234,7 +245,7 @@ Counts DeskClient::counts() const {
     Parcel data;
     Parcel reply;
     if (mDesk->transact(Desk::COUNTS, data, &reply) != NO_ERROR)
-        return {-1, -1, -1, -1, -1, -1, -1};
+        return {-1, -1, -1, -1, -1, -1, -1, -1};
     Counts counts;
     counts.proxies = reply.readInt32();
     counts.lent = reply.readInt32();
@@ -243,6 +254,7 @@ Counts DeskClient::counts() const {
     counts.peers = reply.readInt32();
     counts.questions = reply.readInt32();
     counts.descriptors = reply.readInt32();
+    counts.channels = reply.readInt32();
     return counts;
 }
 

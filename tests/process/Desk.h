@@ -61,8 +61,12 @@ struct Counts {
     int32_t peers = 0;
     int32_t questions = 0;
     int32_t descriptors = 0;
+    int32_t channels = 0;
 };
 Counts countsHere();
+
+/** True where processes are kept from speaking on channels (TARN_BINDER_BUS_ONLY). */
+bool onBusOnly();
 
 /** The desk's calls, from the other side. */
 class DeskClient {
@@ -86,6 +90,8 @@ class DeskClient {
     int32_t inside() const;
     android::status_t vanish() const;
     Counts counts() const;
+    /** Waits until the desk's process has its channel, if it is to have one. */
+    bool settle() const;
 
   private:
     android::status_t send(uint32_t code) const;

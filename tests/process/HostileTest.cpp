@@ -191,6 +191,7 @@ class Hostile : public testing::Test {
         mProcess.readLine();
         mDesk = DeskClient(find(kDeskName));
         mNumber = mRogue.deskNumber(&mDeskOwner);
+        EXPECT_TRUE(mDesk.settle());
         mDescriptors = mDesk.counts().descriptors;
     }
 
@@ -522,13 +523,15 @@ class HostileToFull : public Hostile {
 };
 
 TEST_F(HostileToFull, AShortageIsAnErrorOfItsOwn) {
-    const Content large{{}, std::vector<uint8_t>(2000)};
+    const Content large{{}, std::vector<uint8_t>(50000)};
     std::vector<uint8_t> back;
     for (const std::string left : {"none", "one"}) {
         mProcess.writeLine("next");
         EXPECT_EQ(left, mProcess.readLine());
         EXPECT_EQ(kExhausted, transact(large, nullptr, Desk::NOTES));
-        EXPECT_EQ(FAILED_TRANSACTION, mDesk.echo(large.bytes, &back));
+        // On a channel one is enough: the request's is closed before the reply needs it.
+        const bool enough = left == "one" && !onBusOnly();
+        EXPECT_EQ(enough ? NO_ERROR : FAILED_TRANSACTION, mDesk.echo(large.bytes, &back));
         EXPECT_EQ(NO_ERROR, mDesk.echo({1}, &back));
     }
     mProcess.writeLine("more");

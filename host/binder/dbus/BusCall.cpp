@@ -17,6 +17,14 @@ BusCall::BusCall(const sdbus::MethodCall& message, std::shared_ptr<Peer> sender,
     failure = message.createErrorReply(sdbus::Error(kUnanswered, "The reply cannot be sent"));
 }
 
+BusCall::BusCall(std::shared_ptr<PeerChannel> from, uint64_t number, std::shared_ptr<Peer> sender,
+                 Responder responder)
+    : caller(std::move(sender)),
+      channel(std::move(from)),
+      channelCall(number),
+      mOneWay(number == 0),
+      mResponder(std::move(responder)) {}
+
 BusCall::~BusCall() {
     if (!mAnswered && !isOneWay()) mResponder(*this, UNKNOWN_ERROR, Payload());
     if (mQueue != nullptr) mQueue->leaveLane(object);

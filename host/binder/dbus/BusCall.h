@@ -14,8 +14,8 @@ namespace android::host::dbus {
 class CallQueue;
 
 /**
- * A transaction that came in over the bus. It does not keep the message, which may have files with
- * it: what is needed to answer is made when it comes in.
+ * A transaction that came in, over the bus or on a channel. It does not keep the message, which may
+ * have files with it: what is needed to answer is made when it comes in.
  */
 class BusCall : public IncomingCall {
   public:
@@ -23,6 +23,9 @@ class BusCall : public IncomingCall {
     using Responder = std::function<void(BusCall&, status_t, Payload)>;
 
     BusCall(const sdbus::MethodCall& message, std::shared_ptr<Peer> sender, Responder responder);
+    /** One that came on a channel, with its number there; 0 if it is one-way. */
+    BusCall(std::shared_ptr<PeerChannel> from, uint64_t number, std::shared_ptr<Peer> sender,
+            Responder responder);
     /** Answers with UNKNOWN_ERROR if the caller still waits, and lets the next one-way call follow.
      */
     ~BusCall() override;
@@ -39,7 +42,12 @@ class BusCall : public IncomingCall {
     const std::shared_ptr<Peer> caller;
     uint64_t object = 0;
 
-    // Neither of a one-way call: the reply, and the error in its place if it cannot be filled.
+    // The channel that it came on, and its number there; null if it came on the bus.
+    const std::shared_ptr<PeerChannel> channel;
+    const uint64_t channelCall = 0;
+
+    // Of one that came on the bus and is not one-way: the reply, and the error in its place if it
+    // cannot be filled.
     sdbus::MethodReply reply;
     sdbus::MethodReply failure;
 

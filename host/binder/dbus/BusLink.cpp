@@ -3,12 +3,12 @@
 #include "BusLink.h"
 
 #include <log/log.h>
-#include <poll.h>
 #include <pthread.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <exception>
 #include <utility>
@@ -25,12 +25,13 @@ constexpr char kNameOwnerChanged[] =
         "type='signal',sender='org.freedesktop.DBus',path='/org/freedesktop/DBus',"
         "interface='org.freedesktop.DBus',member='NameOwnerChanged'";
 
-// The library reports a lost connection by the name of an errno.
+// The library reports a lost connection by the name of an errno, or as the bus would.
 bool meansBroken(const sdbus::Error& error) {
     const std::string prefix = "System.Error.";
     const std::string& name = error.getName();
     return name == prefix + "ENOTCONN" || name == prefix + "ECONNRESET" ||
-           name == prefix + "EPIPE" || name == prefix + "ESHUTDOWN";
+           name == prefix + "EPIPE" || name == prefix + "ESHUTDOWN" ||
+           name == "org.freedesktop.DBus.Error.Disconnected";
 }
 
 // The link whose thread this is.
@@ -82,6 +83,8 @@ BusLink::BusLink(const std::string& address)
     mObject->registerMethod(kInterface, kReleaseMany, "a(tu)", "", accept);
     mObject->registerMethod(kInterface, kGrant, "ts", "", accept);
     mObject->registerMethod(kInterface, kLookup, "s", "st", accept);
+    mObject->registerMethod(kInterface, kOpenChannel, "h", "", accept);
+    mObject->registerMethod(kInterface, kUseChannel, "", "", accept);
     mObject->finishRegistration();
 }
 
@@ -103,7 +106,7 @@ void BusLink::run() {
         for (;;) {
             const bool more = process();
             deliver();
-            if (!more) waitForEvents();
+            while (!waitForEvents(more)) continue;
         }
     } catch (const std::exception& error) {
         deliver();
@@ -137,20 +140,53 @@ void BusLink::deliver() {
     for (const auto& arrived : std::exchange(mInbox, {})) handle(arrived);
 }
 
-// This thread writes the rest of a message that did not fit into the socket. Its sender wakes it,
-// since it may already wait for input only.
-void BusLink::waitForEvents() {
+// Serves what is watched, and gives true when there is something to do for the bus. This thread
+// writes the rest of a message that did not fit into the socket. Its sender wakes it, since it may
+// already wait for input only.
+bool BusLink::waitForEvents(bool more) {
     sdbus::IConnection::PollData wanted;
     {
         std::lock_guard<std::mutex> lock(mLock);
         wanted = mConnection->getEventLoopPollData();
     }
-    pollfd descriptors[] = {{wanted.fd, wanted.events, 0}, {mWakeFd, POLLIN, 0}};
-    const int ready = poll(descriptors, 2, wanted.getPollTimeout());
-    if (ready > 0 && descriptors[1].revents != 0) {
+    mPolled.assign({{wanted.fd, wanted.events, 0}, {mWakeFd, POLLIN, 0}});
+    for (const auto& each : mWatched) mPolled.push_back({each->descriptor(), each->events(), 0});
+    const int ready = poll(mPolled.data(), mPolled.size(), more ? 0 : wanted.getPollTimeout());
+    if (ready <= 0) return true;
+    const bool woken = mPolled[1].revents != 0;
+    if (woken) {
         eventfd_t count;
         eventfd_read(mWakeFd, &count);
     }
+    const bool forBus = more || woken || mPolled[0].revents != 0;
+    serveWatched();
+    return forBus;
+}
+
+// One of them may end another one.
+void BusLink::serveWatched() {
+    std::vector<std::pair<std::shared_ptr<Watched>, short>> ready;
+    for (size_t i = 0; i < mWatched.size(); i++) {
+        const short events = mPolled[2 + i].revents;
+        if (events != 0) ready.emplace_back(mWatched[i], events);
+    }
+    for (const auto& [watched, events] : ready) {
+        if (std::find(mWatched.begin(), mWatched.end(), watched) == mWatched.end()) continue;
+        handle([&watched = watched, &events = events] { watched->onReady(events); });
+    }
+}
+
+void BusLink::watch(std::shared_ptr<Watched> watched) {
+    mWatched.push_back(std::move(watched));
+}
+
+void BusLink::unwatch(const Watched& watched) {
+    const auto isIt = [&watched](const auto& each) { return each.get() == &watched; };
+    mWatched.erase(std::remove_if(mWatched.begin(), mWatched.end(), isIt), mWatched.end());
+}
+
+bool BusLink::isServedHere() const {
+    return gServedLink == this;
 }
 
 void BusLink::wake() {
@@ -206,9 +242,9 @@ bool BusLink::hasUnwritten() {
 // Each thread waits until its own message is written, so that the amount of unwritten data is
 // bounded. A slow receiver does not matter here: the bus takes every message at once.
 template <typename Send>
-bool BusLink::sendLocked(Send send) {
+bool BusLink::sendLocked(const Condition& condition, Send send) {
     std::unique_lock<std::mutex> lock(mLock);
-    if (mBroken) return false;
+    if (mBroken || (condition && !condition())) return false;
     try {
         send();
     } catch (const sdbus::Error& error) {
@@ -222,21 +258,32 @@ bool BusLink::sendLocked(Send send) {
     if (!hasUnwritten()) return true;
     const uint64_t mine = ++mQueued;
     wake();
-    if (gServedLink != this) {
+    if (!isServedHere()) {
         mChanged.wait(lock, [this, mine] { return mBroken || mWritten >= mine; });
     }
     return true;
 }
 
-bool BusLink::send(sdbus::MethodCall& call) {
-    return sendLocked([&call] {
+bool BusLink::send(sdbus::MethodCall& call, const std::function<void()>& then) {
+    return sendLocked(nullptr, [&] {
         call.dontExpectReply();
         call.send(0);
+        if (then) then();
     });
 }
 
-bool BusLink::send(const sdbus::MethodReply& reply) {
-    return sendLocked([&reply] { reply.send(); });
+bool BusLink::send(const sdbus::MethodReply& reply, const std::function<void()>& then) {
+    return sendLocked(nullptr, [&] {
+        reply.send();
+        if (then) then();
+    });
+}
+
+bool BusLink::sendIf(const Condition& condition, sdbus::MethodCall& call) {
+    return sendLocked(condition, [&call] {
+        call.dontExpectReply();
+        call.send(0);
+    });
 }
 
 void BusLink::sendError(const sdbus::MethodCall& call, const char* error, const char* why) {
@@ -249,10 +296,11 @@ void BusLink::sendError(const sdbus::MethodCall& call, const char* error, const 
 }
 
 bool BusLink::call(const std::shared_ptr<Destination>& destination, const sdbus::MethodCall& call,
-                   std::chrono::microseconds timeout, AnswerHandler handler) {
+                   std::chrono::microseconds timeout, AnswerHandler handler,
+                   const Condition& condition) {
     const auto pending = std::make_shared<Pending>(Pending{destination, std::move(handler)});
     const bool limited = timeout != kForever;
-    return sendLocked([&] {
+    return sendLocked(condition, [&] {
         destination->mProxy->callMethod(
                 call,
                 [this, pending](sdbus::MethodReply& reply, const sdbus::Error* error) {
@@ -270,6 +318,21 @@ bool BusLink::call(const std::shared_ptr<Destination>& destination, const sdbus:
         mPending.insert(pending);
         if (limited) wake();
     });
+}
+
+bool BusLink::ping(const std::shared_ptr<Destination>& destination,
+                   std::function<void(const sdbus::Error*)> onEnd) {
+    try {
+        const sdbus::MethodCall question =
+                newCall(*destination, "org.freedesktop.DBus.Peer", "Ping");
+        return call(destination, question, kForever,
+                    [onEnd = std::move(onEnd)](sdbus::MethodReply&, const sdbus::Error* error) {
+                        onEnd(error);
+                    });
+    } catch (const sdbus::Error& error) {
+        ALOGW("A process cannot be asked whether it lives: %s", error.what());
+        return false;
+    }
 }
 
 void BusLink::finish(const std::shared_ptr<Pending>& pending, sdbus::MethodReply& reply,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <poll.h>
 #include <sdbus-c++/sdbus-c++.h>
 
 #include <chrono>
@@ -38,6 +39,16 @@ class BusLink {
 
       protected:
         ~Listener() = default;
+    };
+
+    /** What the link's thread waits for besides the bus. All on the link's thread. */
+    class Watched {
+      public:
+        virtual ~Watched() = default;
+        virtual int descriptor() const = 0;
+        /** The events of poll() to wait for. */
+        virtual short events() = 0;
+        virtual void onReady(short ready) = 0;
     };
 
     /** A process to call, by bus name. It is kept by the calls that wait for an answer. */
@@ -91,9 +102,16 @@ class BusLink {
 
     sdbus::MethodCall newCall(Destination& destination, const char* interface, const char* method);
 
-    /** Sends a call without a reply, or a reply; false if it cannot be sent. */
-    bool send(sdbus::MethodCall& call);
-    bool send(const sdbus::MethodReply& reply);
+    /** Asked before a message is sent: if it says no, the message is not sent. */
+    using Condition = std::function<bool()>;
+
+    /**
+     * Sends a call without a reply, or a reply; false if it cannot be sent. `then` is run when it
+     * is sent; neither it nor the condition is run while another thread sends.
+     */
+    bool send(sdbus::MethodCall& call, const std::function<void()>& then = nullptr);
+    bool send(const sdbus::MethodReply& reply, const std::function<void()>& then = nullptr);
+    bool sendIf(const Condition& condition, sdbus::MethodCall& call);
 
     /** Answers a call with an error, unless it is one without a reply. */
     void sendError(const sdbus::MethodCall& call, const char* error, const char* why);
@@ -102,7 +120,27 @@ class BusLink {
      * Sends a call; the handler is called exactly once, unless the call cannot be sent (false).
      */
     bool call(const std::shared_ptr<Destination>& destination, const sdbus::MethodCall& call,
-              std::chrono::microseconds timeout, AnswerHandler handler);
+              std::chrono::microseconds timeout, AnswerHandler handler,
+              const Condition& condition = nullptr);
+
+    /**
+     * Asks a process for a sign of life, which its link gives when it has handled all that it was
+     * sent before; `onEnd` is called once, with the error or null. False if it cannot be asked.
+     */
+    bool ping(const std::shared_ptr<Destination>& destination,
+              std::function<void(const sdbus::Error*)> onEnd);
+
+    /** True on the link's thread. */
+    bool isServedHere() const;
+
+    /** Has the link's thread ask the watched ones for their events again. On any thread. */
+    void wake();
+
+    // On the link's thread.
+
+    void watch(std::shared_ptr<Watched> watched);
+    void unwatch(const Watched& watched);
+    DescriptorReserve& reserve() { return mReserve; }
 
   private:
     struct Pending {
@@ -114,14 +152,14 @@ class BusLink {
     bool process();
     void deliver();
     static void handle(const std::function<void()>& handler);
-    void waitForEvents();
+    bool waitForEvents(bool more);
+    void serveWatched();
     void disconnected(const char* why);
     void finish(const std::shared_ptr<Pending>& pending, sdbus::MethodReply& reply,
                 const sdbus::Error* error);
-    void wake();
     bool hasUnwritten();
     template <typename Send>
-    bool sendLocked(Send send);
+    bool sendLocked(const Condition& condition, Send send);
 
     std::unique_ptr<sdbus::IConnection> mConnection;
     std::unique_ptr<sdbus::IObject> mObject;
@@ -140,6 +178,8 @@ class BusLink {
 
     // Used by the link's thread only: what came in and is not handled yet, and what reading needs.
     std::vector<std::function<void()>> mInbox;
+    std::vector<std::shared_ptr<Watched>> mWatched;
+    std::vector<pollfd> mPolled;
     DescriptorReserve mReserve;
 };
 

@@ -16,11 +16,12 @@ DBusCarrier::DBusCarrier(const std::string& address)
       mBus(mLink),
       mReleaser(mQueues),
       mPeerTable(mLink),
-      mDeaths(mPeerTable, mObjects, mQueues, mReleaser),
+      mDeaths(mPeerTable, mObjects, mQueues, mReleaser, mChannels),
       mPeers(mBus, mPeerTable, mDeaths, mQueues),
       mExchange(mLink, mObjects, mPeers, mReleaser),
-      mSender(mLink, mObjects, mExchange, mDeaths),
+      mSender(mLink, mObjects, mExchange, mDeaths, mChannels),
       mReceiver(mLink, mObjects, mExchange, mQueues, mReleaser),
+      mChannels(mLink, mPeers, mExchange, mReceiver, mDeaths),
       mServices(mLink, mBus, mPeers, mExchange, mQueues, mReleaser) {
     mLink.start(this);
 }
@@ -39,6 +40,10 @@ void DBusCarrier::onCall(sdbus::MethodCall call) {
             mExchange.onReleaseMany(call, *caller);
         } else if (method == kGrant) {
             mExchange.onGrant(call);
+        } else if (method == kOpenChannel) {
+            mChannels.onOpen(call, caller);
+        } else if (method == kUseChannel) {
+            mChannels.onUse(*caller);
         } else {
             mServices.onLookup(call, *caller);
         }
@@ -109,7 +114,8 @@ std::vector<String16> DBusCarrier::list() {
 }
 
 DBusCarrier::Counts DBusCarrier::counts() {
-    return {mObjects.counts(), mPeerTable.size(), mQueues.size(), mLink.unanswered()};
+    return {mObjects.counts(), mPeerTable.size(), mQueues.size(), mLink.unanswered(),
+            mChannels.count()};
 }
 
 }  // namespace android::host::dbus

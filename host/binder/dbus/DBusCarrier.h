@@ -9,6 +9,7 @@
 #include "CallQueue.h"
 #include "CallReceiver.h"
 #include "CallSender.h"
+#include "Channels.h"
 #include "DeathWatch.h"
 #include "ObjectExchange.h"
 #include "PeerDirectory.h"
@@ -48,6 +49,7 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
         size_t peers;
         size_t waitingCalls;
         size_t questions;  // sent and not answered
+        size_t channels;
     };
     Counts counts();
 
@@ -68,6 +70,7 @@ class DBusCarrier : public Carrier, private BusLink::Listener {
     ObjectExchange mExchange;
     CallSender mSender;
     CallReceiver mReceiver;
+    Channels mChannels;
     ServiceNames mServices;
 };
 

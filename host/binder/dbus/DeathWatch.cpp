@@ -5,11 +5,14 @@
 #include <utility>
 #include <vector>
 
+#include "Channels.h"
 #include "host/binder/process/UnservedWarning.h"
 
 namespace android::host::dbus {
 
+// What it said last comes first.
 void DeathWatch::peerDied(const std::shared_ptr<Peer>& peer) {
+    mChannels.readRest(*peer);
     mPeers.remove(peer);
     SharedObjects::Objects released;
     const std::vector<int32_t> handles = mObjects.peerDied(*peer, &released);
@@ -25,6 +28,7 @@ void DeathWatch::peerDied(const std::shared_ptr<Peer>& peer) {
         });
     }
     mReleaser.release(std::move(released));
+    mChannels.end(*peer);
 }
 
 void DeathWatch::nameGone(const std::string& uniqueName) {

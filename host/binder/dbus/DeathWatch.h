@@ -12,14 +12,21 @@
 
 namespace android::host::dbus {
 
+class Channels;
+
 /**
  * Does what follows from the death of other processes. A proxy that is watched is told of its
  * owner's death on a thread of its domain, once the process has one.
  */
 class DeathWatch {
   public:
-    DeathWatch(PeerTable& peers, SharedObjects& objects, CallQueues& queues, PoolReleaser& releaser)
-        : mPeers(peers), mObjects(objects), mQueues(queues), mReleaser(releaser) {}
+    DeathWatch(PeerTable& peers, SharedObjects& objects, CallQueues& queues, PoolReleaser& releaser,
+               Channels& channels)
+        : mPeers(peers),
+          mObjects(objects),
+          mQueues(queues),
+          mReleaser(releaser),
+          mChannels(channels) {}
 
     // On the link's thread: a process died, the owner of a unique name is gone, all are gone.
     void peerDied(const std::shared_ptr<Peer>& peer);
@@ -36,6 +43,7 @@ class DeathWatch {
     SharedObjects& mObjects;
     CallQueues& mQueues;
     PoolReleaser& mReleaser;
+    Channels& mChannels;
 };
 
 }  // namespace android::host::dbus

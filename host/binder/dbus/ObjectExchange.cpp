@@ -7,13 +7,27 @@
 #include <log/log.h>
 
 #include <algorithm>
+#include <atomic>
+#include <future>
 #include <map>
 #include <utility>
 
 #include "BusName.h"
+#include "ChannelFormat.h"
+#include "PeerChannel.h"
 #include "host/binder/process/UnservedWarning.h"
 
 namespace android::host::dbus {
+
+namespace {
+
+Content contentOf(const std::map<uint64_t, uint32_t>& counts) {
+    Content content;
+    for (const auto& [object, count] : counts) content.references.push_back({count, "", object});
+    return content;
+}
+
+}  // namespace
 
 bool ObjectExchange::isSendable(const sp<IBinder>& binder) {
     if (binder->localBinder() != nullptr) return true;
@@ -47,18 +61,37 @@ status_t ObjectExchange::pack(Payload payload, Peer& receiver, Packed* out) {
         Reference reference = refer(object.binder, receiver, &out->grants);
         reference.offset = static_cast<uint32_t>(object.offset);
         out->content.references.push_back(std::move(reference));
+        out->objects.push_back(object.binder);
     }
     out->content.bytes = std::move(payload.bytes);
     return NO_ERROR;
 }
 
-void ObjectExchange::send(const std::vector<Grant>& grants, const Peer& holder) {
+void ObjectExchange::tell(const std::vector<Grant>& grants, const Peer& holder,
+                          std::function<void()> done) {
+    // One more than there are grants, so that it is not done before all were sent.
+    const auto left = std::make_shared<std::atomic<size_t>>(grants.size() + 1);
+    const auto answered = [left, done = std::move(done)] {
+        if (--*left == 0) done();
+    };
     for (const Grant& grant : grants) {
-        if (grant.owner->dead) continue;
-        sdbus::MethodCall call = mLink.newCall(*grant.owner->destination(), kInterface, kGrant);
-        call << grant.object << holder.name;
-        mLink.send(call);
+        bool sent = false;
+        if (!grant.owner->dead) {
+            sdbus::MethodCall call = mLink.newCall(*grant.owner->destination(), kInterface, kGrant);
+            call << grant.object << holder.name;
+            sent = mLink.call(grant.owner->destination(), call, BusLink::kPromptly,
+                              [answered](sdbus::MethodReply&, const sdbus::Error*) { answered(); });
+        }
+        if (!sent) answered();
     }
+    answered();
+}
+
+void ObjectExchange::tellAndWait(const std::vector<Grant>& grants, const Peer& holder) {
+    if (grants.empty()) return;
+    const auto promise = std::make_shared<std::promise<void>>();
+    tell(grants, holder, [promise] { promise->set_value(); });
+    promise->get_future().wait();
 }
 
 void ObjectExchange::takeBack(const Packed& packed, Peer& receiver) {
@@ -83,20 +116,34 @@ void ObjectExchange::giveBack(const std::optional<SharedObjects::Holds>& holds) 
     release(*holds->remote.owner, {{holds->remote.object, holds->count}});
 }
 
+sdbus::MethodCall ObjectExchange::callOf(Peer& owner, const Counts& counts) {
+    const bool single = counts.size() == 1;
+    sdbus::MethodCall call =
+            mLink.newCall(*owner.destination(), kInterface, single ? kRelease : kReleaseMany);
+    if (single) {
+        call << counts.begin()->first << counts.begin()->second;
+    } else {
+        std::vector<sdbus::Struct<uint64_t, uint32_t>> all;
+        for (const auto& [object, count] : counts) all.emplace_back(object, count);
+        call << all;
+    }
+    return call;
+}
+
 void ObjectExchange::release(Peer& owner, const Counts& counts) {
-    if (owner.dead) return;
+    const auto byBus = [&owner] { return owner.direct() == nullptr; };
     try {
-        const bool single = counts.size() == 1;
-        sdbus::MethodCall call =
-                mLink.newCall(*owner.destination(), kInterface, single ? kRelease : kReleaseMany);
-        if (single) {
-            call << counts.begin()->first << counts.begin()->second;
-        } else {
-            std::vector<sdbus::Struct<uint64_t, uint32_t>> all;
-            for (const auto& [object, count] : counts) all.emplace_back(object, count);
-            call << all;
+        while (!owner.dead) {
+            if (const auto channel = owner.direct(); channel != nullptr) {
+                if (channel->send(packetOf({ChannelKind::RELEASE}, contentOf(counts)),
+                                  PeerChannel::Limit::NECESSARY) != PeerChannel::Sending::CLOSED) {
+                    return;
+                }
+            } else {
+                sdbus::MethodCall call = callOf(owner, counts);
+                if (mLink.sendIf(byBus, call) || byBus()) return;
+            }
         }
-        mLink.send(call);
     } catch (const sdbus::Error& error) {
         ALOGE("An object cannot be released: %s", error.what());
     }
@@ -183,8 +230,14 @@ void ObjectExchange::onRelease(sdbus::MethodCall& call, Peer& caller) {
     uint64_t object = 0;
     uint32_t count = 0;
     call >> object >> count;
+    onRelease({{count, "", object}}, caller);
+}
+
+void ObjectExchange::onRelease(const std::vector<Reference>& given, Peer& caller) {
     SharedObjects::Objects released;
-    mObjects.giveBack(object, count, caller, &released);
+    for (const Reference& each : given) {
+        mObjects.giveBack(each.object, each.offset, caller, &released);
+    }
     mReleaser.release(std::move(released));
 }
 
@@ -206,10 +259,12 @@ void ObjectExchange::onGrant(sdbus::MethodCall& call) {
     uint64_t object = 0;
     std::string holder;
     call >> object >> holder;
-    if (!isUniqueName(holder) || mObjects.find(object) == nullptr) return;
-    const std::shared_ptr<Peer> peer = mPeers.mentioned(holder);
-    mObjects.lendOn(object, *peer);
-    if (!peer->known) mPeers.onceKnown([] {});
+    if (isUniqueName(holder) && mObjects.find(object) != nullptr) {
+        const std::shared_ptr<Peer> peer = mPeers.mentioned(holder);
+        mObjects.lendOn(object, *peer);
+        if (!peer->known) mPeers.onceKnown([] {});
+    }
+    if (!call.doesntExpectReply()) mLink.send(call.createReply());
 }
 
 }  // namespace android::host::dbus

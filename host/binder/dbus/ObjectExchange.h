@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -27,10 +28,14 @@ class ObjectExchange {
         uint64_t object;
     };
 
-    /** A payload, ready to be sent to one receiver: its objects are lent to it already. */
+    /**
+     * A payload, ready to be sent to one receiver: its objects are lent to it already, and are kept
+     * until it is sent.
+     */
     struct Packed {
         Content content;
         std::vector<Grant> grants;
+        std::vector<sp<IBinder>> objects;
     };
 
     ObjectExchange(BusLink& link, SharedObjects& objects, PeerDirectory& peers,
@@ -49,10 +54,14 @@ class ObjectExchange {
     status_t pack(Payload payload, Peer& receiver, Packed* out);
 
     /**
-     * Tells the owners of the new holder. To be called before the message itself is sent: the bus
-     * keeps the order, so that an owner learns of a holder before it can hear from it.
+     * Tells the owners of the new holder and calls `done` on the link's thread, or at once, when
+     * they have answered or are gone; an owner that does not answer promptly is waited for no
+     * longer. The message itself is to be sent after that, so that an owner learns of a holder
+     * before it can hear from it.
      */
-    void send(const std::vector<Grant>& grants, const Peer& holder);
+    void tell(const std::vector<Grant>& grants, const Peer& holder, std::function<void()> done);
+    /** The same, and waits. Not on the link's thread. */
+    void tellAndWait(const std::vector<Grant>& grants, const Peer& holder);
 
     /** Ends the holds that came with a message which was not sent. */
     void takeBack(const Packed& packed, Peer& receiver);
@@ -80,6 +89,9 @@ class ObjectExchange {
     sp<IBinder> resolve(const std::string& owner, uint64_t object,
                         const std::shared_ptr<Peer>& sender);
 
+    /** A Release on a channel. */
+    void onRelease(const std::vector<Reference>& given, Peer& caller);
+
     /** The methods Release, ReleaseMany and Grant; they throw sdbus::Error at a malformed message.
      */
     void onRelease(sdbus::MethodCall& call, Peer& caller);
@@ -95,6 +107,7 @@ class ObjectExchange {
                         const std::shared_ptr<Peer>& sender, Handles* unknown);
     void unpinOnceKnown(Handles handles, const std::shared_ptr<Peer>& sender);
     void giveBack(const std::optional<SharedObjects::Holds>& holds);
+    sdbus::MethodCall callOf(Peer& owner, const Counts& counts);
     void release(Peer& owner, const Counts& counts);
 
     BusLink& mLink;

@@ -1,7 +1,10 @@
 #include "Peer.h"
 
+#include <utility>
+
 #include "BusCall.h"
 #include "MessageFormat.h"
+#include "PeerChannel.h"
 
 namespace android::host::dbus {
 
@@ -14,6 +17,15 @@ const std::shared_ptr<BusLink::Destination>& Peer::destination() {
         mDestination = std::make_shared<BusLink::Destination>(mLink, name, kObjectPath);
     });
     return mDestination;
+}
+
+std::shared_ptr<PeerChannel> Peer::direct() const {
+    return mUsesChannel && !channel->isClosed() ? channel : nullptr;
+}
+
+void Peer::useChannel(std::shared_ptr<PeerChannel> used) {
+    channel = std::move(used);
+    mUsesChannel = true;
 }
 
 bool Peer::mayLog() {

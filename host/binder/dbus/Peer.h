@@ -16,6 +16,7 @@
 namespace android::host::dbus {
 
 class BusCall;
+class PeerChannel;
 
 /** Another process on the bus, known by its unique name, which the bus never gives out again. */
 struct Peer {
@@ -28,9 +29,17 @@ struct Peer {
     /** Made at its first use: many processes are only heard of. On any thread. */
     const std::shared_ptr<BusLink::Destination>& destination();
 
+    /** The channel to send it everything on; null if that goes over the bus. On any thread. */
+    std::shared_ptr<PeerChannel> direct() const;
+    /** Sends on a channel from now on. On the link's thread, once. */
+    void useChannel(std::shared_ptr<PeerChannel> used);
+
     const std::string name;
 
     std::atomic<bool> dead{false};
+
+    // One of the two has offered the other one a channel.
+    std::atomic<bool> channelOffered{false};
 
     // About the memory of an object of another process, with its proxy. Those of owners that are
     // not known count twice, once with the call and once until they are, and take no more.
@@ -51,9 +60,11 @@ struct Peer {
     uid_t uid = static_cast<uid_t>(-1);
     std::vector<std::unique_ptr<BusCall>> unidentified;
     std::chrono::steady_clock::time_point lastLogged{};
+    std::shared_ptr<PeerChannel> channel;  // also when it is closed; others read it by direct()
 
   private:
     BusLink& mLink;
+    std::atomic<bool> mUsesChannel{false};
     std::once_flag mAddressed;
     std::shared_ptr<BusLink::Destination> mDestination;
 };

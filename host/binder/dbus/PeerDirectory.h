@@ -36,10 +36,12 @@ class PeerDirectory {
     /** A process that is known and lives; null if there is none of this name. */
     std::shared_ptr<Peer> living(const std::string& uniqueName);
 
+    /** Asks who it is, unless that was asked before. */
+    void identify(const std::shared_ptr<Peer>& peer);
+
   private:
     using Peers = std::vector<std::shared_ptr<Peer>>;
 
-    void identify(const std::shared_ptr<Peer>& peer);
     // Whether they live, and what is to be done when that is known.
     struct Question {
         Peers peers;

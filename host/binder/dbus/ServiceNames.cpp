@@ -152,11 +152,12 @@ void ServiceNames::onLookup(sdbus::MethodCall& call, Peer& caller) {
     }
     std::vector<ObjectExchange::Grant> grants;
     const Reference reference = mExchange.refer(service, caller, &grants);
-    mExchange.send(grants, caller);
     sdbus::MethodReply reply = call.createReply();
     reply << (reference.owner.empty() ? mLink.uniqueName() : reference.owner) << reference.object;
-    mLink.send(reply);
-    mReleaser.release(service);
+    mExchange.tell(grants, caller, [this, reply, service] {
+        mLink.send(reply);
+        mReleaser.release(service);
+    });
 }
 
 void ServiceNames::onDisconnected() {
