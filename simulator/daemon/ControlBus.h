@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <thread>
 
 #include "simulator/BoardControl.h"
@@ -29,10 +30,13 @@ class ControlBus {
     ControlBus& operator=(const ControlBus&) = delete;
 
     /** The process that has the name now, 0 if none has it. */
-    pid_t owner() { return bus::processOf(*mConnection, bus::kBoardName); }
+    pid_t owner() { return ownerOf(bus::kBoardName); }
+
+    /** The process that has another name of the bus. */
+    pid_t ownerOf(const std::string& name) { return bus::processOf(*mConnection, name); }
 
     /** The process whose turn it is to start, 0 if none starts. */
-    pid_t starter() { return bus::processOf(*mConnection, bus::kStartName); }
+    pid_t starter() { return ownerOf(bus::kStartName); }
 
     /** Takes the name; calls to it wait until serve(). */
     bus::NameOutcome takeName(bool replace) {

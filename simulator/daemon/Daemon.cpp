@@ -5,6 +5,7 @@
 #include <signal.h>
 #include <unistd.h>
 #include <utils/Errors.h>
+#include <utils/String16.h>
 
 #include <chrono>
 #include <cstdio>
@@ -109,6 +110,21 @@ void publish(const sp<SimulatedBoard>& board) {
     }
 }
 
+/** A service that has no connection of its own to the bus, or is not let have its name, hears
+ * nothing of that. */
+void requireFound(ControlBus* bus) {
+    const std::string service = std::string(IHwTarn::descriptor) + "/default";
+    const std::string name =
+            ::android::host::busNameOfService(::android::String16(service.c_str()));
+    const pid_t owner = bus->ownerOf(name);
+    if (owner == getpid()) return;
+    if (owner != 0) {
+        throw Refusal(kAlreadyServed,
+                      "the hardware service was taken over by " + processText(owner));
+    }
+    throw Refusal(kNoBus, "the session bus does not let the hardware service be found");
+}
+
 /** Waits for the turn to start; false if the daemon is told to end before. */
 bool waitForTurn(StartTurn* turn, const EndWatch& watch) {
     const auto deadline = std::chrono::steady_clock::now() + kLongestStart;
@@ -135,6 +151,7 @@ bool start(const sp<SimulatedBoard>& board, BoardControl* control, ControlBus* b
     endWhenLost(watch);
     publish(board);
     bus->serve(*control);
+    requireFound(bus);
     return true;
 }
 

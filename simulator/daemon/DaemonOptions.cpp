@@ -98,7 +98,7 @@ Exit codes:
   1  it can't be published
   2  the command line or the board's description can't be used
   3  somebody serves already, or took over the service or the control alone
-  4  there is no session bus, it went away, or the system lacks resources
+  4  there is no session bus or it refuses the board, it went away, or the system lacks resources
 )";
 
 }  // namespace tarn::simulator

@@ -229,6 +229,30 @@ TEST(BoardDaemon, SaysWhenTheSystemHasNoThreadsLeft) {
                                   "temporarily unavailable\n"));
 }
 
+/** What tarn-board ends with on a bus with these settings. */
+Outcome runBoardOnBus(const std::string& settings) {
+    const std::string address = getenv("DBUS_SESSION_BUS_ADDRESS");
+    const PrivateBus bus(settings);
+    setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
+    return runBoard({}, {{"DBUS_SESSION_BUS_ADDRESS", bus.address()}});
+}
+
+TEST(BoardDaemon, DoesNotServeWhereTheBusLetsNobodyFindTheService) {
+    const char kNotFound[] =
+            "tarn-board: the session bus does not let the hardware service be found\n";
+    // The control and the turn to start have a connection each, the service the third.
+    const Outcome unconnected =
+            runBoardOnBus(R"(<limit name="max_connections_per_user">2</limit>)");
+    EXPECT_EQ(4, unconnected.code);
+    EXPECT_THAT(unconnected.errors, testing::EndsWith(kNotFound));
+    EXPECT_THAT(unconnected.errors, testing::Not(testing::HasSubstr("serving")));
+
+    const Outcome unnamed = runBoardOnBus(
+            R"(<policy context="mandatory"><deny own_prefix="tarn.binder"/></policy>)");
+    EXPECT_EQ(4, unnamed.code);
+    EXPECT_THAT(unnamed.errors, testing::EndsWith(kNotFound));
+}
+
 TEST(BoardDaemon, EndsWhenTheBusGoesAway) {
     const std::string address = getenv("DBUS_SESSION_BUS_ADDRESS");
     PrivateBus bus;

@@ -75,12 +75,13 @@ constexpr char kBusConfiguration[] = R"(<!DOCTYPE busconfig PUBLIC
   <limit name="max_outgoing_unix_fds">250000000</limit>
   <limit name="max_message_size">1000000000</limit>
   <limit name="max_replies_per_connection">50000</limit>
+  %SETTINGS%
 </busconfig>
 )";
 
 }  // namespace
 
-PrivateBus::PrivateBus() {
+PrivateBus::PrivateBus(const std::string& settings) {
     std::string pattern = (std::filesystem::temp_directory_path() / "tarn-bus-XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr) {
         throw std::system_error(errno, std::generic_category(), pattern);
@@ -88,6 +89,7 @@ PrivateBus::PrivateBus() {
     mDirectory = pattern;
     std::string configuration = kBusConfiguration;
     configuration.replace(configuration.find("%SOCKET%"), 8, mDirectory + "/bus");
+    configuration.replace(configuration.find("%SETTINGS%"), 10, settings);
     std::ofstream(mDirectory + "/bus.conf") << configuration;
 
     const Pipe pipe;

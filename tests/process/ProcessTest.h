@@ -17,7 +17,8 @@ namespace tarn::test {
  */
 class PrivateBus {
   public:
-    PrivateBus();
+    /** With settings of its own, in the form of a bus's configuration file. */
+    explicit PrivateBus(const std::string& settings = "");
     ~PrivateBus();
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;

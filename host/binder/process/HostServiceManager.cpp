@@ -6,10 +6,12 @@
 #include <binder/IServiceManager.h>
 #include <log/log.h>
 #include <unistd.h>
+#include <utils/String8.h>
 
 #include <mutex>
 
 #include "ServiceTable.h"
+#include "host/binder/dbus/BusName.h"
 #include "host/binder/dbus/SessionCarrier.h"
 
 namespace android {
@@ -67,6 +69,10 @@ void onServiceLost(std::function<void(const String16& name)> lost) {
 
 status_t addLocalService(const String16& name, const sp<IBinder>& service) {
     return ServiceTable::get()->addLocal(name, service);
+}
+
+std::string busNameOfService(const String16& name) {
+    return dbus::busNameOf(String8(name).string());
 }
 
 bool removeService(const String16& name) {

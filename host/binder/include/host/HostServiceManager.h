@@ -5,6 +5,7 @@
 #include <utils/String16.h>
 
 #include <functional>
+#include <string>
 
 namespace android::host {
 
@@ -20,6 +21,9 @@ status_t addLocalService(const String16& name, const sp<IBinder>& service);
  * then finds that one, or the bus is lost. One at a time; it stays for the process's life.
  */
 void onServiceLost(std::function<void(const String16& name)> lost);
+
+/** The bus name by which other processes find a service; empty if no bus can hold its name. */
+std::string busNameOfService(const String16& name);
 
 /** Takes a service out of this process's table again; false if it is not there. For tests. */
 bool removeService(const String16& name);
