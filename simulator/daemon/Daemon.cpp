@@ -174,9 +174,11 @@ void endTakenOver(ControlBus* bus, bool quiet) {
 }
 
 int serve(const DaemonOptions& options) {
+    // A board's file may be a pipe that nobody writes to.
+    endAtSignals(kEnded);
+    const sp<SimulatedBoard> board = makeBoard(options);
     // A thread of binder's may still tell of something when this has returned.
     const auto watch = std::make_shared<EndWatch>();
-    const sp<SimulatedBoard> board = makeBoard(options);
     const std::unique_ptr<BoardControl> control = controlOf(board);
     for (const auto& [property, value] : options.settings) {
         applySetting(control.get(), property, value);

@@ -3,20 +3,31 @@
 #include <signal.h>
 #include <unistd.h>
 
-#include <initializer_list>
-
 namespace tarn::simulator {
 
 namespace {
 
+constexpr int kEndSignals[] = {SIGINT, SIGTERM, SIGHUP};
+
 sigset_t endSignals() {
     sigset_t signals;
     sigemptyset(&signals);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) sigaddset(&signals, signal);
+    for (const int signal : kEndSignals) sigaddset(&signals, signal);
     return signals;
 }
 
+int gEndCode = 0;
+
 }  // namespace
+
+void endAtSignals(int code) {
+    gEndCode = code;
+    struct sigaction action = {};
+    action.sa_handler = [](int) { _exit(gEndCode); };
+    for (const int signal : kEndSignals) sigaction(signal, &action, nullptr);
+    const sigset_t signals = endSignals();
+    pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
+}
 
 EndWatch::EndWatch() {
     const sigset_t signals = endSignals();

@@ -13,6 +13,12 @@ enum class EndCause {
     kBusGone,
 };
 
+/**
+ * From here on SIGINT, SIGTERM and SIGHUP end the process with this exit code at once, until an
+ * EndWatch keeps them.
+ */
+void endAtSignals(int code);
+
 /** Waits for the end, which a signal or another thread brings. One at a time. */
 class EndWatch {
   public:

@@ -1,7 +1,9 @@
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sdbus-c++/sdbus-c++.h>
 #include <signal.h>
+#include <sys/stat.h>
 #include <tarn/ITarnListener.h>
 #include <tarn/TarnManager.h>
 #include <unistd.h>
@@ -165,6 +167,38 @@ TEST(BoardDaemon, EndsCleanlyOnItsSignals) {
         EXPECT_EQ("", board.restOfErrors());
         EXPECT_EQ(-1, application()->isTarnReady());
         EXPECT_EQ(nullptr, findServedBoard());
+    }
+}
+
+/** A FIFO that is gone after the test. */
+class Fifo {
+  public:
+    Fifo() { EXPECT_EQ(0, mkfifo(path().c_str(), 0600)); }
+    ~Fifo() { std::filesystem::remove(path()); }
+
+    std::string path() const { return mFile.path() + ".fifo"; }
+
+    /** Becomes a writer, which is possible once somebody reads. */
+    bool join() {
+        mWriter = open(path().c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+        return mWriter >= 0;
+    }
+    void leave() { close(mWriter); }
+
+  private:
+    const TemporaryFile mFile{""};
+    int mWriter = -1;
+};
+
+TEST(BoardDaemon, EndsOnItsSignalsWhileItReadsItsBoard) {
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        Fifo fifo;
+        Program board(boardProgram(), {"--board", fifo.path()});
+        ASSERT_TRUE(eventually([&] { return fifo.join(); }));
+        board.signal(number);
+        EXPECT_EQ(0, board.wait());
+        EXPECT_EQ("", board.restOfErrors());
+        fifo.leave();
     }
 }
 
