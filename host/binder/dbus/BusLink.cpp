@@ -151,14 +151,14 @@ bool BusLink::waitForEvents(bool more) {
     }
     mPolled.assign({{wanted.fd, wanted.events, 0}, {mWakeFd, POLLIN, 0}});
     for (const auto& each : mWatched) mPolled.push_back({each->descriptor(), each->events(), 0});
-    const int ready = poll(mPolled.data(), mPolled.size(), more ? 0 : wanted.getPollTimeout());
-    if (ready <= 0) return true;
+    const int patience = more ? 0 : wanted.getPollTimeout();
+    if (poll(mPolled.data(), mPolled.size(), patience) <= 0) return true;
     const bool woken = mPolled[1].revents != 0;
     if (woken) {
         eventfd_t count;
         eventfd_read(mWakeFd, &count);
     }
-    const bool forBus = more || woken || mPolled[0].revents != 0;
+    const bool forBus = patience == 0 || woken || mPolled[0].revents != 0;
     serveWatched();
     return forBus;
 }

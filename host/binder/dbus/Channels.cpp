@@ -188,11 +188,12 @@ void Channels::onOpen(sdbus::MethodCall& call, const std::shared_ptr<Peer>& call
     sdbus::UnixFd socket;
     call >> socket;
     if (call.doesntExpectReply()) return;
-    if (const char* const why = objection(*caller, socket); why != nullptr) {
+    // In one step, or this process could offer one and accept another.
+    const bool isOffered = mAllowed && caller->channelOffered.exchange(true);
+    if (const char* const why = objection(*caller, socket, isOffered); why != nullptr) {
         mLink.sendError(call, kNoChannel, why);
         return;
     }
-    caller->channelOffered = true;
     fcntl(socket.get(), F_SETFD, FD_CLOEXEC);  // the bus library gives a plain duplicate
     const auto channel = std::make_shared<PeerChannel>(std::move(socket), caller->name,
                                                        [this] { mLink.wake(); });
@@ -203,10 +204,11 @@ void Channels::onOpen(sdbus::MethodCall& call, const std::shared_ptr<Peer>& call
 }
 
 // Of two that offer a channel to each other, the one with the smaller name has its way.
-const char* Channels::objection(const Peer& caller, const sdbus::UnixFd& socket) const {
+const char* Channels::objection(const Peer& caller, const sdbus::UnixFd& socket,
+                                bool isOffered) const {
     if (!mAllowed) return "This process speaks on the bus alone";
     if (caller.dead || caller.channel != nullptr) return "There was a channel already";
-    if (caller.channelOffered && mLink.uniqueName() < caller.name) return "Another one is offered";
+    if (isOffered && mLink.uniqueName() < caller.name) return "Another one is offered";
     if (mCount >= kMaxChannels) return "There are too many channels";
     if (!socket.isValid() || !leavesEnough(socket)) return "There are too few descriptors";
     if (!PeerChannel::isOne(socket.get())) return "This is not a channel's end";

@@ -52,7 +52,7 @@ class Channels {
     void onOpened(const std::shared_ptr<Peer>& peer, const std::shared_ptr<PeerChannel>& channel);
     void use(const std::shared_ptr<Peer>& peer, const std::shared_ptr<PeerChannel>& channel,
              bool isOwn);
-    const char* objection(const Peer& caller, const sdbus::UnixFd& socket) const;
+    const char* objection(const Peer& caller, const sdbus::UnixFd& socket, bool isOffered) const;
     void askWhetherAlive(const std::shared_ptr<Peer>& peer);
     std::shared_ptr<Entry> find(const Peer& peer) const;
 

@@ -200,8 +200,9 @@ PeerChannel::Receiving PeerChannel::receive(DescriptorReserve& reserve, Unpacked
         // ECONNRESET comes once, before what the other one had sent.
     } while (size < 0 && (errno == EINTR || errno == ECONNRESET));
     if (size <= 0) {
+        const bool empty = size < 0 && errno == EAGAIN;
         reserve.takeBack();
-        return size < 0 && errno == EAGAIN ? Receiving::NOTHING : Receiving::END;
+        return empty ? Receiving::NOTHING : Receiving::END;
     }
     {
         const std::vector<sdbus::UnixFd> files = filesOf(message);
