@@ -31,6 +31,9 @@ void ControlBus::watchName() {
     mBus->uponSignal("NameLost")
             .onInterface("org.freedesktop.DBus")
             .call([this](const std::string& name) {
+                // Others can send the same signal to this process.
+                const sdbus::Message* const signal = mBus->getCurrentlyProcessedMessage();
+                if (signal->getSender() != "org.freedesktop.DBus") return;
                 if (name == bus::kBoardName) mEnded(EndCause::kControlLost);
             });
     mBus->finishRegistration();

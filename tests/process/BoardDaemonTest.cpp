@@ -455,6 +455,24 @@ TEST(BoardDaemon, EndsWhenAnotherProcessTakesItsControl) {
     EXPECT_EQ(-1, application()->isTarnReady());
 }
 
+// Anybody can send it a signal, and the bus does not look at what it says.
+TEST(BoardDaemon, BelievesTheBusAloneThatItsControlIsLost) {
+    const BoardProcess board;
+    const auto connection = sdbus::createSessionBusConnection();
+    const auto bus = sdbus::createProxy(*connection, "org.freedesktop.DBus", "/");
+    std::string control;
+    bus->callMethod("GetNameOwner")
+            .onInterface("org.freedesktop.DBus")
+            .withArguments(std::string(kBoardName))
+            .storeResultsTo(control);
+    const auto object = sdbus::createObject(*connection, "/org/freedesktop/DBus");
+    sdbus::Signal forged = object->createSignal("org.freedesktop.DBus", "NameLost");
+    forged.setDestination(control);
+    forged << std::string(kBoardName);
+    forged.send();
+    for (int i = 0; i < 3; i++) EXPECT_TRUE(servesWhole(board));
+}
+
 TEST(BoardDaemon, EndsWhenItsControlIsTakenWhileItStarts) {
     ControlThief thief;
     for (int round = 0; round < 10; round++) {

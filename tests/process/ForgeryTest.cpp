@@ -154,5 +154,32 @@ TEST(Forgery, NobodyAnswersInPlaceOfTheBus) {
     forging.get();
 }
 
+// A reference to an object of a process that there is not.
+const std::string kForgedService(
+        "\6\0\0\0:1.999\0\0\0\0\0\0"
+        "\5\0\0\0\0\0\0\0",
+        24);
+
+TEST(Forgery, NobodyAnswersALookupInPlaceOfTheOwner) {
+    const Honest honest([](const std::string&) {});
+    android::defaultServiceManager()->addService(String16("own"), new Desk);
+    const std::string self = ownerOf("tarn.binder.name_own");
+    std::atomic<bool> ended{false};
+    auto forging = std::async(std::launch::async, [&] {
+        Forger forger;
+        while (!ended) {
+            forger.answer(self, 2 * kCalls, "st", kForgedService);
+            forger.settle();
+        }
+    });
+    // Whose message is first is chance, each time; one that is forged finds nothing.
+    for (int i = 0; i < 100; i++) {
+        const sp<IBinder> found = android::defaultServiceManager()->checkService(String16(kName));
+        EXPECT_TRUE(found == nullptr || found->pingBinder() == NO_ERROR);
+    }
+    ended = true;
+    forging.get();
+}
+
 }  // namespace
 }  // namespace tarn::test

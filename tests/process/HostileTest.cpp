@@ -431,13 +431,21 @@ TEST_F(Hostile, NobodyCanReleaseWhatOthersHold) {
 }
 
 TEST_F(Hostile, NothingIsHeldForThoseWhoAreNotThere) {
-    std::vector<std::string> holders = {":1.999999", "", "x", "org.freedesktop.DBus"};
+    std::vector<std::string> holders = {":1.999999", "", "x", "org.freedesktop.DBus", mDeskOwner};
     holders.insert(holders.end(), kNoUniqueNames.begin(), kNoUniqueNames.end());
     for (const std::string& holder : holders) {
         mRogue.send(kGrant, [&](sdbus::Message& m) { m << mNumber << holder; });
         mRogue.send(kGrant, [&](sdbus::Message& m) { m << mNumber + 1 << holder; });
     }
     EXPECT_TRUE(eventually([this] { return mDesk.counts().holds == 2; }));
+}
+
+TEST_F(Hostile, NobodyCanLendOnWhatItDoesNotHold) {
+    Rogue other;
+    other.send(kGrant, [&](sdbus::Message& m) { m << mNumber << mRogue.name(); });
+    other.send(kGrant, [&](sdbus::Message& m) { m << mNumber << other.name(); });
+    EXPECT_EQ(mNumber, other.deskNumber());
+    EXPECT_EQ(3, mDesk.counts().holds);
 }
 
 TEST_F(Hostile, WhatARogueHoldsEndsWithIt) {
@@ -457,6 +465,20 @@ TEST_F(Hostile, ForgedDeathsAreNotBelieved) {
     mRogue.deskNumber();  // once it is answered, the signal was delivered
     EXPECT_EQ(NO_ERROR, mDesk.binder()->pingBinder());
     EXPECT_TRUE(mDesk.binder()->isBinderAlive());
+}
+
+// Such a message comes in whatever signals the receiver has asked for.
+TEST_F(Hostile, DeathsForgedForOneProcessAreNotBelieved) {
+    Rogue other;
+    other.deskNumber();
+    const int holds = mDesk.counts().holds;
+    const auto object = sdbus::createObject(mRogue.connection(), "/org/freedesktop/DBus");
+    sdbus::Signal forged = object->createSignal("org.freedesktop.DBus", "NameOwnerChanged");
+    forged.setDestination(mDeskOwner);
+    forged << other.name() << other.name() << std::string();
+    forged.send();
+    mRogue.deskNumber();  // one more hold; once it is answered, the signal was delivered
+    EXPECT_EQ(holds + 1, mDesk.counts().holds);
 }
 
 TEST_F(Hostile, AFloodOfOneWayCallsIsBounded) {

@@ -48,11 +48,10 @@ BusLink::Destination::~Destination() {
 }
 
 // The bus passes on replies that nobody asked for, and the numbers of calls can be guessed. The bus
-// itself answers for those that are gone. Behind a service's name there may be any process.
+// itself answers for those that are gone.
 bool BusLink::Destination::isAnswer(const sdbus::Message& reply, bool isError) const {
     const std::string sender = reply.getSender();
-    if (sender == mName || (isError && sender == kBusDaemon)) return true;
-    return mName != kBusDaemon && !isUniqueName(mName);
+    return sender == mName || (isError && sender == kBusDaemon);
 }
 
 BusLink::BusLink(const std::string& address)
@@ -64,6 +63,8 @@ BusLink::BusLink(const std::string& address)
     mConnection->addMatch(
             kNameOwnerChanged,
             [this](sdbus::Message& signal) {
+                // What others send to this process alone comes in whatever the rule says.
+                if (signal.getSender() != kBusDaemon) return;
                 std::string name;
                 std::string oldOwner;
                 std::string newOwner;

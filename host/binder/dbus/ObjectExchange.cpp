@@ -259,7 +259,9 @@ void ObjectExchange::onGrant(sdbus::MethodCall& call) {
     uint64_t object = 0;
     std::string holder;
     call >> object >> holder;
-    if (isUniqueName(holder) && mObjects.find(object) != nullptr) {
+    // Nobody would give back a hold of this process itself, or of what its giver does not hold.
+    if (isUniqueName(holder) && holder != mLink.uniqueName() &&
+        mObjects.holds(object, *mPeers.sender(call.getSender()))) {
         const std::shared_ptr<Peer> peer = mPeers.mentioned(holder);
         mObjects.lendOn(object, *peer);
         if (!peer->known) mPeers.onceKnown([] {});

@@ -87,30 +87,52 @@ sp<IBinder> ServiceNames::remove(const std::string& name) {
     return removed;
 }
 
+// Asked again, since an owner may be replaced between the two questions.
 sp<IBinder> ServiceNames::find(const String16& name) {
     const std::string name8 = String8(name).string();
     const std::string busName = busNameOf(name8);
     if (busName.empty()) return nullptr;
     try {
-        const auto owner = std::make_shared<BusLink::Destination>(mLink, busName, kObjectPath);
-        sdbus::MethodCall call = mLink.newCall(*owner, kInterface, kLookup);
-        call << name8;
-        auto promise = std::make_shared<std::promise<sp<IBinder>>>();
-        std::future<sp<IBinder>> found = promise->get_future();
-        // The library's own limit is longer, so that this wait ends first and logs which service is
-        // silent. An object that comes too late is given back.
-        const bool sent =
-                mLink.call(owner, call, 2 * BusLink::kPromptly,
-                           [this, promise](sdbus::MethodReply& reply, const sdbus::Error* error) {
-                               promise->set_value(error == nullptr ? onFound(reply) : nullptr);
-                           });
-        if (!sent) return nullptr;
-        if (found.wait_for(BusLink::kPromptly) == std::future_status::ready) return found.get();
-        ALOGW("Service '%s' does not answer", name8.c_str());
+        std::string asked;
+        for (;;) {
+            const std::string owner = ownerOf(busName);
+            if (owner.empty() || owner == asked) return nullptr;
+            const Answer answer = ask(owner, name8);
+            if (!answer.refused) return answer.service;
+            asked = owner;
+        }
     } catch (const sdbus::Error& error) {
         ALOGE("Service '%s' cannot be looked for: %s", name8.c_str(), error.what());
     }
     return nullptr;
+}
+
+// The process itself is asked, and not the name: only then can be told whose an answer is.
+std::string ServiceNames::ownerOf(const std::string& busName) {
+    std::string owner;
+    sdbus::MethodCall call = mBus.newCall("GetNameOwner");
+    call << busName;
+    mBus.callAndWait(call, [&owner](sdbus::MethodReply& reply) { reply >> owner; });
+    return owner;
+}
+
+ServiceNames::Answer ServiceNames::ask(const std::string& owner, const std::string& name) {
+    const auto destination = std::make_shared<BusLink::Destination>(mLink, owner, kObjectPath);
+    sdbus::MethodCall call = mLink.newCall(*destination, kInterface, kLookup);
+    call << name;
+    auto promise = std::make_shared<std::promise<Answer>>();
+    std::future<Answer> answer = promise->get_future();
+    // The library's own limit is longer, so that this wait ends first and logs which service is
+    // silent. An object that comes too late is given back.
+    const bool sent = mLink.call(
+            destination, call, 2 * BusLink::kPromptly,
+            [this, promise](sdbus::MethodReply& reply, const sdbus::Error* error) {
+                promise->set_value({error == nullptr ? onFound(reply) : nullptr, error != nullptr});
+            });
+    if (!sent) return {};
+    if (answer.wait_for(BusLink::kPromptly) == std::future_status::ready) return answer.get();
+    ALOGW("Service '%s' does not answer", name.c_str());
+    return {};
 }
 
 // On the link's thread.

@@ -47,6 +47,13 @@ class ServiceNames {
   private:
     sp<IBinder> published(const std::string& name);
     sp<IBinder> remove(const std::string& name);
+    /** What a process says to a Lookup: its service, or that it has none or is gone. */
+    struct Answer {
+        sp<IBinder> service;
+        bool refused = false;
+    };
+    std::string ownerOf(const std::string& busName);
+    Answer ask(const std::string& owner, const std::string& name);
     sp<IBinder> onFound(sdbus::MethodReply& reply);
 
     BusLink& mLink;

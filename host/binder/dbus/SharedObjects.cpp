@@ -72,6 +72,11 @@ void SharedObjects::giveBack(uint64_t object, uint64_t count, Peer& holder, Obje
     dropHolds(mLent.find(object), given, released);
 }
 
+bool SharedObjects::holds(uint64_t object, const Peer& holder) {
+    std::lock_guard<std::mutex> lock(mLock);
+    return holder.holds.count(object) != 0;
+}
+
 void SharedObjects::dropHolds(std::map<uint64_t, Lent>::iterator lent, uint64_t count,
                               Objects* released) {
     lent->second.holds -= count;

@@ -57,6 +57,7 @@ class SharedObjects {
     /** The same for an object that was lent before; false if none has this number. */
     bool lendOn(uint64_t object, Peer& holder);
     void giveBack(uint64_t object, uint64_t count, Peer& holder, Objects* released);
+    bool holds(uint64_t object, const Peer& holder);
 
     /** The object that was lent under this number; null if there is none. */
     sp<BBinder> find(uint64_t object);
