@@ -173,7 +173,8 @@ TEST(Forgery, NobodyAnswersALookupInPlaceOfTheOwner) {
             forger.settle();
         }
     });
-    // Whose message is first is chance, each time; one that is forged finds nothing, or fails a ping.
+    // Whose message is first is chance, each time; one that is forged finds nothing, or fails a
+    // ping.
     for (int i = 0; i < 100; i++) {
         const sp<IBinder> found = android::defaultServiceManager()->checkService(String16(kName));
         EXPECT_TRUE(found == nullptr || found->pingBinder() != DEAD_OBJECT);
