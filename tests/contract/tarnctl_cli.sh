@@ -98,6 +98,11 @@ expect 0 'service: ready
 where: embedded
 board: default
 logLevel: WARN' status
+# Not even for a moment, in which others would read it, or which it would not outlive.
+printf 'persist.vendor.tarn.loglevel=TARN_LOG_ERROR\n' >level
+TARN_PROPERTIES_FILE=$PWD/level "$tarnctl" -v -q list >/dev/null 2>&1
+[ "$(cat level)" = persist.vendor.tarn.loglevel=TARN_LOG_ERROR ] || fail "-v stored $(cat level)"
+[ -e level.lock ] && fail '-v set a property'
 
 for signal in INT TERM; do
     rm -f stderr

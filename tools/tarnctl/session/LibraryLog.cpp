@@ -4,7 +4,9 @@
 #include <cutils/properties.h>
 #include <tarn/TarnLog.h>
 
+#include <cstdlib>
 #include <mutex>
+#include <optional>
 #include <utility>
 
 namespace tarnctl {
@@ -38,10 +40,37 @@ void logAndKeep(const Line* line, const char* message) {
     __android_log_logd_logger(line, message);
 }
 
-/** setLogLevel() persists the level for everybody; this is for one process. */
+/** While it lives, a host's properties can't be read or set; a device takes no notice. */
+class NoPropertyFile {
+  public:
+    NoPropertyFile() {
+        if (const char* file = getenv(kVariable)) mFile = file;
+        setenv(kVariable, "/dev/null/none", 1);
+    }
+    ~NoPropertyFile() {
+        if (mFile) {
+            setenv(kVariable, mFile->c_str(), 1);
+        } else {
+            unsetenv(kVariable);
+        }
+    }
+    NoPropertyFile(const NoPropertyFile&) = delete;
+    NoPropertyFile& operator=(const NoPropertyFile&) = delete;
+
+  private:
+    static constexpr char kVariable[] = "TARN_PROPERTIES_FILE";
+
+    std::optional<std::string> mFile;
+};
+
+/**
+ * setLogLevel() persists the level for everybody; this is for one process. On a host nothing is
+ * ever stored; a device gets back what it had.
+ */
 void setLevelOfThisProcess(unsigned int level) {
     char persisted[PROPERTY_VALUE_MAX] = {};
     property_get(kLevelProperty, persisted, "");
+    const NoPropertyFile nothingIsStored;
     setLogLevel(level);
     property_set(kLevelProperty, persisted);
 }
