@@ -61,6 +61,10 @@ bool startsWith(const std::string& text, std::string_view prefix) {
     return text.compare(0, prefix.size(), prefix) == 0;
 }
 
+/** Far more than properties take; a larger file is something else. */
+constexpr size_t kLargestFile = size_t{16} * 1024 * 1024;
+
+/** Nothing if it can't be read, or is too large. */
 std::optional<std::string> readAll(int fd) {
     std::string content;
     char chunk[4096];
@@ -69,6 +73,7 @@ std::optional<std::string> readAll(int fd) {
         if (got < 0) return std::nullopt;
         if (got == 0) return content;
         content.append(chunk, static_cast<size_t>(got));
+        if (content.size() > kLargestFile) return std::nullopt;
     }
 }
 
@@ -229,7 +234,8 @@ bool storeProperty(const std::string& path, const std::string& name, const std::
     if (!properties) return false;
     if (startsWith(name, "ro.") && properties->count(name) != 0) return false;
     (*properties)[name] = value;
-    return replaceFile(path, format(*properties));
+    const std::string content = format(*properties);
+    return content.size() <= kLargestFile && replaceFile(path, content);
 }
 
 bool isLegalPropertyName(const std::string& name) {

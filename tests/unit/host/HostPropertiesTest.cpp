@@ -237,6 +237,17 @@ TEST_F(HostProperties, FailAndKeepWhatCannotBeReadAsAFile) {
     EXPECT_TRUE(std::filesystem::is_fifo(mFile));
 }
 
+TEST_F(HostProperties, FailAndKeepWhatIsFarTooLarge) {
+    constexpr size_t kMost = 16777216;
+    const std::string mark = "vendor.any=kept\n";
+    writeFile(mark + std::string(kMost - mark.size(), '\n'));
+    EXPECT_EQ(get("vendor.any"), "kept");
+    std::filesystem::resize_file(mFile, kMost + 1);
+    EXPECT_EQ(get("vendor.any", "fallback"), "fallback");
+    EXPECT_LT(property_set("vendor.any", "1"), 0);
+    EXPECT_EQ(std::filesystem::file_size(mFile), kMost + 1);
+}
+
 TEST_F(HostProperties, FailWhereNoFileCanBeWritten) {
     setenv("TARN_PROPERTIES_FILE", "/proc/none/properties", 1);
     EXPECT_LT(property_set("vendor.any", "1"), 0);
