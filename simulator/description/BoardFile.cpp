@@ -1,9 +1,12 @@
 #include "simulator/description/BoardFile.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <cerrno>
+#include <cstring>
 #include <utility>
 
 #include "values/StrictJson.h"
@@ -21,13 +24,55 @@ std::string joined(const std::vector<Problem>& problems) {
     return text;
 }
 
-std::string readWhole(const std::string& path) {
-    std::ifstream stream(path, std::ios::binary);
-    // A directory can be opened too.
-    if (!stream || std::filesystem::is_directory(path)) {
-        throw BoardFileError({Problem{path, 0, "can't be read"}});
+/** No board comes near it; what does is something else, or does not end. */
+constexpr size_t kLargestFile = size_t{16} * 1024 * 1024;
+
+class OpenFile {
+  public:
+    explicit OpenFile(const std::string& path) : mFd(open(path.c_str(), O_RDONLY | O_CLOEXEC)) {}
+    ~OpenFile() {
+        if (mFd >= 0) close(mFd);
     }
-    return std::string(std::istreambuf_iterator<char>(stream), {});
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    int get() const { return mFd; }
+
+  private:
+    int mFd;
+};
+
+std::string reasonOfErrno() {
+    return std::string("can't be read: ") + strerror(errno);
+}
+
+/** What keeps a file from being read as a board; empty if nothing does. A pipe is as good a file as
+ * any, as a shell's <(...) gives one. */
+std::string objectionTo(mode_t mode) {
+    if (S_ISREG(mode) || S_ISFIFO(mode)) return "";
+    if (S_ISDIR(mode)) return "can't be read: it is a folder";
+    if (S_ISCHR(mode) || S_ISBLK(mode)) return "can't be read: it is a device";
+    return "can't be read: it is no file";
+}
+
+std::string readWhole(const std::string& path) {
+    const auto refuse = [&path](const std::string& reason) {
+        throw BoardFileError({Problem{path, 0, reason}});
+    };
+    const OpenFile file(path);
+    struct stat status {};
+    if (file.get() < 0 || fstat(file.get(), &status) != 0) refuse(reasonOfErrno());
+    const std::string objection = objectionTo(status.st_mode);
+    if (!objection.empty()) refuse(objection);
+    std::string text;
+    char chunk[65536];
+    while (true) {
+        const ssize_t got = TEMP_FAILURE_RETRY(read(file.get(), chunk, sizeof(chunk)));
+        if (got < 0) refuse(reasonOfErrno());
+        if (got <= 0) return text;
+        text.append(chunk, static_cast<size_t>(got));
+        if (text.size() > kLargestFile) refuse("is larger than 16 MiB");
+    }
 }
 
 }  // namespace

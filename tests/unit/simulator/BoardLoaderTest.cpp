@@ -1,10 +1,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "simulator/BoardFiles.h"
@@ -142,7 +144,31 @@ TEST_F(BoardLoader, ReadsIncludesRelativeToTheFileThatNamesThem) {
 }
 
 TEST_F(BoardLoader, TellsAMissingFile) {
-    EXPECT_THAT(problems(), ElementsAre("board.json: can't be read"));
+    EXPECT_THAT(problems(), ElementsAre("board.json: can't be read: No such file or directory"));
+}
+
+TEST_F(BoardLoader, RefusesWhatIsNoFile) {
+    std::filesystem::create_directory(mFolder / "folder.json");
+    std::filesystem::create_symlink("/dev/zero", mFolder / "zero.json");
+    write("board.json", "{\"name\": \"x\"}");
+    EXPECT_THAT(problems("folder.json"), ElementsAre("folder.json: can't be read: it is a folder"));
+    EXPECT_THAT(problems("zero.json"), ElementsAre("zero.json: can't be read: it is a device"));
+}
+
+TEST_F(BoardLoader, RefusesAFileOfMoreThan16MiB) {
+    const std::string board = "{\"name\": \"x\"}";
+    constexpr size_t kMost = 16777216;
+    write("board.json", board + std::string(kMost - board.size(), ' '));
+    EXPECT_EQ("x", load()->name);
+    write("board.json", board + std::string(kMost + 1 - board.size(), ' '));
+    EXPECT_THAT(problems(), ElementsAre("board.json: is larger than 16 MiB"));
+}
+
+TEST_F(BoardLoader, ReadsAPipe) {
+    ASSERT_EQ(0, mkfifo((mFolder / "board.json").c_str(), 0600));
+    std::thread writer([this] { write("board.json", "{\"name\": \"piped\"}"); });
+    EXPECT_EQ("piped", load()->name);
+    writer.join();
 }
 
 TEST_F(BoardLoader, TellsAMissingIncludeAtItsLine) {
@@ -459,7 +485,8 @@ TEST_F(BoardLoader, TellsTheProblemsOfAFileInAFixedOrder) {
                 ElementsAre("board.json:4: included 'none.json' is missing",
                             "board.json:3: 'a' is described already in a.json:3",
                             "board.json:2: 'CMD_AUDIO_GET_VOLUME' is described already in a.json:2",
-                            "board.json:1: the board has no name", "over.json: can't be read"));
+                            "board.json:1: the board has no name",
+                            "over.json: can't be read: No such file or directory"));
 }
 
 TEST_F(BoardLoader, TellsTheProblemsOfABoardInAFixedOrder) {
@@ -527,7 +554,8 @@ TEST_F(BoardLoader, RefusesAnOverrideOfWhatTheBoardDoesntHave) {
                 ElementsAre("over.json:4: unknown command 'CMD_NONE'",
                             "over.json:2: property 'b' is not in the board, and no command of "
                             "the override uses it"));
-    EXPECT_THAT(problems("none.json"), ElementsAre("none.json: can't be read"));
+    EXPECT_THAT(problems("none.json"),
+                ElementsAre("none.json: can't be read: No such file or directory"));
 }
 
 TEST(DefaultBoardPath, IsTheEnvironmentsOrTheBuiltInOne) {
