@@ -91,6 +91,11 @@ call audio.nothing'
 [ $? = 5 ] || fail 'a batch went on with its results lost'
 grep -q ':3: .*No space left' stderr || fail 'the monitor went on with a full disk'
 
+rm -f board
+mkfifo board
+expect 4 '' --timeout 0.5 --board board call audio.getVolume
+rm board
+
 # Verbose shows the library's log, and does not change the level for others.
 "$tarnctl" -v call audio.postAudioEvent 7 0a 2>stderr >/dev/null
 grep -q postAudioEvent stderr || fail '-v does not show the log'
@@ -99,6 +104,7 @@ where: embedded
 board: default
 logLevel: WARN' status
 # Not even for a moment, in which others would read it, or which it would not outlive.
+rm -f level.lock
 printf 'persist.vendor.tarn.loglevel=TARN_LOG_ERROR\n' >level
 TARN_PROPERTIES_FILE=$PWD/level "$tarnctl" -v -q list >/dev/null 2>&1
 [ "$(cat level)" = persist.vendor.tarn.loglevel=TARN_LOG_ERROR ] || fail "-v stored $(cat level)"

@@ -114,7 +114,14 @@ void Session::connect() {
 }
 
 void Session::startBoard() {
-    mBoard = startEmbeddedBoard(BoardFiles{mOptions.boardFile, mOptions.overrideFile});
+    // Its file may be a pipe that nobody writes to.
+    using Started = std::shared_ptr<BoardControl>;
+    const BoardFiles files{mOptions.boardFile, mOptions.overrideFile};
+    const auto started = mLimit.run<Started>([files] { return startEmbeddedBoard(files); });
+    if (!started) {
+        throw Failure(kUnreachable, mLimit.exceeded("the simulated board did not start"));
+    }
+    mBoard = *started;
 }
 
 void Session::refuseWithoutAnswer() {
