@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <sdbus-c++/sdbus-c++.h>
+#include <signal.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -131,10 +132,23 @@ class Rogue {
     // Its end of a channel that the desk's process has accepted.
     RawChannel open() {
         RawChannel channel = offered();
-        sdbus::MethodCall use = mDesk->createMethodCall(kInterface, kUseChannel);
-        use.dontExpectReply();
-        mDesk->callMethod(use);
+        use();
         return channel;
+    }
+
+    // Says that it uses what it offered.
+    void use() {
+        sdbus::MethodCall message = mDesk->createMethodCall(kInterface, kUseChannel);
+        message.dontExpectReply();
+        mDesk->callMethod(message);
+    }
+
+    // Waits until the bus has done what it was asked for, by whomever.
+    void wait() {
+        for (int i = 0; i < 10; i++) {
+            mConnection->requestName(kRogueBusName);
+            mConnection->releaseName(kRogueBusName);
+        }
     }
 
     // The same, but it has not said that it uses it.
@@ -206,6 +220,12 @@ class HostileChannel : public testing::Test {
         return message;
     }
 
+    static Content note(int32_t value) {
+        Parcel parcel;
+        parcel.writeInt32(value);
+        return {{}, Bytes(parcel.data(), parcel.data() + parcel.dataSize())};
+    }
+
     // The failure that a transaction is answered with; 0 if it has a reply.
     uint32_t failureOf(const RawChannel& channel, const ChannelMessage& message,
                        const Content& content) const {
@@ -233,12 +253,41 @@ class HostileChannel : public testing::Test {
 
 TEST_F(HostileChannel, IsServedWhileItKeepsToTheRules) {
     const RawChannel channel = mRogue.open();
-    Parcel parcel;
-    parcel.writeInt32(3);
-    EXPECT_EQ(0u, failureOf(channel, transaction(Desk::NOTE),
-                            {{}, Bytes(parcel.data(), parcel.data() + parcel.dataSize())}));
+    EXPECT_EQ(0u, failureOf(channel, transaction(Desk::NOTE), note(3)));
     EXPECT_EQ((std::vector<int32_t>{3}), mDesk.notes());
     EXPECT_EQ(2, mDesk.counts().channels);
+}
+
+TEST_F(HostileChannel, IsReadWhenItsOwnerHasSaidSo) {
+    const RawChannel channel = mRogue.offered();
+    EXPECT_TRUE(channel.send(transaction(Desk::NOTE, 0), note(2)));
+    mRogue.deskNumber();
+    EXPECT_TRUE(mDesk.notes().empty());
+    EXPECT_EQ("", mRogue.call(kTransact, [this](sdbus::Message& m) {
+        m << mNumber << uint32_t{Desk::NOTE} << uint32_t{0};
+        write(m, note(1));
+    }));
+    mRogue.use();
+    EXPECT_TRUE(eventually([this] { return mDesk.notes() == std::vector<int32_t>({1, 2}); }));
+}
+
+TEST_F(HostileChannel, WhatAProcessLeavesInItIsHeard) {
+    constexpr int32_t kNotes = 200;
+    std::vector<int32_t> expected;
+    {
+        Rogue other;
+        const RawChannel channel = other.open();
+        EXPECT_EQ(0u, failureOf(channel, transaction(Desk::NOTES), {}));
+        kill(mProcess.pid(), SIGSTOP);
+        for (int32_t i = 0; i < kNotes; i++) {
+            EXPECT_TRUE(channel.send(transaction(Desk::NOTE, 0), note(i)));
+            expected.push_back(i);
+        }
+    }
+    // Once it has answered that, the bus has told of the death.
+    mRogue.wait();
+    kill(mProcess.pid(), SIGCONT);
+    EXPECT_TRUE(eventually([&] { return mDesk.notes() == expected; }));
 }
 
 TEST_F(HostileChannel, WhatIsNoChannelIsNotAccepted) {
@@ -388,10 +437,7 @@ TEST_F(HostileChannel, AFloodOfCallsIsBounded) {
     Parcel none;
     ASSERT_EQ(NO_ERROR, mDesk.binder()->transact(Desk::PASS, none, nullptr, IBinder::FLAG_ONEWAY));
     ASSERT_TRUE(eventually([this] { return mDesk.inside() == 1; }));
-    Parcel parcel;
-    parcel.writeInt32(3);
-    const Content note{{}, Bytes(parcel.data(), parcel.data() + parcel.dataSize())};
-    for (int i = 0; i < 10000; i++) EXPECT_TRUE(channel.send(transaction(Desk::NOTE, 0), note));
+    for (int i = 0; i < 10000; i++) EXPECT_TRUE(channel.send(transaction(Desk::NOTE, 0), note(3)));
     EXPECT_TRUE(eventually([this] { return mDesk.counts().waiting == 4096; }));
     EXPECT_EQ(NO_ERROR, mDesk.note(-1));
     EXPECT_EQ(static_cast<uint32_t>(Failure::OVERLOADED),
