@@ -230,11 +230,13 @@ TEST(HwTarnProxy, AnswersTheBaseInterface) {
                           }).isOk());
         EXPECT_EQ(name, kHwTarnToken);
         EXPECT_TRUE(target->ping().isOk());
-        int32_t pid = 0;
-        EXPECT_TRUE(target->getDebugInfo([&pid](const IBase::DebugInfo& info) {
-                              pid = info.pid;
+        IBase::DebugInfo debug;
+        EXPECT_TRUE(target->getDebugInfo([&debug](const IBase::DebugInfo& info) {
+                              debug = info;
                           }).isOk());
-        EXPECT_EQ(pid, getpid());
+        EXPECT_EQ(debug.pid, getpid());
+        EXPECT_EQ(debug.arch, sizeof(void*) == 8 ? IBase::DebugInfo::Architecture::IS_64BIT
+                                                 : IBase::DebugInfo::Architecture::IS_32BIT);
     }
 }
 

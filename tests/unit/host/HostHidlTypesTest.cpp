@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cstdint>
+#include <list>
 #include <string>
 #include <utility>
 #include <vector>
@@ -106,6 +107,12 @@ TEST(HidlVec, ResizesAndKeepsWhatFits) {
     EXPECT_EQ(numbers, (hidl_vec<int>{1, 2}));
     numbers.resize(0);
     EXPECT_EQ(numbers.begin(), numbers.end());
+}
+
+TEST(HidlVec, CopiesARange) {
+    const std::list<int> range = {4, 5, 6};
+    const hidl_vec<int> numbers(range.begin(), range.end());
+    EXPECT_EQ(numbers, (hidl_vec<int>{4, 5, 6}));
 }
 
 TEST(HidlVec, BorrowsOrOwnsExternalElements) {

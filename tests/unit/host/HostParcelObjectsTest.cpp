@@ -64,6 +64,16 @@ TEST(HostParcel, DropsBindersThatAShrunkSizeOrNewDataCutsOff) {
     EXPECT_EQ(0u, parcel.objectsCount());
 }
 
+TEST(HostParcel, KeepsABinderThatEndsWithItsData) {
+    Parcel parcel;
+    parcel.writeStrongBinder(new CountedBinder);
+    ASSERT_EQ(NO_ERROR, parcel.setDataSize(28));
+    EXPECT_EQ(1u, parcel.objectsCount());
+    ASSERT_EQ(NO_ERROR, parcel.setDataSize(27));
+    EXPECT_EQ(0u, parcel.objectsCount());
+    EXPECT_EQ(0, CountedBinder::sAlive);
+}
+
 TEST(HostParcel, AppendFromCopiesReferences) {
     Parcel target;
     {

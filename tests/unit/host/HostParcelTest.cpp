@@ -7,6 +7,7 @@
 #include <utils/String8.h>
 
 #include <cstring>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <string>
@@ -30,6 +31,31 @@ class StringOutput : public TextOutput {
 
     std::string text;
 };
+
+std::string printed(const std::function<void()>& print) {
+    ::testing::internal::CaptureStdout();
+    print();
+    return ::testing::internal::GetCapturedStdout();
+}
+
+TEST(HostTextOutput, KeepsABundleTogether) {
+    EXPECT_EQ("", printed([] {
+                  aout.pushBundle();
+                  aout.print("a", 1);
+                  aout.pushBundle();
+                  aout.popBundle();
+              }));
+    EXPECT_EQ("a", printed([] { aout.popBundle(); }));
+}
+
+TEST(HostTextOutput, IndentsWholeLines) {
+    EXPECT_EQ("  x\n  y\nz\n", printed([] {
+                  aout.moveIndent(1);
+                  aout.print("x\ny\n", 4);
+                  aout.moveIndent(-2);
+                  aout.print("z\n", 2);
+              }));
+}
 
 TEST(HostParcel, RefusesAbsurdSizesAndStaysAsItWas) {
     const size_t absurd = static_cast<size_t>(INT32_MAX) + 1;

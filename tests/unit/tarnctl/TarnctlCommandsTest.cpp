@@ -765,6 +765,14 @@ TEST_F(Tarnctl, SaysHowItIsUsed) {
           "--timeout SECONDS", "exit codes:", "--json[=short|pretty]"}) {
         EXPECT_THAT(help.out, HasSubstr(word));
     }
+    size_t last = 0;
+    for (const std::string verb : {"list", "describe", "call", "get", "set", "raw", "monitor",
+                                   "batch", "status", "board", "help"}) {
+        const size_t place = help.out.find("\n  " + verb + ' ');
+        ASSERT_NE(place, std::string::npos) << verb;
+        EXPECT_LT(last, place) << verb;
+        last = place;
+    }
     EXPECT_EQ(run({"help"}).out, help.out);
     EXPECT_THAT(run({"monitor", "-h"}).out,
                 AllOf(testing::StartsWith("usage: tarnctl monitor"), HasSubstr("--count N")));
