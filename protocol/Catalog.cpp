@@ -34,6 +34,7 @@ std::vector<std::string> readControllers() {
 
 std::vector<const Command*> sortByName() {
     std::vector<const Command*> rows;
+    rows.reserve(kRows.size());
     for (const Command& row : kRows) rows.push_back(&row);
     std::sort(rows.begin(), rows.end(), [](const Command* left, const Command* right) {
         return strcmp(left->name, right->name) < 0;
