@@ -67,9 +67,9 @@ TEST(HostParcel, DropsBindersThatAShrunkSizeOrNewDataCutsOff) {
 TEST(HostParcel, KeepsABinderThatEndsWithItsData) {
     Parcel parcel;
     parcel.writeStrongBinder(new CountedBinder);
-    ASSERT_EQ(NO_ERROR, parcel.setDataSize(28));
+    ASSERT_EQ(NO_ERROR, parcel.setDataSize(24));
     EXPECT_EQ(1u, parcel.objectsCount());
-    ASSERT_EQ(NO_ERROR, parcel.setDataSize(27));
+    ASSERT_EQ(NO_ERROR, parcel.setDataSize(23));
     EXPECT_EQ(0u, parcel.objectsCount());
     EXPECT_EQ(0, CountedBinder::sAlive);
 }
