@@ -410,7 +410,7 @@ TEST(TarnClientLooper, FailsWithoutAThread) {
     pthread_attr_t unaffordable;
     ASSERT_EQ(pthread_getattr_default_np(&before), 0);
     ASSERT_EQ(pthread_getattr_default_np(&unaffordable), 0);
-    ASSERT_EQ(pthread_attr_setstacksize(&unaffordable, SIZE_MAX / 2 & ~size_t{0xffff}), 0);
+    ASSERT_EQ(pthread_attr_setstacksize(&unaffordable, SIZE_MAX - (size_t{16} << 20) + 1), 0);
     ASSERT_EQ(pthread_setattr_default_np(&unaffordable), 0);
     const sp<TarnClientLooper> looper = new TarnClientLooper;
     auto& [deliveries, targets] = KeptTargets<1>::make();
