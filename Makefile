@@ -49,12 +49,12 @@ coverage:
 # What a command costs; BENCH holds measures and options of scripts/bench.
 BENCH ?=
 bench:
-	$(call build,bench_programs,packages.txt packages-bench.txt)
+	$(call build,bench_programs,packages.txt packages-test.txt packages-bench.txt)
 	@scripts/bench $(BUILD) $(BENCH)
 
 # The same of revision REV, beside this tree's.
 bench-compare:
-	$(call build,bench_programs,packages.txt packages-bench.txt)
+	$(call build,bench_programs,packages.txt packages-test.txt packages-bench.txt)
 	@scripts/bench-compare $(REV) $(BUILD) $(BENCH)
 
 build:

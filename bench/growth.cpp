@@ -17,6 +17,7 @@
 #include <string>
 #include <vector>
 
+#include "EchoService.h"
 #include "core/HwTarnClient.h"
 #include "simulator/EmbeddedBoard.h"
 
@@ -31,20 +32,10 @@ using android::hardware::hidl_string;
 using android::hardware::hidl_vec;
 using android::hardware::Return;
 using android::hardware::Void;
+using tarn::bench::EchoService;
 using tarn::simulator::EmbeddedBoard;
 using vendor::zunt::hwtarn::V1_0::IHwTarn;
 using vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
-
-// Answers every command with its own bytes.
-class EchoService : public IHwTarn {
-  public:
-    Return<void> hwRegisterCallback(const sp<IHwTarnCallback>&, int32_t) override { return Void(); }
-    Return<void> hwInvoke(const hidl_string& request, hwInvoke_cb _hidl_cb) override {
-        _hidl_cb(request);
-        return Void();
-    }
-    Return<void> hwPostEvent(int32_t, const hidl_string&) override { return Void(); }
-};
 
 void requestBytes(benchmark::State& state) {
     const sp<EchoService> service = new EchoService;

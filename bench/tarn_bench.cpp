@@ -21,6 +21,8 @@
 #include <thread>
 #include <vector>
 
+#include "EchoService.h"
+
 extern char** environ;
 
 namespace {
@@ -32,12 +34,8 @@ using android::sp;
 using android::status_t;
 using android::String16;
 using android::TarnManager;
-using android::hardware::hidl_string;
-using android::hardware::Return;
-using android::hardware::Void;
 using std::chrono::steady_clock;
-using vendor::zunt::hwtarn::V1_0::IHwTarn;
-using vendor::zunt::hwtarn::V1_0::IHwTarnCallback;
+using tarn::bench::EchoService;
 
 constexpr char kBareName[] = "tarn.bench";
 constexpr char kBarePath[] = "/tarn/bench";
@@ -47,17 +45,6 @@ constexpr char kCounterName[] = "tarn.bench.counter";
 constexpr char kInner[] = "--on-this-bus";
 constexpr char kServe[] = "--serve";
 constexpr char kJson[] = "--json";
-
-// Answers a command with its own bytes: the code comes back as the status.
-class EchoBoard : public IHwTarn {
-  public:
-    Return<void> hwRegisterCallback(const sp<IHwTarnCallback>&, int32_t) override { return Void(); }
-    Return<void> hwInvoke(const hidl_string& request, hwInvoke_cb _hidl_cb) override {
-        _hidl_cb(request);
-        return Void();
-    }
-    Return<void> hwPostEvent(int32_t, const hidl_string&) override { return Void(); }
-};
 
 // Counts one-way calls.
 class Counter : public android::BBinder {
@@ -81,7 +68,7 @@ class Counter : public android::BBinder {
 };
 
 int serve() {
-    const sp<EchoBoard> board = new EchoBoard;
+    const sp<EchoService> board = new EchoService;
     if (board->registerAsService() != android::OK) return 1;
     android::ProcessState::self()->startThreadPool();
     android::defaultServiceManager()->addService(String16(kCounterName), new Counter);
